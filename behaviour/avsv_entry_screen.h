@@ -1,0 +1,99 @@
+#pragma once
+
+#include "behaviour/avsv_modules.h"
+#include "behaviour/avsv_stores.h"
+#include "controls/control_array.h"
+#include "controls/list_controls.h"
+#include "controls/screen.h"
+#include "controls/text_box.h"
+#include "masterdata/pupil_list.h"
+
+namespace zeugnis {
+
+/// The screen on which the texts on work and social behaviour are written, pupil by pupil.
+class GsArbeitsverhalten : public Screen {
+  public:
+    explicit GsArbeitsverhalten(Programm& programm);
+    void load() override;
+
+    void Combo1_Click();
+    void Command1_Click() { BereichWaehlen(Abschnitt::AV); }
+    void Command2_Click() { BereichWaehlen(Abschnitt::SV); }
+    void Command3_Click(int Index);
+    void Command4_Click();
+    void Command5_Click();
+    void Command6_Click();
+    void Command7_Click(int Index);
+    void Command8_Click();
+    void Option1_Click(int Index);
+    void Text1_Click(int Index);
+    void Text1_DblClick(int Index);
+    void Text1_Change(int Index);
+    void Text1_LostFocus(int Index);
+
+    Namensliste Liste;
+    Schuelertabelle<Text> Bildname;
+    AVSVSpeicher Speicher;
+    Bausteine BausteineAV;
+    Bausteine BausteineSV;
+
+    Abschnitt Bereich = Abschnitt::Keiner;
+    int Schueler = 0;
+    int Kategorie = 0;
+    int Zeile = 0;
+    bool Gespeichert = false;
+
+    Label Label1{*this, u"Label1"};
+    Label Label2{*this, u"Label2"};
+    ComboBox Combo1{*this, u"Combo1"};
+    Label Label3{*this, u"Label3"};
+    PictureBox Picture1{*this, u"Picture1"};
+    PictureBox Picture4{*this, u"Picture4"};
+    Button Command1{*this, u"Command1"};
+    Button Command2{*this, u"Command2"};
+    ControlArray<Button> Command3{*this, u"Command3", 0, KategorienHoechstens - 1};
+    Frame Frame1{*this, u"Frame1"};
+    ControlArray<OptionButton> Option1{*this, u"Option1", 0, 9, &Frame1};
+    ControlArray<TextBox> Text1{*this, u"Text1", 0, 1};
+    Button Command4{*this, u"Command4"};
+    Button Command5{*this, u"Command5"};
+    Button Command6{*this, u"Command6"};
+    ControlArray<Button> Command7{*this, u"Command7", 0, 1};
+    Button Command8{*this, u"Command8"};
+
+  private:
+    void EntwurfSetzen();
+    void HandlerVerbinden();
+
+    void NamenEintragen();
+    void SpeicherEinlesen();
+    void NamenlisteAbweichend();
+    void AllesSchreiben();
+    void BildnamenBilden();
+    void BildZeigen();
+
+    void BereichWaehlen(Abschnitt abschnitt);
+    void ZeilenZeigen();
+    void ZeilenFarben();
+    void KategorieTastenGrau();
+    void KategorieTastenZurueck();
+    void KategorieTasteFaerben();
+    void ZeileAbwaehlen();
+    void WahlMerken();
+    void TextBilden();
+    void TextErsetzen();
+    void SchuelerLeeren(Abschnitt abschnitt);
+    void SperrenErmitteln();
+    void SperreZeigen();
+
+    [[nodiscard]] const Bausteine& bausteine() const {
+        return Bereich == Abschnitt::SV ? BausteineSV : BausteineAV;
+    }
+    [[nodiscard]] Abschnittsspeicher& speicher() { return Speicher.von(Bereich); }
+    [[nodiscard]] TextBox& textfeld(Abschnitt abschnitt) const {
+        return Text1(abschnitt == Abschnitt::AV ? 0 : 1);
+    }
+    [[nodiscard]] Text ersetzt(const Text& text) const;
+};
+
+} // namespace zeugnis

@@ -1,0 +1,24 @@
+#include "platform/plain_machine.h"
+
+#include <array>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+
+namespace zeugnis {
+
+Text SystemCalendar::today() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    std::array<char, 16> date{};
+    const size_t length = std::strftime(date.data(), date.size(), "%d.%m.%Y", &local);
+    return {date.data(), date.data() + length};
+}
+
+bool JpegMarkPictures::canShow(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return stream.get() == 0xFF && stream.get() == 0xD8;
+}
+
+} // namespace zeugnis

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/working_directory.h"
+
+#include <string>
+
+namespace zeugnis {
+
+/// The bytes of a file. Fails with file-not-found, path-not-found or access-denied.
+std::string readWholeFile(const Arbeitsverzeichnis& directory, TextView name);
+
+/// Puts `bytes` in place of the file's content, in one go and without a temporary file. If the
+/// write fails the former content is put back as far as possible; the failure is then disk-full
+/// or access-denied.
+void writeWholeFile(const Arbeitsverzeichnis& directory, TextView name, std::string_view bytes);
+
+/// Copies a file over another. Fails as the two operations above.
+void copyWholeFile(const Arbeitsverzeichnis& directory, TextView from, TextView to);
+
+} // namespace zeugnis

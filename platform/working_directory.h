@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <filesystem>
+
+namespace zeugnis {
+
+/// The program's working directory, as a value: the process itself never changes its own.
+/// Names are relative, may use "\" or "/", and resolve without regard to case.
+class Arbeitsverzeichnis {
+  public:
+    /// Starts in the program folder, which must exist.
+    explicit Arbeitsverzeichnis(const std::filesystem::path& programFolder);
+
+    /// Fails with path-not-found if the folder does not exist, and then stays where it was.
+    /// "..\" always leads to the folder above.
+    void wechseln(TextView folder);
+
+    /// The path behind a name. An existing file is found in any case; a new one gets the name as
+    /// it is written. Fails with path-not-found if a folder on the way does not exist.
+    [[nodiscard]] std::filesystem::path pfad(TextView name) const;
+
+    /// A name as it is shown in a message: with its folder, relative to the program folder.
+    [[nodiscard]] Text anzeigename(TextView name) const;
+
+    [[nodiscard]] const std::filesystem::path& aktuell() const { return m_current; }
+    [[nodiscard]] const std::filesystem::path& programmordner() const { return m_base; }
+
+  private:
+    std::filesystem::path m_base;
+    std::filesystem::path m_current;
+};
+
+/// Into a folder, work there, and back with "..\" at the end of the block.
+class Ordnerwechsel {
+  public:
+    Ordnerwechsel(Arbeitsverzeichnis& directory, TextView folder) : m_directory(directory) {
+        m_directory.wechseln(folder);
+    }
+    ~Ordnerwechsel() { m_directory.wechseln(u"..\\"); }
+    Ordnerwechsel(const Ordnerwechsel&) = delete;
+    Ordnerwechsel& operator=(const Ordnerwechsel&) = delete;
+
+  private:
+    Arbeitsverzeichnis& m_directory;
+};
+
+} // namespace zeugnis

@@ -1,0 +1,63 @@
+#include "program/all_screens.h"
+
+#include "behaviour/avsv_entry_screen.h"
+#include "controls/program.h"
+#include "program/unfinished_screen.h"
+#include "review/insertion_window.h"
+#include "shell/lists.h"
+#include "shell/screen_names.h"
+#include "shell/start_page.h"
+
+#include <array>
+
+namespace zeugnis {
+namespace {
+
+using Erzeuger = std::unique_ptr<Screen> (*)(Programm&, TextView);
+
+template <typename S>
+std::unique_ptr<Screen> neu(Programm& programm, TextView) {
+    return std::make_unique<S>(programm);
+}
+
+std::unique_ptr<Screen> nochOhneInhalt(Programm& programm, TextView name) {
+    return std::make_unique<UnfinishedScreen>(programm, name);
+}
+
+struct Eintrag {
+    TextView Name;
+    Erzeuger Neu;
+};
+constexpr std::array<Eintrag, 11> Verzeichnis = {{
+    {bildschirme::GsStart, neu<GsStart>},
+    {bildschirme::GsBasis, nochOhneInhalt},
+    {bildschirme::GsArbeitsverhalten, neu<GsArbeitsverhalten>},
+    {bildschirme::GSAVSVAenderung, nochOhneInhalt},
+    {bildschirme::Kompetenzen, nochOhneInhalt},
+    {bildschirme::GSAGFI, nochOhneInhalt},
+    {bildschirme::GSAenderung12, nochOhneInhalt},
+    {bildschirme::GSAenderung34, nochOhneInhalt},
+    {bildschirme::GsAnzeige, nochOhneInhalt},
+    {bildschirme::Einfuegungen, neu<Einfuegungen>},
+    {bildschirme::Listen, neu<Listen>},
+}};
+
+constexpr auto Namen = [] {
+    std::array<TextView, Verzeichnis.size()> namen;
+    for (size_t i = 0; i < namen.size(); ++i)
+        namen.at(i) = Verzeichnis.at(i).Name;
+    return namen;
+}();
+
+} // namespace
+
+std::span<const TextView> AlleBildschirme() { return Namen; }
+
+void BildschirmeAnmelden(Programm& programm) {
+    for (const Eintrag& eintrag : Verzeichnis)
+        programm.registerScreen(eintrag.Name, [eintrag](Programm& laufendes) {
+            return eintrag.Neu(laufendes, eintrag.Name);
+        });
+}
+
+} // namespace zeugnis
