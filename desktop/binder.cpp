@@ -1,0 +1,270 @@
+#include "desktop/binder.h"
+
+#include "controls/list_controls.h"
+#include "controls/screen.h"
+#include "controls/text_box.h"
+#include "controls/user_actions.h"
+#include "desktop/picture_view.h"
+#include "desktop/qt_text.h"
+#include "desktop/text_editor.h"
+#include "desktop/theme.h"
+#include "desktop/window_host.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QFrame>
+#include <QLabel>
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QTimer>
+
+namespace zeugnis {
+namespace {
+
+QString withMnemonic(TextView caption, QChar mnemonic) {
+    QString text = qString(caption).replace(u'&', QStringLiteral("&&"));
+    if (mnemonic.isNull())
+        return text;
+    const qsizetype at = text.indexOf(mnemonic, 0, Qt::CaseInsensitive);
+    return at < 0 ? text : text.insert(at, u'&');
+}
+
+template <typename Widget>
+void setTextIfNew(Widget& widget, const QString& text) {
+    if (widget.text() != text)
+        widget.setText(text);
+}
+
+// Entries may end with line ends that a list has no use for.
+QStringList shownEntries(const ListControl& list) {
+    QStringList entries;
+    for (const Text& entry : list.entries())
+        entries << qString(entry).remove(u'\r').remove(u'\n');
+    return entries;
+}
+
+// A style sheet rules the editor's border, so the ground behind its text has to be told there too.
+void tint(QPlainTextEdit& editor, const QColor& colour) {
+    const QString sheet = QStringLiteral("QPlainTextEdit { background: %1 }").arg(colour.name());
+    if (editor.styleSheet() != sheet)
+        editor.setStyleSheet(sheet);
+}
+
+} // namespace
+
+Binder::Binder(WindowHost& host, QWidget& window) : m_host(host), m_window(window) {}
+
+void Binder::add(Control& control, QWidget& widget, std::function<void()> refresh) {
+    m_widgets[&control] = &widget;
+    m_controls[&widget] = &control;
+    widget.installEventFilter(this);
+    m_refreshes.push_back([&control, &widget, show = std::move(refresh)] {
+        show();
+        widget.setEnabled(control.Enabled);
+        // A widget without a parent would become a window of its own.
+        if (widget.parentWidget() != nullptr)
+            widget.setVisible(control.Visible);
+        if (!control.ToolTip.empty() || widget.property("toolTipIsControls").toBool()) {
+            widget.setToolTip(qString(control.ToolTip));
+            widget.setProperty("toolTipIsControls", true);
+        }
+    });
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn)
+        if (const auto found = m_controls.find(watched); found != m_controls.end())
+            m_host.focusArrived(*found->second);
+    return QObject::eventFilter(watched, event);
+}
+
+void Binder::forwardClicks(Control& control, QAbstractButton& widget) {
+    connect(&widget, &QAbstractButton::clicked, this,
+            [this, &control] { m_host.run([&] { user::click(control); }); });
+}
+
+TintedButton* Binder::button(Button& control, QChar mnemonic, TintedButton::Role role) {
+    auto* widget = new TintedButton(role, &m_window);
+    forwardClicks(control, *widget);
+    add(control, *widget, [&control, widget, mnemonic] {
+        setTextIfNew(*widget, withMnemonic(control.Caption, mnemonic));
+        widget->setTint(theme::fromFarbwert(control.BackColor, QColor()));
+    });
+    return widget;
+}
+
+TintedButton* Binder::signButton(Button& control, const QString& sign, const QString& name,
+                                 const QKeySequence& key) {
+    auto* widget = new TintedButton(TintedButton::Role::Round, &m_window);
+    widget->setText(sign);
+    widget->setAccessibleName(name);
+    widget->setToolTip(key.isEmpty() ? name
+                                     : name + QStringLiteral(" (%1)").arg(key.toString()));
+    widget->setShortcut(key);
+    forwardClicks(control, *widget);
+    add(control, *widget, [] {});
+    return widget;
+}
+
+QLabel* Binder::label(Label& control) {
+    auto* widget = new QLabel(&m_window);
+    widget->setTextFormat(Qt::PlainText);
+    widget->setWordWrap(true);
+    add(control, *widget, [&control, widget] {
+        setTextIfNew(*widget, qString(control.Caption).simplified());
+    });
+    return widget;
+}
+
+QFrame* Binder::frame(Frame& control) {
+    auto* widget = new QFrame(&m_window);
+    widget->setAutoFillBackground(true);
+    add(control, *widget, [&control, widget] {
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::Window, theme::fromFarbwert(control.BackColor, theme::Surface));
+        widget->setPalette(palette);
+        widget->setAccessibleName(qString(control.Caption));
+    });
+    return widget;
+}
+
+ChoiceRow* Binder::choice(Control& control, ChoiceRow::Mark mark,
+                          std::function<void(ChoiceRow&)> show) {
+    auto* widget = new ChoiceRow(mark, &m_window);
+    forwardClicks(control, *widget);
+    add(control, *widget, [&control, widget, values = std::move(show)] {
+        values(*widget);
+        widget->setTint(theme::fromFarbwert(control.BackColor, QColor()));
+    });
+    return widget;
+}
+
+ChoiceRow* Binder::option(OptionButton& control) {
+    return choice(control, ChoiceRow::Mark::Option, [&control](ChoiceRow& row) {
+        if (row.text() != qString(control.Caption)) {
+            row.setText(qString(control.Caption));
+            row.updateGeometry();
+        }
+        row.setChecked(control.value());
+    });
+}
+
+ChoiceRow* Binder::check(CheckBox& control) {
+    return choice(control, ChoiceRow::Mark::Check, [&control](ChoiceRow& row) {
+        if (row.text() != qString(control.Caption)) {
+            row.setText(qString(control.Caption));
+            row.updateGeometry();
+        }
+        row.setChecked(control.value());
+    });
+}
+
+TextEditor* Binder::text(TextBox& control, const QString& name) {
+    auto* widget = new TextEditor(control, m_host, &m_window);
+    widget->setAccessibleName(name);
+    add(control, *widget, [&control, widget] {
+        widget->refresh();
+        tint(*widget, theme::fromFarbwert(control.BackColor, theme::Surface));
+    });
+    return widget;
+}
+
+QComboBox* Binder::combo(ComboBox& control, const QString& name) {
+    auto* widget = new QComboBox(&m_window);
+    widget->setAccessibleName(name);
+    widget->setMaxVisibleItems(25);
+    connect(widget, &QComboBox::activated, this,
+            [this, &control](int index) { m_host.run([&] { user::pick(control, index); }); });
+    add(control, *widget, [&control, widget] {
+        const QSignalBlocker quiet(widget);
+        const QStringList entries = shownEntries(control);
+        if (widget->property("entries").toStringList() != entries) {
+            widget->clear();
+            widget->addItems(entries);
+            widget->setProperty("entries", entries);
+        }
+        widget->setCurrentIndex(control.listIndex());
+        widget->setPlaceholderText(control.Inscription.empty() ? widget->accessibleName()
+                                                               : qString(control.Inscription));
+    });
+    return widget;
+}
+
+QListWidget* Binder::list(ListBox& control, const QString& name) {
+    auto* widget = new QListWidget(&m_window);
+    widget->setAccessibleName(name);
+    widget->setWordWrap(true);
+    widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const auto pick = [this, &control, widget] {
+        if (widget->currentRow() >= 0)
+            m_host.run([&] { user::pick(control, widget->currentRow()); });
+    };
+    connect(widget, &QListWidget::itemClicked, this, pick);
+    connect(widget, &QListWidget::itemActivated, this, pick);
+    add(control, *widget, [&control, widget] {
+        const QSignalBlocker quiet(widget);
+        const QStringList entries = shownEntries(control);
+        if (widget->property("entries").toStringList() != entries) {
+            widget->clear();
+            widget->addItems(entries);
+            widget->setProperty("entries", entries);
+        }
+        if (control.listIndex() >= 0)
+            widget->setCurrentRow(control.listIndex());
+        else
+            widget->clearSelection();
+    });
+    return widget;
+}
+
+PictureView* Binder::picture(PictureBox& control, QSize preferred, const QString& name) {
+    auto* widget = new PictureView(preferred, &m_window);
+    widget->setAccessibleName(name);
+    connect(widget, &PictureView::clicked, this,
+            [this, &control] { m_host.run([&] { user::click(control); }); });
+    connect(widget, &PictureView::doubleClicked, this,
+            [this, &control] { m_host.run([&] { user::secondClick(control); }); });
+    add(control, *widget, [&control, widget, shown = 0]() mutable {
+        if (shown == control.loads())
+            return;
+        shown = control.loads();
+        widget->setPixmap(QPixmap(QString::fromStdString(control.file().string())));
+    });
+    return widget;
+}
+
+void Binder::timer(Timer& control) {
+    auto* widget = new QTimer(this);
+    connect(widget, &QTimer::timeout, this,
+            [this, &control] { m_host.run([&] { user::tick(control); }); });
+    m_refreshes.push_back([&control, widget] {
+        if (control.Enabled == widget->isActive())
+            return;
+        if (control.Enabled)
+            widget->start(control.Interval);
+        else
+            widget->stop();
+    });
+}
+
+void Binder::refresh() {
+    for (const auto& refresh : m_refreshes)
+        refresh();
+}
+
+QWidget* Binder::widgetOf(const Control& control) const {
+    const auto found = m_widgets.find(&control);
+    return found == m_widgets.end() ? nullptr : found->second;
+}
+
+void Binder::detach() {
+    for (const auto& [widget, control] : m_controls)
+        const_cast<QObject*>(widget)->removeEventFilter(this);
+    for (QTimer* timer : findChildren<QTimer*>())
+        timer->stop();
+    m_controls.clear();
+    m_widgets.clear();
+    m_refreshes.clear();
+}
+
+} // namespace zeugnis

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "desktop/choice_row.h"
+#include "desktop/tinted_button.h"
+
+#include <QKeySequence>
+#include <QObject>
+
+#include <functional>
+#include <map>
+#include <vector>
+
+class QComboBox;
+class QFrame;
+class QLabel;
+class QListWidget;
+
+namespace zeugnis {
+
+class Button;
+class CheckBox;
+class ComboBox;
+class Control;
+class Frame;
+class Label;
+class ListBox;
+class OptionButton;
+class PictureBox;
+class PictureView;
+class TextBox;
+class TextEditor;
+class Timer;
+class WindowHost;
+
+/// Makes the widget of a control and keeps both in step: what the user does goes to the control,
+/// what the control says is shown. It only forwards.
+class Binder : public QObject {
+    Q_OBJECT
+
+  public:
+    Binder(WindowHost& host, QWidget& window);
+
+    /// `mnemonic` is the letter of the inscription that Alt brings the button with.
+    TintedButton* button(Button& control, QChar mnemonic = {},
+                         TintedButton::Role role = TintedButton::Role::Normal);
+    /// A button whose picture is a sign; its name, tool tip and key are the view's.
+    TintedButton* signButton(Button& control, const QString& sign, const QString& name,
+                             const QKeySequence& key = {});
+    QLabel* label(Label& control);
+    QFrame* frame(Frame& control);
+    ChoiceRow* option(OptionButton& control);
+    ChoiceRow* check(CheckBox& control);
+    TextEditor* text(TextBox& control, const QString& name);
+    QComboBox* combo(ComboBox& control, const QString& name);
+    QListWidget* list(ListBox& control, const QString& name);
+    PictureView* picture(PictureBox& control, QSize preferred, const QString& name);
+    void timer(Timer& control);
+
+    /// Something of the view that follows a control and is no widget of it.
+    void follow(std::function<void()> refresh) { m_refreshes.push_back(std::move(refresh)); }
+
+    void refresh();
+    [[nodiscard]] QWidget* widgetOf(const Control& control) const;
+    /// Lets go of all controls: their screen is gone.
+    void detach();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void add(Control& control, QWidget& widget, std::function<void()> refresh);
+    void forwardClicks(Control& control, QAbstractButton& widget);
+    ChoiceRow* choice(Control& control, ChoiceRow::Mark mark, std::function<void(ChoiceRow&)> show);
+
+    WindowHost& m_host;
+    QWidget& m_window;
+    std::map<const Control*, QWidget*> m_widgets;
+    std::map<const QObject*, Control*> m_controls;
+    std::vector<std::function<void()>> m_refreshes;
+};
+
+} // namespace zeugnis

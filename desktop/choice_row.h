@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QAbstractButton>
+
+namespace zeugnis {
+
+/// An option or check box as a row: mark, coloured ground and an inscription that wraps.
+/// It shows a state and never changes it by itself.
+class ChoiceRow : public QAbstractButton {
+    Q_OBJECT
+
+  public:
+    enum class Mark { Option, Check };
+
+    explicit ChoiceRow(Mark mark, QWidget* parent = nullptr);
+
+    void setTint(const QColor& tint);
+    /// A key that is shown in front of the inscription, such as the number of a line.
+    void setKeyHint(const QString& hint);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void nextCheckState() override {}
+    void changeEvent(QEvent* event) override;
+
+  private:
+    [[nodiscard]] QRect textArea(int width, int height) const;
+    void paintMark(QPainter& painter, const QColor& ink) const;
+
+    Mark m_mark;
+    QColor m_tint;
+    QString m_keyHint;
+};
+
+} // namespace zeugnis

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "behaviour/avsv_entry_screen.h"
+#include "desktop/screen_window.h"
+
+class QBoxLayout;
+
+namespace zeugnis {
+
+class EntryViewAVSV : public ScreenWindow {
+  public:
+    EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidget* below);
+
+  private:
+    QBoxLayout* head();
+    QWidget* choices();
+    QBoxLayout* texts();
+    QBoxLayout* actions();
+    QWidget* lines(QWidget& area);
+
+    GsArbeitsverhalten& m_entry;
+};
+
+} // namespace zeugnis

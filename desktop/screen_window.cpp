@@ -1,0 +1,59 @@
+#include "desktop/screen_window.h"
+
+#include "controls/program.h"
+#include "controls/user_actions.h"
+#include "desktop/dialog_box.h"
+#include "desktop/qt_text.h"
+#include "desktop/window_host.h"
+
+#include <QCloseEvent>
+
+namespace zeugnis {
+
+ScreenWindow::ScreenWindow(Screen& screen, WindowHost& host, QWidget* below)
+    : QWidget(below, Qt::Window), m_screen(&screen), m_host(host), m_binder(host, *this) {
+    setWindowTitle(qString(screen.Title));
+}
+
+void ScreenWindow::refresh() {
+    m_binder.refresh();
+    const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    if (onTop != m_screen->AlwaysOnTop)
+        setWindowFlag(Qt::WindowStaysOnTopHint, m_screen->AlwaysOnTop);
+    if (isVisible() != m_screen->shown())
+        setVisible(m_screen->shown());
+    if (m_screen->shown() && m_raises != m_screen->raises()) {
+        m_raises = m_screen->raises();
+        raise();
+        activateWindow();
+    }
+}
+
+void ScreenWindow::showFocus(const Control& control) {
+    QWidget* widget = m_binder.widgetOf(control);
+    if (widget != nullptr && !widget->hasFocus() && widget->isEnabled() && isVisible())
+        widget->setFocus(Qt::OtherFocusReason);
+}
+
+void ScreenWindow::detach() {
+    m_screen = nullptr;
+    m_binder.detach();
+    hide();
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (m_screen != nullptr && closingConfirmed())
+        m_host.run([this] { user::close(*m_screen); });
+}
+
+bool ScreenWindow::closingConfirmed() {
+    if (m_lostByClosing.isEmpty())
+        return true;
+    DialogBox box(qString(Programmtitel), m_lostByClosing, this);
+    box.setSign(Symbol::Frage);
+    box.setButtons(Tasten::JaNein, Antwort::Nein);
+    return box.ask() == Antwort::Ja;
+}
+
+} // namespace zeugnis

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "desktop/binder.h"
+
+#include <QWidget>
+
+namespace zeugnis {
+
+class Screen;
+class WindowHost;
+
+/// The window of one screen: arranges the widgets that its binder makes. A view derives from it,
+/// builds its layout in the constructor and holds no logic.
+class ScreenWindow : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `below` is the window that this one stays above, or null.
+    ScreenWindow(Screen& screen, WindowHost& host, QWidget* below);
+
+    /// Shows what the screen's controls say.
+    void refresh();
+    /// Gives the keyboard to the control's widget, if it is not there already.
+    void showFocus(const Control& control);
+    /// Closes for good; the screen is gone.
+    void detach();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+    /// What is lost if the user closes the window by its close box; without a text nothing is.
+    void warnBeforeClosing(const QString& whatIsLost) { m_lostByClosing = whatIsLost; }
+
+    [[nodiscard]] Binder& bind() { return m_binder; }
+
+  private:
+    bool closingConfirmed();
+
+    Screen* m_screen;
+    WindowHost& m_host;
+    Binder m_binder;
+    QString m_lostByClosing;
+    int m_raises = 0;
+};
+
+} // namespace zeugnis

@@ -1,0 +1,127 @@
+#include "desktop/start_view.h"
+
+#include "desktop/picture_view.h"
+#include "desktop/theme.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace zeugnis {
+namespace {
+
+// The help documents 10 to 13.
+const char* const Overviews[] = {"Erste Schritte mit einer neuen Klasse",
+                                 "Texte schreiben und Platzhalter",
+                                 "Speichern und Sicherheitskopien", "Drucken"};
+
+} // namespace
+
+StartView::StartView(GsStart& screen, WindowHost& host, QWidget* below)
+    : ScreenWindow(screen, host, below), m_start(screen) {
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(0);
+    columns->addWidget(sidePanel());
+    columns->addLayout(mainArea(), 1);
+    bind().timer(screen.Timer1);
+    resize(1060, 700);
+}
+
+QWidget* StartView::sidePanel() {
+    auto* panel = new QWidget(this);
+    panel->setFixedWidth(312);
+    panel->setAutoFillBackground(true);
+    QPalette palette = panel->palette();
+    palette.setColor(QPalette::Window, QColor(0xE8, 0xEF, 0xEC));
+    panel->setPalette(palette);
+
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(24, 24, 24, 20);
+    layout->setSpacing(4);
+    layout->addWidget(bind().picture(m_start.Picture1, {264, 198}, tr("Turnstunde")));
+    layout->addSpacing(18);
+    for (int i = 0; i <= 2; ++i) {
+        QLabel* label = bind().label(m_start.Label1(i));
+        label->setFont(i == 0 ? theme::scaledFont(1.7, QFont::DemiBold) : theme::scaledFont(1.15));
+        layout->addWidget(label);
+    }
+    layout->addSpacing(18);
+    auto* teacher = new QHBoxLayout;
+    teacher->setSpacing(12);
+    teacher->addWidget(
+        bind().picture(m_start.Picture2, {84, 112}, tr("Bild der Klassenleitung")));
+    auto* names = new QVBoxLayout;
+    names->setSpacing(0);
+    names->addStretch();
+    names->addWidget(bind().label(m_start.Label4));
+    QLabel* teacherName = bind().label(m_start.Label5);
+    teacherName->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    names->addWidget(teacherName);
+    names->addStretch();
+    teacher->addLayout(names, 1);
+    layout->addLayout(teacher);
+    layout->addStretch();
+    QLabel* owner = bind().label(m_start.Label6);
+    owner->setFont(theme::scaledFont(0.9));
+    layout->addWidget(owner);
+    return panel;
+}
+
+QBoxLayout* StartView::mainArea() {
+    using Role = TintedButton::Role;
+    auto* layout = new QVBoxLayout;
+    layout->setContentsMargins(36, 24, 36, 20);
+    layout->setSpacing(8);
+    auto* head = new QHBoxLayout;
+    QLabel* question = bind().label(m_start.Label2);
+    question->setFont(theme::scaledFont(1.2, QFont::DemiBold));
+    head->addWidget(question, 1);
+    head->addStretch();
+    head->addWidget(bind().signButton(m_start.Command8, QStringLiteral("?"),
+                                      tr("Hilfe zur Startseite"), QKeySequence::HelpContents));
+    layout->addLayout(head);
+    layout->addSpacing(6);
+
+    constexpr QChar Mnemonics[] = {u'A', u'I', u'F', u'B', u'T', u'x', u'S', u'P'};
+    for (int i = 0; i <= 6; ++i) {
+        TintedButton* button = bind().button(m_start.Command1(i), Mnemonics[i], Role::Main);
+        if (i == 0)
+            button->setFocus();
+        layout->addWidget(button);
+    }
+    layout->addSpacing(10);
+    layout->addWidget(bind().button(m_start.Command4, u'Z', Role::Main));
+    layout->addWidget(bind().button(m_start.Command6, u'E', Role::Main));
+    layout->addWidget(bind().button(m_start.Command5, u'u', Role::Main));
+    layout->addWidget(bind().button(m_start.Command7, u'L', Role::Main));
+    layout->addSpacing(10);
+    layout->addStretch();
+    auto* last = new QHBoxLayout;
+    last->addWidget(bind().button(m_start.Command2, u'W', Role::Quiet));
+    last->addWidget(bind().button(m_start.Command3, u'k', Role::Normal));
+    last->addStretch();
+    last->addWidget(bind().button(m_start.Command1(7), u'P', Role::Normal));
+    layout->addLayout(last);
+    layout->addSpacing(4);
+    layout->addLayout(helpRow());
+    return layout;
+}
+
+QBoxLayout* StartView::helpRow() {
+    auto* row = new QHBoxLayout;
+    QLabel* mark = bind().label(m_start.Label3);
+    mark->setFont(theme::scaledFont(0.8));
+    row->addWidget(mark, 1);
+    row->addSpacing(16);
+    auto* caption = new QLabel(tr("Hilfe:"), this);
+    bind().follow([this, caption] { caption->setVisible(m_start.Command9(0).Visible); });
+    row->addWidget(caption);
+    for (int i = 0; i <= 3; ++i)
+        row->addWidget(bind().signButton(m_start.Command9(i), QString::number(i + 1),
+                                         tr("Hilfe: %1").arg(tr(Overviews[i]))));
+    return row;
+}
+
+} // namespace zeugnis

@@ -1,0 +1,158 @@
+#include "desktop/text_editor.h"
+
+#include "controls/user_actions.h"
+#include "desktop/qt_text.h"
+#include "desktop/text_line_ends.h"
+#include "desktop/window_host.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
+
+namespace zeugnis {
+namespace {
+
+constexpr char16_t Backspace = 8;
+constexpr char16_t Enter = 13;
+
+struct Difference {
+    int start;
+    int removed;
+    QString inserted;
+};
+
+Difference differenceBetween(const QString& from, const QString& to) {
+    const qsizetype shorter = std::min(from.size(), to.size());
+    qsizetype start = 0;
+    while (start < shorter && from[start] == to[start])
+        ++start;
+    qsizetype tail = 0;
+    while (tail < shorter - start && from[from.size() - 1 - tail] == to[to.size() - 1 - tail])
+        ++tail;
+    return {static_cast<int>(start), static_cast<int>(from.size() - start - tail),
+            to.mid(start, to.size() - start - tail)};
+}
+
+bool isTyped(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    const bool altGr = modifiers == (Qt::ControlModifier | Qt::AltModifier) ||
+                       modifiers == Qt::GroupSwitchModifier;
+    return !event.text().isEmpty() && event.text()[0].isPrint() &&
+           (modifiers == Qt::NoModifier || altGr);
+}
+
+} // namespace
+
+TextEditor::TextEditor(TextBox& box, WindowHost& host, QWidget* parent)
+    : QPlainTextEdit(parent), m_box(box), m_host(host) {
+    setTabChangesFocus(true);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(this, &QPlainTextEdit::textChanged, this, &TextEditor::takeNativeChange);
+}
+
+void TextEditor::refresh() {
+    setReadOnly(m_box.Locked);
+    const QString text = documentText(m_box.text());
+    if (text == toPlainText())
+        return;
+    const QScopedValueRollback refreshing(m_refreshing, true);
+    showText(text);
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(documentPosition(m_box.text(), m_box.selectionStart()));
+    cursor.setPosition(documentPosition(m_box.text(), m_box.selectionEnd()),
+                       QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void TextEditor::showText(const QString& text) {
+    if (m_ownAction)
+        replaceDifference(text);
+    else
+        setPlainText(text);
+}
+
+void TextEditor::replaceDifference(const QString& text) {
+    const Difference change = differenceBetween(toPlainText(), text);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    cursor.setPosition(change.start);
+    cursor.setPosition(change.start + change.removed, QTextCursor::KeepAnchor);
+    cursor.insertText(change.inserted);
+    cursor.endEditBlock();
+}
+
+void TextEditor::selectInBox() {
+    const QTextCursor cursor = textCursor();
+    m_box.select(boxPosition(m_box.text(), cursor.selectionStart()),
+                 boxPosition(m_box.text(), cursor.selectionEnd()));
+}
+
+void TextEditor::ownAction(const std::function<void()>& action) {
+    const QScopedValueRollback own(m_ownAction, true);
+    selectInBox();
+    m_host.run(action);
+}
+
+void TextEditor::keyPressEvent(QKeyEvent* event) {
+    const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    if (plain && event->key() == Qt::Key_Backspace)
+        ownAction([this] { user::key(m_box, Backspace); });
+    else if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        ownAction([this] { user::key(m_box, Enter); });
+    else if (isTyped(*event))
+        ownAction([this, text = fromQString(event->text())] { user::type(m_box, text); });
+    else
+        QPlainTextEdit::keyPressEvent(event);
+}
+
+// What an input method or a dead key has finished is typed; the rest is still being composed.
+void TextEditor::inputMethodEvent(QInputMethodEvent* event) {
+    const QString finished = event->commitString();
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    {
+        const QScopedValueRollback quiet(m_refreshing, true);
+        QPlainTextEdit::inputMethodEvent(&composing);
+    }
+    if (!finished.isEmpty())
+        ownAction([this, text = fromQString(finished)] { user::type(m_box, text); });
+    event->accept();
+}
+
+void TextEditor::insertFromMimeData(const QMimeData* source) {
+    if (source->hasText())
+        ownAction([this, text = fromQString(source->text())] { user::paste(m_box, text); });
+}
+
+void TextEditor::takeNativeChange() {
+    if (m_refreshing)
+        return;
+    const QString before = documentText(m_box.text());
+    const Difference change = differenceBetween(before, toPlainText());
+    if (change.removed == 0 && change.inserted.isEmpty())
+        return;
+    const QScopedValueRollback own(m_ownAction, true);
+    m_box.select(boxPosition(m_box.text(), change.start),
+                 boxPosition(m_box.text(), change.start + change.removed));
+    m_host.run([this, text = fromQString(change.inserted)] { user::paste(m_box, text); });
+}
+
+void TextEditor::mouseReleaseEvent(QMouseEvent* event) {
+    QPlainTextEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && !std::exchange(m_secondRelease, false))
+        ownAction([this] { user::click(m_box); });
+}
+
+void TextEditor::mouseDoubleClickEvent(QMouseEvent* event) {
+    QPlainTextEdit::mouseDoubleClickEvent(event);
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_secondRelease = true;
+    ownAction([this] { user::secondClick(m_box); });
+}
+
+} // namespace zeugnis

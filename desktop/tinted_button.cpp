@@ -1,0 +1,114 @@
+#include "desktop/tinted_button.h"
+
+#include "desktop/theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace zeugnis {
+namespace {
+
+constexpr int SidePadding = 12;
+constexpr int TopPadding = 6;
+constexpr int WidestLine = 420;
+
+} // namespace
+
+TintedButton::TintedButton(Role role, QWidget* parent) : QPushButton(parent), m_role(role) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::PointingHandCursor);
+    QSizePolicy policy(QSizePolicy::Preferred,
+                       role == Role::Round ? QSizePolicy::Fixed : QSizePolicy::Minimum);
+    policy.setHeightForWidth(hasHeightForWidth());
+    setSizePolicy(policy);
+    if (role == Role::Main)
+        setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    if (role == Role::Round)
+        setFont(theme::scaledFont(1.15, QFont::Bold));
+}
+
+void TintedButton::setTint(const QColor& tint) {
+    if (m_tint == tint)
+        return;
+    m_tint = tint;
+    update();
+}
+
+void TintedButton::setMarked(bool marked) {
+    if (m_marked == marked)
+        return;
+    m_marked = marked;
+    setFont(theme::scaledFont(1.0, marked ? QFont::Bold : QFont::Normal));
+}
+
+int TintedButton::textFlags() const {
+    const int align = m_role == Role::Main ? Qt::AlignLeft : Qt::AlignHCenter;
+    return align | static_cast<int>(Qt::AlignVCenter) | Qt::TextWordWrap | Qt::TextShowMnemonic;
+}
+
+int TintedButton::leastHeight() const {
+    const int lines = fontMetrics().height() + 2 * TopPadding;
+    return m_role == Role::Main ? lines + 8 : lines;
+}
+
+QRect TintedButton::textArea(const QRect& area) const {
+    return area.adjusted(SidePadding, TopPadding, -SidePadding, -TopPadding);
+}
+
+QSize TintedButton::sizeHint() const {
+    if (m_role == Role::Round)
+        return {leastHeight() + 2, leastHeight() + 2};
+    const QRect bounds = fontMetrics().boundingRect(QRect(0, 0, WidestLine, 1000), textFlags(), text());
+    return {bounds.width() + 2 * SidePadding + 4,
+            std::max(leastHeight(), bounds.height() + 2 * TopPadding)};
+}
+
+QSize TintedButton::minimumSizeHint() const {
+    return m_role == Role::Round ? sizeHint() : QSize(80, leastHeight());
+}
+
+int TintedButton::heightForWidth(int width) const {
+    const QRect bounds = fontMetrics().boundingRect(QRect(0, 0, width - 2 * SidePadding, 1000),
+                                                    textFlags(), text());
+    return std::max(leastHeight(), bounds.height() + 2 * TopPadding);
+}
+
+// Enter presses the button that has the focus, in a window as in a dialog.
+void TintedButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void TintedButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QColor fill = m_tint.isValid() ? m_tint : theme::Surface;
+    QColor ink = theme::inkOn(fill);
+    QColor outline = theme::OutlineStrong;
+    if (!isEnabled()) {
+        fill = m_tint.isValid() ? m_tint.lighter(104) : theme::Background;
+        fill.setAlpha(140);
+        ink = theme::InkDisabled;
+        outline = theme::Outline;
+    } else if (isDown()) {
+        fill = fill.darker(112);
+    } else if (underMouse()) {
+        fill = fill.darker(105);
+    }
+    if (m_role == Role::Quiet && !m_tint.isValid())
+        outline = theme::Outline;
+    theme::paintSurface(painter, rect(), fill, outline, hasFocus());
+    if (m_marked) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme::Ink);
+        painter.drawRoundedRect(QRectF(3, 6, 4, height() - 12), 2, 2);
+    }
+    painter.setPen(ink);
+    painter.drawText(m_role == Role::Round ? rect() : textArea(rect()), textFlags(), text());
+}
+
+} // namespace zeugnis

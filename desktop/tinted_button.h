@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QPushButton>
+
+namespace zeugnis {
+
+/// A push button that wears a colour, wraps long inscriptions, and grows with the font.
+class TintedButton : public QPushButton {
+    Q_OBJECT
+
+  public:
+    enum class Role { Normal, Main, Quiet, Round };
+
+    explicit TintedButton(Role role, QWidget* parent = nullptr);
+
+    void setTint(const QColor& tint);
+    /// Stands out among its like, as the one that is worked on.
+    void setMarked(bool marked);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return m_role != Role::Round; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    [[nodiscard]] int textFlags() const;
+    [[nodiscard]] int leastHeight() const;
+    [[nodiscard]] QRect textArea(const QRect& area) const;
+
+    Role m_role;
+    QColor m_tint;
+    bool m_marked = false;
+};
+
+} // namespace zeugnis

@@ -1,0 +1,35 @@
+#include "desktop/views.h"
+
+#include "desktop/entry_view_avsv.h"
+#include "desktop/insertion_view.h"
+#include "desktop/lists_view.h"
+#include "desktop/start_view.h"
+#include "desktop/unfinished_view.h"
+
+namespace zeugnis {
+namespace {
+
+// Makes a V if the screen is the one that V shows.
+template <typename V, typename S>
+ScreenWindow* makeFor(Screen& screen, WindowHost& host, QWidget* below) {
+    auto* typed = dynamic_cast<S*>(&screen);
+    return typed == nullptr ? nullptr : new V(*typed, host, below);
+}
+
+constexpr ScreenWindow* (*Makers[])(Screen&, WindowHost&, QWidget*) = {
+    makeFor<StartView, GsStart>,
+    makeFor<EntryViewAVSV, GsArbeitsverhalten>,
+    makeFor<InsertionView, Einfuegungen>,
+    makeFor<ListsView, Listen>,
+};
+
+} // namespace
+
+ScreenWindow* makeWindow(Screen& screen, WindowHost& host, QWidget* below) {
+    for (const auto make : Makers)
+        if (ScreenWindow* window = make(screen, host, below))
+            return window;
+    return new UnfinishedView(screen, host, below);
+}
+
+} // namespace zeugnis

@@ -1,0 +1,114 @@
+#include "desktop/window_host.h"
+
+#include "controls/user_actions.h"
+#include "desktop/dialog_box.h"
+#include "desktop/qt_text.h"
+#include "desktop/screen_window.h"
+#include "desktop/views.h"
+#include "platform/failure.h"
+
+#include <QApplication>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace zeugnis {
+
+WindowHost::WindowHost(Programm& program) : m_program(program) {
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            &WindowHost::leaveForOtherProgram);
+}
+
+WindowHost::~WindowHost() {
+    for (const auto& [screen, window] : m_windows)
+        delete window.data();
+}
+
+void WindowHost::run(const std::function<void()>& action) {
+    if (m_failed || m_program.ended())
+        return;
+    ++m_depth;
+    try {
+        const Programm::Task task(m_program);
+        action();
+        // Before the task ends, so that no window outlives its screen.
+        refresh();
+    } catch (const Laufzeitfehler& failure) {
+        reportFailure(failure.sentence());
+    }
+    --m_depth;
+    if (m_program.ended())
+        QCoreApplication::exit(0);
+}
+
+void WindowHost::refresh() {
+    if (m_refreshing || m_program.ended())
+        return;
+    const QScopedValueRollback refreshing(m_refreshing, true);
+    openAndCloseWindows();
+    for (const auto& [screen, window] : m_windows)
+        window->refresh();
+    followFocus();
+}
+
+void WindowHost::openAndCloseWindows() {
+    for (auto window = m_windows.begin(); window != m_windows.end();) {
+        const auto& loaded = m_program.screens();
+        if (std::find(loaded.begin(), loaded.end(), window->first) != loaded.end()) {
+            ++window;
+            continue;
+        }
+        // The action may come from a widget of this window, so it must live a little longer.
+        window->second->detach();
+        window->second->deleteLater();
+        window = m_windows.erase(window);
+    }
+    for (Screen* screen : m_program.screens()) {
+        if (!screen->shown() || m_windows.contains(screen))
+            continue;
+        const auto start = m_windows.find(m_program.startScreen());
+        QWidget* below = start == m_windows.end() ? nullptr : start->second.data();
+        m_windows.emplace(screen, makeWindow(*screen, *this, below));
+    }
+}
+
+void WindowHost::followFocus() {
+    const Control* focus = m_program.focus();
+    if (focus == nullptr)
+        return;
+    const auto window = m_windows.find(&focus->screen());
+    if (window != m_windows.end())
+        window->second->showFocus(*focus);
+}
+
+void WindowHost::focusArrived(Control& control) {
+    if (!m_refreshing && m_program.focus() != &control)
+        run([&] { user::focus(control); });
+}
+
+void WindowHost::leaveForOtherProgram(Qt::ApplicationState state) {
+    if (state == Qt::ApplicationInactive && m_program.focus() != nullptr && m_depth == 0)
+        run([this] { user::blur(m_program.focus()->screen()); });
+}
+
+QWidget* WindowHost::dialogParent() const {
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    const auto start = m_windows.find(m_program.startScreen());
+    return start == m_windows.end() ? nullptr : start->second.data();
+}
+
+void WindowHost::reportFailure(const Text& sentence) {
+    m_failed = true;
+    DialogBox box(qString(Programmtitel),
+                  qString(sentence) +
+                      QStringLiteral("\n\nDas Programm wird jetzt beendet. Alles, was bis hierher "
+                                     "gespeichert wurde, bleibt erhalten."),
+                  dialogParent());
+    box.setSign(Symbol::Stopp);
+    box.setButtons(Tasten::Ok, Antwort::Ok);
+    box.ask();
+    QCoreApplication::exit(1);
+}
+
+} // namespace zeugnis

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "controls/program.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+#include <map>
+
+namespace zeugnis {
+
+class ScreenWindow;
+
+/// Keeps the windows in step with the running program: every action of the user goes through
+/// run(), and afterwards each shown screen has a window that shows what its controls say.
+class WindowHost : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit WindowHost(Programm& program);
+    ~WindowHost() override;
+
+    /// Runs an action on the screens and brings the windows up to date. A run-time failure is
+    /// caught here and nowhere else: it is shown, and the program ends with exit code 1.
+    void run(const std::function<void()>& action);
+
+    /// Brings the windows up to date; for dialogs, which come up in the middle of an action.
+    void refresh();
+
+    /// The focus has come to a control's widget, as the user moved it.
+    void focusArrived(Control& control);
+
+    [[nodiscard]] Programm& program() { return m_program; }
+
+    /// The window that dialogs belong to, or null.
+    [[nodiscard]] QWidget* dialogParent() const;
+
+  private:
+    void openAndCloseWindows();
+    void followFocus();
+    void leaveForOtherProgram(Qt::ApplicationState state);
+    void reportFailure(const Text& sentence);
+
+    Programm& m_program;
+    // The window of the start page owns the others.
+    std::map<const Screen*, QPointer<ScreenWindow>> m_windows;
+    int m_depth = 0;
+    bool m_refreshing = false;
+    bool m_failed = false;
+};
+
+} // namespace zeugnis
