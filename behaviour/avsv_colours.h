@@ -10,9 +10,9 @@ inline const Tabelle<Farbwert, 11>& FarbtafelAVSV() {
     static const Tabelle<Farbwert, 11> Farbtafel = [] {
         Tabelle<Farbwert, 11> farben;
         int eintrag = 0;
-        for (const Farbwert farbe : {0xFFFFFFU, 0x80FF80U, 0xC0FFC0U, 0xC0E0FFU, 0xC0C0FFU,
-                                     0xC0C0C0U, 0x00FFFFU, 0x0000FFU, 0xC0FFFFU, 0xFFFFC0U,
-                                     0xC0FFFFU})
+        for (const Farbwert farbe :
+             {0xFFFFFFU, 0x80FF80U, 0xC0FFC0U, 0xC0E0FFU, 0xC0C0FFU, 0xC0C0C0U, 0x00FFFFU,
+              0x0000FFU, 0xC0FFFFU, 0xFFFFC0U, 0xC0FFFFU})
             farben[eintrag++] = farbe;
         return farben;
     }();

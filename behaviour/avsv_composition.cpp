@@ -7,13 +7,13 @@ namespace {
 
 // What stands in front of a part that is not empty.
 enum class Fuge {
-    Anfang,          ///< nothing
-    UndAber,         ///< joined to the first part; alone it opens with the first name
-    Pronomen,        ///< a new sentence about "Er" or "Sie"; alone it opens with the first name
-    PronomenDativ,   ///< the same, with "Ihm" or "Ihr" for the lines that are worded so
-    Satz,            ///< a new sentence that is complete
-    VornameSatz,     ///< a new sentence that begins with the first name
-    Absatz,          ///< a new line
+    Anfang,           ///< nothing
+    UndAber,          ///< joined to the first part; alone it opens with the first name
+    Pronomen,         ///< a new sentence about "Er" or "Sie"; alone it opens with the first name
+    PronomenDativ,    ///< the same, with "Ihm" or "Ihr" for the lines that are worded so
+    Satz,             ///< a new sentence that is complete
+    VornameSatz,      ///< a new sentence that begins with the first name
+    Absatz,           ///< a new line
     LeerzeichenAbsatz ///< a new line, with a blank before it
 };
 

@@ -2,8 +2,7 @@
 
 #include "behaviour/avsv_colours.h"
 #include "controls/program.h"
-#include "platform/failure.h"
-#include "shell/file_catalogue.h"
+#include "shell/entry_common.h"
 #include "shell/placeholders.h"
 #include "shell/screen_names.h"
 #include "shell/text_input.h"
@@ -69,12 +68,7 @@ void GsArbeitsverhalten::BildnamenBilden() {
 
 void GsArbeitsverhalten::BildZeigen() {
     Schueler = Combo1.listIndex();
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Bild);
-    try {
-        Picture1.load(Bildname[Schueler] + u".JPG");
-    } catch (const Laufzeitfehler&) {
-        Picture1.load(Text(dateien::Smili));
-    }
+    SchuelerBildLaden(Picture1, Bildname[Schueler] + u".JPG");
 }
 
 void GsArbeitsverhalten::Combo1_Click() {
@@ -173,8 +167,7 @@ void GsArbeitsverhalten::KategorieTastenZurueck() {
 
 void GsArbeitsverhalten::KategorieTasteFaerben() {
     const int wahl = speicher().Wahl[Schueler][Kategorie];
-    Command3(Kategorie).BackColor =
-        wahl > 0 ? Option1(wahl).BackColor : farbe(avsvfarben::Gelb);
+    Command3(Kategorie).BackColor = wahl > 0 ? Option1(wahl).BackColor : farbe(avsvfarben::Gelb);
 }
 
 void GsArbeitsverhalten::ZeileAbwaehlen() { Option1(Zeile).setValue(false); }
@@ -196,8 +189,8 @@ void GsArbeitsverhalten::WahlMerken() {
 void GsArbeitsverhalten::TextBilden() {
     const auto& kind = Liste.Kinder[Schueler];
     const auto satzBauen = Bereich == Abschnitt::AV ? AVSatzBauen : SVSatzBauen;
-    speicher().Texte[Schueler] = satzBauen(kind.Vorname, kind.Geschlecht,
-                                           speicher().Wahl[Schueler], bausteine().Zeilen);
+    speicher().Texte[Schueler] =
+        satzBauen(kind.Vorname, kind.Geschlecht, speicher().Wahl[Schueler], bausteine().Zeilen);
 }
 
 void GsArbeitsverhalten::TextErsetzen() {
@@ -238,9 +231,7 @@ void GsArbeitsverhalten::SperreZeigen() {
 }
 
 void GsArbeitsverhalten::Text1_Click(int) {
-    Command7(0).Enabled = !Command7(1).Enabled;
-    if (!Command7(1).Enabled)
-        Command7(0).BackColor = farbe(avsvfarben::Aktiv);
+    EinfuegungenAnbieten(einfuegetasten());
     ZeileAbwaehlen();
     KategorieTastenGrau();
     Command4.Enabled = true;
@@ -294,18 +285,12 @@ void GsArbeitsverhalten::Command6_Click() {
     setFocus(Option1(0));
 }
 
+Einfuegetasten GsArbeitsverhalten::einfuegetasten() const {
+    return {Command7, farbe(avsvfarben::Aktiv), farbe(avsvfarben::Neutral)};
+}
+
 void GsArbeitsverhalten::Command7_Click(int Index) {
-    const bool zeigen = Index == 0;
-    Command7(Index).BackColor = farbe(avsvfarben::Neutral);
-    Command7(Index).Enabled = false;
-    Command7(1 - Index).BackColor = farbe(avsvfarben::Aktiv);
-    Command7(1 - Index).Enabled = true;
-    if (zeigen) {
-        programm().zeigen(bildschirme::Einfuegungen);
-    } else {
-        programm().verbergen(bildschirme::Einfuegungen);
-        programm().machine().clipboard.clear();
-    }
+    EinfuegungenSchalten(programm(), einfuegetasten(), Index);
 }
 
 void GsArbeitsverhalten::Command8_Click() { WordStarten(programm(), word::Hilfe(2)); }

@@ -7,6 +7,7 @@
 #include "controls/screen.h"
 #include "controls/text_box.h"
 #include "masterdata/pupil_list.h"
+#include "shell/entry_common.h"
 
 namespace zeugnis {
 
@@ -28,7 +29,6 @@ class GsArbeitsverhalten : public Screen {
     void Option1_Click(int Index);
     void Text1_Click(int Index);
     void Text1_DblClick(int Index);
-    void Text1_Change(int Index);
     void Text1_LostFocus(int Index);
 
     Namensliste Liste;
@@ -94,6 +94,7 @@ class GsArbeitsverhalten : public Screen {
         return Text1(abschnitt == Abschnitt::AV ? 0 : 1);
     }
     [[nodiscard]] Text ersetzt(const Text& text) const;
+    [[nodiscard]] Einfuegetasten einfuegetasten() const;
 };
 
 } // namespace zeugnis

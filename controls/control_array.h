@@ -42,9 +42,8 @@ class ControlArray {
     template <typename S>
     void on(Handler Control::*event, S* screen, void (S::*handler)(int)) const {
         for (const auto& member : m_members)
-            (*member).*event = [screen, handler, index = *member->index()] {
-                (screen->*handler)(index);
-            };
+            (*member).*
+                event = [screen, handler, index = *member->index()] { (screen->*handler)(index); };
     }
 
   private:

@@ -1,6 +1,9 @@
 #include "controls/list_controls.h"
 
+#include "platform/code_page.h"
 #include "platform/failure.h"
+
+#include <algorithm>
 
 namespace zeugnis {
 
@@ -10,11 +13,13 @@ void ListControl::removeItem(int index) {
     check(index, 0);
     m_entries.erase(m_entries.begin() + index);
     m_listIndex = -1;
+    picked();
 }
 
 void ListControl::clear() {
     m_entries.clear();
     m_listIndex = -1;
+    picked();
 }
 
 void ListControl::setListIndex(int index) {
@@ -37,6 +42,22 @@ void ListControl::check(int index, int lowest) const {
                              u"In der Liste ist kein Eintrag ausgewählt (Eintrag " +
                                  textFromNumber(index) + u" von " +
                                  textFromNumber(static_cast<int>(m_entries.size())) + u").");
+}
+
+void SortedListBox::addItem(const Text& entry) {
+    const auto place = std::upper_bound(
+        m_entries.begin(), m_entries.end(), entry,
+        [this](const Text& left, const Text& right) { return m_order.before(left, right); });
+    m_entries.insert(place, entry);
+}
+
+void ComboBox::userType(TextView characters) {
+    for (const char16_t character : nearestInWindows1252(characters)) {
+        Inscription += character;
+        m_listIndex = -1;
+        if (onChange)
+            onChange();
+    }
 }
 
 void ComboBox::picked() {

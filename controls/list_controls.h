@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "platform/collation.h"
 
 #include <vector>
 
@@ -15,7 +16,7 @@ class ListControl : public Control {
     [[nodiscard]] const std::vector<Text>& entries() const { return m_entries; }
     [[nodiscard]] int listIndex() const { return m_listIndex; }
 
-    void addItem(const Text& entry);
+    virtual void addItem(const Text& entry);
 
     /// Fails with invalid-call if there is no such entry. The index becomes -1 silently.
     void removeItem(int index);
@@ -43,11 +44,27 @@ class ListBox : public ListControl {
     using ListControl::ListControl;
 };
 
+/// Sorts its entries as they arrive; equal ones keep the order in which they came.
+class SortedListBox : public ListBox {
+  public:
+    using ListBox::ListBox;
+    void addItem(const Text& entry) override;
+
+  private:
+    Collation m_order;
+};
+
 /// A combo shows the picked entry as its text, and before that the text it was designed with.
+/// A user may also type a text of his own behind it; no entry is picked then.
 class ComboBox : public ListControl {
   public:
     using ListControl::ListControl;
     Text Inscription;
+
+    /// Runs only for typed characters: a pick is a click.
+    Handler onChange;
+
+    void userType(TextView characters);
 
   protected:
     void picked() override;

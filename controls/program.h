@@ -42,7 +42,9 @@ class Programm {
     /// The loaded screens in the order in which they were loaded.
     [[nodiscard]] const std::vector<Screen*>& screens() const { return m_order; }
     /// The screen that the program was started with, or null before.
-    [[nodiscard]] Screen* startScreen() const { return m_order.empty() ? nullptr : m_order.front(); }
+    [[nodiscard]] Screen* startScreen() const {
+        return m_order.empty() ? nullptr : m_order.front();
+    }
     [[nodiscard]] bool ended() const { return m_ended; }
 
     [[nodiscard]] Arbeitsverzeichnis& verzeichnis() { return m_directory; }

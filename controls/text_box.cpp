@@ -3,6 +3,7 @@
 #include "platform/code_page.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zeugnis {
 namespace {
@@ -10,27 +11,13 @@ namespace {
 constexpr char16_t Backspace = 8;
 constexpr char16_t Enter = 13;
 
-// What enters a box has the box's line ends, whatever program it comes from.
-Text withLineEnds(TextView text) {
-    Text result;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == u'\r' || text[i] == u'\n') {
-            result += Zeilenende;
-            if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n')
-                ++i;
-        } else {
-            result += text[i];
-        }
-    }
-    return result;
-}
-
 } // namespace
 
 void TextBox::setText(const Text& text) {
-    if (m_text == text)
+    Text taken = nearestInWindows1252(text);
+    if (m_text == taken)
         return;
-    m_text = text;
+    m_text = std::move(taken);
     m_start = m_end = m_text.size();
     if (onChange)
         onChange();
@@ -71,7 +58,7 @@ void TextBox::userType(TextView characters) {
 
 void TextBox::userReplaceSelection(TextView text) {
     if (!Locked)
-        replace(m_start, m_end, withLineEnds(nearestInWindows1252(text)));
+        replace(m_start, m_end, withBoxLineEnds(nearestInWindows1252(text)));
 }
 
 void TextBox::replace(size_t start, size_t end, TextView text) {

@@ -12,7 +12,9 @@ class TextBox : public Control {
 
     [[nodiscard]] const Text& text() const { return m_text; }
 
-    /// From code: another text puts the caret at its end and runs the change handler at once.
+    /// From code: another text puts the caret at its end and runs the change handler at once. It
+    /// may come from the clipboard, so its characters take the form that the files can hold; line
+    /// ends stay as they are.
     void setText(const Text& text);
 
     [[nodiscard]] size_t selectionStart() const { return m_start; }

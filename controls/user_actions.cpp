@@ -87,11 +87,21 @@ bool type(TextBox& box, TextView characters) {
 }
 
 bool key(TextBox& box, char16_t key) {
-    return withFocus(box, [&] { box.userKey(key); });
+    // A character goes the way of typing, where it takes the form that the files can hold.
+    return withFocus(box, [&] {
+        if (key < u' ')
+            box.userKey(key);
+        else
+            box.userType(TextView(&key, 1));
+    });
 }
 
 bool paste(TextBox& box, TextView text) {
     return withFocus(box, [&] { box.userReplaceSelection(text); });
+}
+
+bool type(ComboBox& combo, TextView characters) {
+    return withFocus(combo, [&] { combo.userType(characters); });
 }
 
 bool tick(Timer& timer) {

@@ -4,6 +4,7 @@
 
 namespace zeugnis {
 
+class ComboBox;
 class Control;
 class ListControl;
 class Programm;
@@ -33,6 +34,9 @@ void blur(Screen& screen);
 bool type(TextBox& box, TextView characters);
 bool key(TextBox& box, char16_t key);
 bool paste(TextBox& box, TextView text);
+
+/// The same for the text of a combo.
+bool type(ComboBox& combo, TextView characters);
 
 /// Lets an enabled timer fire once.
 bool tick(Timer& timer);

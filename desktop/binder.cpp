@@ -43,6 +43,31 @@ QStringList shownEntries(const ListControl& list) {
     return entries;
 }
 
+// The ground of a label, as a rounded patch.
+void tint(QLabel& label, Farbwert colour) {
+    const QColor ground = theme::fromFarbwert(colour, QColor());
+    const QString sheet = ground.isValid()
+                              ? QStringLiteral("QLabel { background: %1; border-radius: %2px }"
+                                               "QLabel:disabled { background: %3 }")
+                                    .arg(ground.name())
+                                    .arg(theme::Radius)
+                                    .arg(ground.lighter(130).name())
+                              : QString();
+    if (label.styleSheet() != sheet)
+        label.setStyleSheet(sheet);
+}
+
+// As long as there are as many as before, each keeps its row: the list may be in the user's hand.
+void showEntries(QListWidget& list, const QStringList& entries) {
+    if (list.count() != entries.size()) {
+        list.clear();
+        list.addItems(entries);
+    }
+    for (int row = 0; row < list.count(); ++row)
+        if (list.item(row)->text() != entries[row])
+            list.item(row)->setText(entries[row]);
+}
+
 // A style sheet rules the editor's border, so the ground behind its text has to be told there too.
 void tint(QPlainTextEdit& editor, const QColor& colour) {
     const QString sheet = QStringLiteral("QPlainTextEdit { background: %1 }").arg(colour.name());
@@ -98,8 +123,7 @@ TintedButton* Binder::signButton(Button& control, const QString& sign, const QSt
     auto* widget = new TintedButton(TintedButton::Role::Round, &m_window);
     widget->setText(sign);
     widget->setAccessibleName(name);
-    widget->setToolTip(key.isEmpty() ? name
-                                     : name + QStringLiteral(" (%1)").arg(key.toString()));
+    widget->setToolTip(key.isEmpty() ? name : name + QStringLiteral(" (%1)").arg(key.toString()));
     widget->setShortcut(key);
     forwardClicks(control, *widget);
     add(control, *widget, [] {});
@@ -112,6 +136,7 @@ QLabel* Binder::label(Label& control) {
     widget->setWordWrap(true);
     add(control, *widget, [&control, widget] {
         setTextIfNew(*widget, qString(control.Caption).simplified());
+        tint(*widget, control.BackColor);
     });
     return widget;
 }
@@ -159,6 +184,14 @@ ChoiceRow* Binder::check(CheckBox& control) {
     });
 }
 
+ChoiceRow* Binder::pictureCheck(CheckBox& control, const QPixmap& picture, const QString& name) {
+    ChoiceRow* widget = check(control);
+    widget->setPicture(picture);
+    widget->setAccessibleName(name);
+    widget->setToolTip(name);
+    return widget;
+}
+
 TextEditor* Binder::text(TextBox& control, const QString& name) {
     auto* widget = new TextEditor(control, m_host, &m_window);
     widget->setAccessibleName(name);
@@ -166,6 +199,13 @@ TextEditor* Binder::text(TextBox& control, const QString& name) {
         widget->refresh();
         tint(*widget, theme::fromFarbwert(control.BackColor, theme::Surface));
     });
+    return widget;
+}
+
+TextEditor* Binder::line(TextBox& control, const QString& name) {
+    auto* widget = new TextEditor(control, m_host, &m_window, TextEditor::Lines::One);
+    widget->setAccessibleName(name);
+    add(control, *widget, [widget] { widget->refresh(); });
     return widget;
 }
 
@@ -191,9 +231,30 @@ QComboBox* Binder::combo(ComboBox& control, const QString& name) {
 }
 
 QListWidget* Binder::list(ListBox& control, const QString& name) {
+    QListWidget* widget = entries(control, name, [&control] { return shownEntries(control); });
+    widget->setWordWrap(true);
+    return widget;
+}
+
+QListWidget* Binder::wordedList(ListControl& control, const QString& name,
+                                std::function<QString(int)> word) {
+    QListWidget* widget = entries(control, name, [&control, word = std::move(word)] {
+        QStringList rows;
+        for (int i = 0; i < static_cast<int>(control.entries().size()); ++i)
+            rows << word(i);
+        return rows;
+    });
+    connect(widget, &QListWidget::currentRowChanged, this, [this, &control](int row) {
+        if (row >= 0)
+            m_host.run([&] { user::pick(control, row); });
+    });
+    return widget;
+}
+
+QListWidget* Binder::entries(ListControl& control, const QString& name,
+                             std::function<QStringList()> shown) {
     auto* widget = new QListWidget(&m_window);
     widget->setAccessibleName(name);
-    widget->setWordWrap(true);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const auto pick = [this, &control, widget] {
         if (widget->currentRow() >= 0)
@@ -201,14 +262,9 @@ QListWidget* Binder::list(ListBox& control, const QString& name) {
     };
     connect(widget, &QListWidget::itemClicked, this, pick);
     connect(widget, &QListWidget::itemActivated, this, pick);
-    add(control, *widget, [&control, widget] {
+    add(control, *widget, [&control, widget, rows = std::move(shown)] {
         const QSignalBlocker quiet(widget);
-        const QStringList entries = shownEntries(control);
-        if (widget->property("entries").toStringList() != entries) {
-            widget->clear();
-            widget->addItems(entries);
-            widget->setProperty("entries", entries);
-        }
+        showEntries(*widget, rows());
         if (control.listIndex() >= 0)
             widget->setCurrentRow(control.listIndex());
         else

@@ -24,6 +24,7 @@ class Control;
 class Frame;
 class Label;
 class ListBox;
+class ListControl;
 class OptionButton;
 class PictureBox;
 class PictureView;
@@ -50,9 +51,16 @@ class Binder : public QObject {
     QFrame* frame(Frame& control);
     ChoiceRow* option(OptionButton& control);
     ChoiceRow* check(CheckBox& control);
+    /// A check box that shows a picture; `name` says what it is of.
+    ChoiceRow* pictureCheck(CheckBox& control, const QPixmap& picture, const QString& name);
     TextEditor* text(TextBox& control, const QString& name);
+    /// A text box of one line. While it is locked it looks like a text on paper.
+    TextEditor* line(TextBox& control, const QString& name);
     QComboBox* combo(ComboBox& control, const QString& name);
     QListWidget* list(ListBox& control, const QString& name);
+    /// A list whose entries the view words, and that picks as the keyboard moves through it.
+    QListWidget* wordedList(ListControl& control, const QString& name,
+                            std::function<QString(int)> word);
     PictureView* picture(PictureBox& control, QSize preferred, const QString& name);
     void timer(Timer& control);
 
@@ -70,6 +78,8 @@ class Binder : public QObject {
   private:
     void add(Control& control, QWidget& widget, std::function<void()> refresh);
     void forwardClicks(Control& control, QAbstractButton& widget);
+    QListWidget* entries(ListControl& control, const QString& name,
+                         std::function<QStringList()> shown);
     ChoiceRow* choice(Control& control, ChoiceRow::Mark mark, std::function<void(ChoiceRow&)> show);
 
     WindowHost& m_host;

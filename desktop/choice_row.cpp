@@ -15,10 +15,13 @@ constexpr int MarkSize = 16;
 constexpr int Padding = 8;
 constexpr int HintWidth = 16;
 constexpr int TopPadding = 4;
+constexpr int CompactTopPadding = 1;
+constexpr int PictureSize = 56;
 
 } // namespace
 
-ChoiceRow::ChoiceRow(Mark mark, QWidget* parent) : QAbstractButton(parent), m_mark(mark) {
+ChoiceRow::ChoiceRow(Mark mark, QWidget* parent)
+    : QAbstractButton(parent), m_mark(mark), m_topPadding(TopPadding) {
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
@@ -39,26 +42,43 @@ void ChoiceRow::setKeyHint(const QString& hint) {
     updateGeometry();
 }
 
+void ChoiceRow::setPicture(const QPixmap& picture) {
+    m_picture = picture;
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    updateGeometry();
+}
+
+void ChoiceRow::setCompact() {
+    m_topPadding = CompactTopPadding;
+    updateGeometry();
+}
+
 QRect ChoiceRow::textArea(int width, int height) const {
     const int left = Padding + MarkSize + Padding + (m_keyHint.isEmpty() ? 0 : HintWidth);
-    return {left, TopPadding, width - left - Padding, height - 2 * TopPadding};
+    return {left, m_topPadding, width - left - Padding, height - 2 * m_topPadding};
 }
 
 int ChoiceRow::heightForWidth(int width) const {
+    if (!m_picture.isNull())
+        return PictureSize + 2 * m_topPadding;
     const QRect area = textArea(width, 1000);
     const int lines = fontMetrics()
-                         .boundingRect(QRect(0, 0, area.width(), 1000), Qt::TextWordWrap, text())
-                         .height();
-    return std::max(lines, fontMetrics().height()) + 2 * TopPadding + 2;
+                          .boundingRect(QRect(0, 0, area.width(), 1000), Qt::TextWordWrap, text())
+                          .height();
+    return std::max(lines, fontMetrics().height()) + 2 * m_topPadding + 2;
 }
 
 QSize ChoiceRow::sizeHint() const {
+    if (!m_picture.isNull())
+        return {textArea(0, 0).left() + PictureSize + Padding, heightForWidth(0)};
     const int width = fontMetrics().horizontalAdvance(text()) + textArea(0, 0).left() + 2 * Padding;
     return {std::min(width, 640), heightForWidth(std::min(width, 640))};
 }
 
 QSize ChoiceRow::minimumSizeHint() const {
-    return {160, fontMetrics().height() + 2 * TopPadding + 2};
+    if (!m_picture.isNull())
+        return sizeHint();
+    return {160, fontMetrics().height() + 2 * m_topPadding + 2};
 }
 
 void ChoiceRow::changeEvent(QEvent* event) {
@@ -90,17 +110,20 @@ void ChoiceRow::paintMark(QPainter& painter, const QColor& ink) const {
     }
 }
 
+// A picture has no ground that could tell the choice, so its outline does.
+QColor ChoiceRow::outlineOf(const QColor& fill) const {
+    if (isChecked() && (m_tint.isValid() || !m_picture.isNull()))
+        return theme::Ink;
+    return isEnabled() && underMouse() ? theme::OutlineStrong : fill;
+}
+
 void ChoiceRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor ink = isEnabled() ? theme::Ink : theme::InkDisabled;
     QColor fill = m_tint.isValid() ? m_tint : QColor(Qt::transparent);
     if (!isEnabled() && m_tint.isValid())
         fill.setAlpha(110);
-    const bool hovered = isEnabled() && underMouse();
-    const QColor outline = isChecked() && m_tint.isValid() ? theme::Ink
-                           : hovered                        ? theme::OutlineStrong
-                                                            : fill;
-    theme::paintSurface(painter, rect().adjusted(0, 1, 0, -1), fill, outline, hasFocus());
+    theme::paintSurface(painter, rect().adjusted(0, 1, 0, -1), fill, outlineOf(fill), hasFocus());
     paintMark(painter, ink);
     painter.setPen(isEnabled() ? theme::InkFaint : theme::InkDisabled);
     const QRect area = textArea(width(), height());
@@ -108,6 +131,12 @@ void ChoiceRow::paintEvent(QPaintEvent*) {
         painter.drawText(QRect(area.left() - HintWidth, area.top(), HintWidth, area.height()),
                          Qt::AlignVCenter | Qt::AlignLeft, m_keyHint);
     painter.setPen(ink);
+    if (!m_picture.isNull()) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setOpacity(isEnabled() ? 1.0 : 0.45);
+        painter.drawPixmap(QRect(area.topLeft(), QSize(PictureSize, PictureSize)), m_picture);
+        return;
+    }
     painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, text());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPixmap>
 
 namespace zeugnis {
 
@@ -17,6 +18,10 @@ class ChoiceRow : public QAbstractButton {
     void setTint(const QColor& tint);
     /// A key that is shown in front of the inscription, such as the number of a line.
     void setKeyHint(const QString& hint);
+    /// A picture in place of the inscription; the row then takes no more room than it needs.
+    void setPicture(const QPixmap& picture);
+    /// Less room around the inscription, for pages with many rows.
+    void setCompact();
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -30,11 +35,14 @@ class ChoiceRow : public QAbstractButton {
 
   private:
     [[nodiscard]] QRect textArea(int width, int height) const;
+    [[nodiscard]] QColor outlineOf(const QColor& fill) const;
     void paintMark(QPainter& painter, const QColor& ink) const;
 
     Mark m_mark;
     QColor m_tint;
     QString m_keyHint;
+    QPixmap m_picture;
+    int m_topPadding;
 };
 
 } // namespace zeugnis

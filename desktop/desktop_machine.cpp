@@ -39,7 +39,7 @@ void DesktopClipboard::setText(const Text& text) {
 }
 
 Text DesktopClipboard::text() {
-    return nearestInWindows1252(fromQString(QGuiApplication::clipboard()->text()));
+    return withBoxLineEnds(nearestInWindows1252(fromQString(QGuiApplication::clipboard()->text())));
 }
 
 bool DesktopPictures::canShow(const std::filesystem::path& file) {

@@ -12,10 +12,8 @@ class EntryViewAVSV : public ScreenWindow {
     EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidget* below);
 
   private:
-    QBoxLayout* head();
     QWidget* choices();
     QBoxLayout* texts();
-    QBoxLayout* actions();
     QWidget* lines(QWidget& area);
 
     GsArbeitsverhalten& m_entry;

@@ -7,6 +7,7 @@
 #include "desktop/window_host.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 
 namespace zeugnis {
 
@@ -20,13 +21,23 @@ void ScreenWindow::refresh() {
     const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
     if (onTop != m_screen->AlwaysOnTop)
         setWindowFlag(Qt::WindowStaysOnTopHint, m_screen->AlwaysOnTop);
-    if (isVisible() != m_screen->shown())
+    if (isVisible() != m_screen->shown()) {
+        if (m_screen->shown() && !testAttribute(Qt::WA_Moved))
+            place();
         setVisible(m_screen->shown());
+    }
     if (m_screen->shown() && m_raises != m_screen->raises()) {
         m_raises = m_screen->raises();
         raise();
         activateWindow();
     }
+}
+
+// In the middle of the display, and never larger than it.
+void ScreenWindow::place() {
+    const QRect available = screen()->availableGeometry();
+    resize(size().boundedTo(available.size()));
+    move(available.center() - QPoint(width() / 2, height() / 2));
 }
 
 void ScreenWindow::showFocus(const Control& control) {

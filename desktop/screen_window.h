@@ -35,6 +35,7 @@ class ScreenWindow : public QWidget {
 
   private:
     bool closingConfirmed();
+    void place();
 
     Screen* m_screen;
     WindowHost& m_host;

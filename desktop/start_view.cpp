@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace zeugnis {
 namespace {
 
@@ -26,6 +28,13 @@ StartView::StartView(GsStart& screen, WindowHost& host, QWidget* below)
     columns->addWidget(sidePanel());
     columns->addLayout(mainArea(), 1);
     bind().timer(screen.Timer1);
+    // The button that changed the view is gone; the keyboard goes to the first one there is now.
+    bind().follow([this, tools = false]() mutable {
+        if (std::exchange(tools, m_start.Command3.Visible) == tools)
+            return;
+        if (QWidget* first = bind().widgetOf(m_start.Command1(tools ? 4 : 0)))
+            first->setFocus();
+    });
     resize(1060, 700);
 }
 
@@ -50,8 +59,7 @@ QWidget* StartView::sidePanel() {
     layout->addSpacing(18);
     auto* teacher = new QHBoxLayout;
     teacher->setSpacing(12);
-    teacher->addWidget(
-        bind().picture(m_start.Picture2, {84, 112}, tr("Bild der Klassenleitung")));
+    teacher->addWidget(bind().picture(m_start.Picture2, {84, 112}, tr("Bild der Klassenleitung")));
     auto* names = new QVBoxLayout;
     names->setSpacing(0);
     names->addStretch();

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
@@ -38,7 +39,8 @@ Difference differenceBetween(const QString& from, const QString& to) {
 }
 
 bool isTyped(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    const Qt::KeyboardModifiers modifiers =
+        event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     const bool altGr = modifiers == (Qt::ControlModifier | Qt::AltModifier) ||
                        modifiers == Qt::GroupSwitchModifier;
     return !event.text().isEmpty() && event.text()[0].isPrint() &&
@@ -47,17 +49,77 @@ bool isTyped(const QKeyEvent& event) {
 
 } // namespace
 
-TextEditor::TextEditor(TextBox& box, WindowHost& host, QWidget* parent)
-    : QPlainTextEdit(parent), m_box(box), m_host(host) {
+TextEditor::TextEditor(TextBox& box, WindowHost& host, QWidget* parent, Lines lines)
+    : QPlainTextEdit(parent), m_box(box), m_host(host), m_lines(lines) {
     setTabChangesFocus(true);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    if (oneLine())
+        keepToOneLine();
     connect(this, &QPlainTextEdit::textChanged, this, &TextEditor::takeNativeChange);
+}
+
+void TextEditor::keepToOneLine() {
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setProperty("oneLine", true);
+}
+
+QSize TextEditor::sizeHint() const {
+    return oneLine() ? QSize(200, minimumSizeHint().height()) : QPlainTextEdit::sizeHint();
+}
+
+QSize TextEditor::minimumSizeHint() const {
+    if (!oneLine())
+        return QPlainTextEdit::minimumSizeHint();
+    constexpr int BorderAndPadding = 4; // as the style sheet gives it to a single line
+    const auto margins = static_cast<int>(2 * document()->documentMargin());
+    return {60, fontMetrics().lineSpacing() + margins + BorderAndPadding};
+}
+
+// A line end in a box of one line is shown as a blank; places count the same.
+QString TextEditor::boxText() const {
+    QString text = documentText(m_box.text());
+    return oneLine() ? text.replace(u'\n', u' ') : text;
+}
+
+// A cell that is copied from a table ends with a line end that nobody means.
+Text TextEditor::incoming(QString text) const {
+    if (!oneLine())
+        return fromQString(text);
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    while (text.startsWith(u'\n'))
+        text.remove(0, 1);
+    while (text.endsWith(u'\n'))
+        text.chop(1);
+    return fromQString(text.replace(u'\n', u' '));
+}
+
+void TextEditor::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (oneLine() && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                      reason == Qt::ShortcutFocusReason))
+        selectAll();
+}
+
+void TextEditor::focusOutEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusOutEvent(event);
+    if (oneLine())
+        horizontalScrollBar()->setValue(0);
+}
+
+void TextEditor::wheelEvent(QWheelEvent* event) {
+    if (oneLine())
+        event->ignore();
+    else
+        QPlainTextEdit::wheelEvent(event);
 }
 
 void TextEditor::refresh() {
     setReadOnly(m_box.Locked);
-    const QString text = documentText(m_box.text());
+    const QString text = boxText();
     if (text == toPlainText())
         return;
     const QScopedValueRollback refreshing(m_refreshing, true);
@@ -67,6 +129,8 @@ void TextEditor::refresh() {
     cursor.setPosition(documentPosition(m_box.text(), m_box.selectionEnd()),
                        QTextCursor::KeepAnchor);
     setTextCursor(cursor);
+    if (oneLine() && !hasFocus())
+        horizontalScrollBar()->setValue(0);
 }
 
 void TextEditor::showText(const QString& text) {
@@ -98,12 +162,22 @@ void TextEditor::ownAction(const std::function<void()>& action) {
     m_host.run(action);
 }
 
+void TextEditor::enter() {
+    if (oneLine())
+        focusNextPrevChild(true);
+    else
+        ownAction([this] { user::key(m_box, Enter); });
+}
+
 void TextEditor::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (plain && event->key() == Qt::Key_Backspace)
         ownAction([this] { user::key(m_box, Backspace); });
-    else if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
-        ownAction([this] { user::key(m_box, Enter); });
+    else if (plain && isEnter)
+        enter();
+    else if (isEnter && event->modifiers().testFlag(Qt::ControlModifier))
+        ownAction([this] { user::doubleClick(m_box); });
     else if (isTyped(*event))
         ownAction([this, text = fromQString(event->text())] { user::type(m_box, text); });
     else
@@ -119,19 +193,19 @@ void TextEditor::inputMethodEvent(QInputMethodEvent* event) {
         QPlainTextEdit::inputMethodEvent(&composing);
     }
     if (!finished.isEmpty())
-        ownAction([this, text = fromQString(finished)] { user::type(m_box, text); });
+        ownAction([this, text = incoming(finished)] { user::type(m_box, text); });
     event->accept();
 }
 
 void TextEditor::insertFromMimeData(const QMimeData* source) {
     if (source->hasText())
-        ownAction([this, text = fromQString(source->text())] { user::paste(m_box, text); });
+        ownAction([this, text = incoming(source->text())] { user::paste(m_box, text); });
 }
 
 void TextEditor::takeNativeChange() {
     if (m_refreshing)
         return;
-    const QString before = documentText(m_box.text());
+    const QString before = boxText();
     const Difference change = differenceBetween(before, toPlainText());
     if (change.removed == 0 && change.inserted.isEmpty())
         return;

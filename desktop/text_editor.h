@@ -10,18 +10,30 @@ class WindowHost;
 
 /// The view of a text box. Typed keys go through the box's key handler, whatever keyboard or
 /// input method they come from; everything else that edits (paste, delete, undo, drag and drop)
-/// is Qt's own and arrives at the box as one change.
+/// is Qt's own and arrives at the box as one change. Ctrl+Enter does what a double click does.
+///
+/// With one line only, Enter goes on to the next field, Tab selects the whole text, and pasted line
+/// ends become blanks.
 class TextEditor : public QPlainTextEdit {
     Q_OBJECT
 
   public:
-    TextEditor(TextBox& box, WindowHost& host, QWidget* parent = nullptr);
+    enum class Lines { Many, One };
+
+    TextEditor(TextBox& box, WindowHost& host, QWidget* parent = nullptr,
+               Lines lines = Lines::Many);
 
     /// Takes over what the box says. A text that this editor's own user brought about can be
     /// undone; any other starts a new history, so that undo never mixes two pupils.
     void refresh();
 
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
   protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -29,6 +41,11 @@ class TextEditor : public QPlainTextEdit {
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
+    [[nodiscard]] bool oneLine() const { return m_lines == Lines::One; }
+    [[nodiscard]] QString boxText() const;
+    [[nodiscard]] Text incoming(QString text) const;
+    void keepToOneLine();
+    void enter();
     void selectInBox();
     void ownAction(const std::function<void()>& action);
     void takeNativeChange();
@@ -37,6 +54,7 @@ class TextEditor : public QPlainTextEdit {
 
     TextBox& m_box;
     WindowHost& m_host;
+    Lines m_lines;
     bool m_refreshing = false;
     bool m_ownAction = false;
     bool m_secondRelease = false;

@@ -37,6 +37,15 @@ QListWidget::item:selected { background: #1F6F6B; color: white; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPlainTextEdit { border: 1px solid #C9C3B6; border-radius: 6px; padding: 4px 2px 4px 6px; }
 QPlainTextEdit:focus { border: 2px solid #1F6F6B; padding: 3px 1px 3px 5px; }
+QPlainTextEdit[oneLine="true"] { padding: 1px 2px; background: white; border-color: #8C867A; }
+QPlainTextEdit[oneLine="true"]:focus { padding: 0 1px; border: 2px solid #1F6F6B; }
+QPlainTextEdit[oneLine="true"]:disabled { color: #3F464E; background: #F6F4EF;
+    border-color: #E4DFD4; }
+QListWidget:disabled { background: #F6F4EF; border-color: #E4DFD4; }
+QListWidget#compact::item { padding: 2px 6px; }
+QLabel#lock { color: #7A5A12; background: #FBF1D6; border: 1px solid #E6D3A0;
+    border-radius: 6px; padding: 1px 8px; }
+QFrame#area { background: #FFFFFF; border: 1px solid #DDD8CC; border-radius: 8px; }
 QScrollBar:vertical { width: 12px; background: transparent; border: none; margin: 0; }
 QScrollBar::handle:vertical { min-height: 32px; margin: 2px; border-radius: 4px;
     background: rgba(60, 60, 50, 90); }
@@ -87,8 +96,8 @@ QColor fromFarbwert(Farbwert value, const QColor& plain) {
 }
 
 QColor inkOn(const QColor& background) {
-    const double light = 0.299 * background.redF() + 0.587 * background.greenF() +
-                         0.114 * background.blueF();
+    const double light =
+        0.299 * background.redF() + 0.587 * background.greenF() + 0.114 * background.blueF();
     return light < 0.5 ? QColor(Qt::white) : Ink;
 }
 

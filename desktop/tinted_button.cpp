@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QShortcutEvent>
 
 #include <algorithm>
 
@@ -41,7 +42,17 @@ void TintedButton::setMarked(bool marked) {
     if (m_marked == marked)
         return;
     m_marked = marked;
-    setFont(theme::scaledFont(1.0, marked ? QFont::Bold : QFont::Normal));
+    update();
+}
+
+void TintedButton::setContent(Content content) {
+    if (m_content == content)
+        return;
+    m_content = content;
+    setAccessibleDescription(content == Content::Unknown ? QString()
+                             : content == Content::Empty ? tr("noch leer")
+                                                         : tr("hat einen Text"));
+    update();
 }
 
 int TintedButton::textFlags() const {
@@ -61,7 +72,8 @@ QRect TintedButton::textArea(const QRect& area) const {
 QSize TintedButton::sizeHint() const {
     if (m_role == Role::Round)
         return {leastHeight() + 2, leastHeight() + 2};
-    const QRect bounds = fontMetrics().boundingRect(QRect(0, 0, WidestLine, 1000), textFlags(), text());
+    const QRect bounds =
+        fontMetrics().boundingRect(QRect(0, 0, WidestLine, 1000), textFlags(), text());
     return {bounds.width() + 2 * SidePadding + 4,
             std::max(leastHeight(), bounds.height() + 2 * TopPadding)};
 }
@@ -71,8 +83,8 @@ QSize TintedButton::minimumSizeHint() const {
 }
 
 int TintedButton::heightForWidth(int width) const {
-    const QRect bounds = fontMetrics().boundingRect(QRect(0, 0, width - 2 * SidePadding, 1000),
-                                                    textFlags(), text());
+    const QRect bounds =
+        fontMetrics().boundingRect(QRect(0, 0, width - 2 * SidePadding, 1000), textFlags(), text());
     return std::max(leastHeight(), bounds.height() + 2 * TopPadding);
 }
 
@@ -82,6 +94,17 @@ void TintedButton::keyPressEvent(QKeyEvent* event) {
         click();
     else
         QPushButton::keyPressEvent(event);
+}
+
+// A shortcut acts at once. Qt would wait to show the button pressed, and what is typed meanwhile
+// would still go to the box that is being left.
+bool TintedButton::event(QEvent* event) {
+    if (event->type() == QEvent::Shortcut && isEnabled() &&
+        !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
+        click();
+        return true;
+    }
+    return QPushButton::event(event);
 }
 
 void TintedButton::paintEvent(QPaintEvent*) {
@@ -105,7 +128,12 @@ void TintedButton::paintEvent(QPaintEvent*) {
     if (m_marked) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme::Ink);
-        painter.drawRoundedRect(QRectF(3, 6, 4, height() - 12), 2, 2);
+        painter.drawRoundedRect(QRectF(4, 7, 5, height() - 14), 2, 2);
+    }
+    if (m_content != Content::Unknown) {
+        painter.setPen(QPen(ink, 1.4));
+        painter.setBrush(m_content == Content::Filled ? QBrush(ink) : QBrush(Qt::white));
+        painter.drawEllipse(QRectF(width() - 14, height() - 14, 8, 8));
     }
     painter.setPen(ink);
     painter.drawText(m_role == Role::Round ? rect() : textArea(rect()), textFlags(), text());

@@ -16,6 +16,9 @@ class TintedButton : public QPushButton {
     void setTint(const QColor& tint);
     /// Stands out among its like, as the one that is worked on.
     void setMarked(bool marked);
+    /// A small sign that tells whether what the button leads to holds anything.
+    enum class Content { Unknown, Empty, Filled };
+    void setContent(Content content);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -23,6 +26,7 @@ class TintedButton : public QPushButton {
     [[nodiscard]] int heightForWidth(int width) const override;
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -34,6 +38,7 @@ class TintedButton : public QPushButton {
     Role m_role;
     QColor m_tint;
     bool m_marked = false;
+    Content m_content = Content::Unknown;
 };
 
 } // namespace zeugnis

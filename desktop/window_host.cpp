@@ -46,8 +46,10 @@ void WindowHost::refresh() {
         return;
     const QScopedValueRollback refreshing(m_refreshing, true);
     openAndCloseWindows();
-    for (const auto& [screen, window] : m_windows)
-        window->refresh();
+    // In the order of loading, so that of two new windows the later one is in front.
+    for (const Screen* screen : m_program.screens())
+        if (const auto window = m_windows.find(screen); window != m_windows.end())
+            window->second->refresh();
     followFocus();
 }
 
@@ -62,13 +64,13 @@ void WindowHost::openAndCloseWindows() {
         window->second->detach();
         window->second->deleteLater();
         window = m_windows.erase(window);
+        if (QWidget* start = windowOf(m_program.startScreen()))
+            start->activateWindow();
     }
     for (Screen* screen : m_program.screens()) {
         if (!screen->shown() || m_windows.contains(screen))
             continue;
-        const auto start = m_windows.find(m_program.startScreen());
-        QWidget* below = start == m_windows.end() ? nullptr : start->second.data();
-        m_windows.emplace(screen, makeWindow(*screen, *this, below));
+        m_windows.emplace(screen, makeWindow(*screen, *this, windowOf(m_program.startScreen())));
     }
 }
 
@@ -94,8 +96,12 @@ void WindowHost::leaveForOtherProgram(Qt::ApplicationState state) {
 QWidget* WindowHost::dialogParent() const {
     if (QWidget* active = QApplication::activeWindow())
         return active;
-    const auto start = m_windows.find(m_program.startScreen());
-    return start == m_windows.end() ? nullptr : start->second.data();
+    return windowOf(m_program.startScreen());
+}
+
+QWidget* WindowHost::windowOf(const Screen* screen) const {
+    const auto found = m_windows.find(screen);
+    return found == m_windows.end() ? nullptr : found->second.data();
 }
 
 void WindowHost::reportFailure(const Text& sentence) {

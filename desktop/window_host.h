@@ -39,6 +39,7 @@ class WindowHost : public QObject {
   private:
     void openAndCloseWindows();
     void followFocus();
+    [[nodiscard]] QWidget* windowOf(const Screen* screen) const;
     void leaveForOtherProgram(Qt::ApplicationState state);
     void reportFailure(const Text& sentence);
 

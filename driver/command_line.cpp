@@ -113,8 +113,14 @@ std::string jsonString(TextView text) {
         case u'\t':
             json += u"\\t";
             break;
+        case u'\b':
+            json += u"\\b";
+            break;
+        case u'\f':
+            json += u"\\f";
+            break;
         default:
-            if (unit < u' ' || (unit >= 0x7F && unit < 0xA0)) {
+            if (unit < u' ') {
                 std::array<char, 8> escape{};
                 std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(unit));
                 json += textFromUtf8(escape.data());

@@ -86,6 +86,8 @@ int Driver::run(std::istream& commands) {
             if (words.empty())
                 continue;
             execute(words);
+            // Whoever sends the commands may wait for the answer to one before the next.
+            m_out.flush();
             if (m_program && m_program->ended()) {
                 m_out << "end\n";
                 break;
@@ -158,6 +160,8 @@ void Driver::caret(const Words& words) {
 }
 
 void Driver::type(const Words& words) {
+    if (auto* combo = dynamic_cast<ComboBox*>(&control(words[1])))
+        return reached(user::type(*combo, textOf(words[2])), *combo);
     auto& box = controlAs<TextBox>(words[1], "text box");
     reached(user::type(box, textOf(words[2])), box);
 }

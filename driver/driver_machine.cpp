@@ -16,9 +16,7 @@ constexpr std::array<std::pair<Antwort, const char*>, 4> AnswerNames = {{
     {Antwort::Abbrechen, "cancel"},
 }};
 
-const char* nameOf(Antwort answer) {
-    return AnswerNames.at(static_cast<size_t>(answer)).second;
-}
+const char* nameOf(Antwort answer) { return AnswerNames.at(static_cast<size_t>(answer)).second; }
 
 const char* nameOf(Symbol icon) {
     constexpr std::array Names = {"none", "exclamation", "question", "stop"};
@@ -83,8 +81,9 @@ void PrintingLauncher::start(const Text& commandLine, const std::filesystem::pat
 
 std::optional<Antwort> answerFromName(TextView name) {
     const std::string wanted = utf8FromText(name);
-    const auto* const found = std::find_if(AnswerNames.begin(), AnswerNames.end(),
-                                           [&](const auto& entry) { return entry.second == wanted; });
+    const auto* const found =
+        std::find_if(AnswerNames.begin(), AnswerNames.end(),
+                     [&](const auto& entry) { return entry.second == wanted; });
     if (found == AnswerNames.end())
         return std::nullopt;
     return found->first;

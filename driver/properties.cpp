@@ -34,14 +34,14 @@ std::string listOf(const ListControl& list) {
 }
 
 Value text(const Control& control) {
-    if (const Value value =
+    if (Value value =
             of<TextBox>(control, [](const TextBox& box) { return jsonString(box.text()); }))
         return value;
     return of<ComboBox>(control, [](const ComboBox& box) { return jsonString(box.Inscription); });
 }
 
 Value value(const Control& control) {
-    if (const Value checked =
+    if (Value checked =
             of<CheckBox>(control, [](const CheckBox& box) { return number(box.value()); }))
         return checked;
     return of<OptionButton>(control, [](const OptionButton& box) { return number(box.value()); });
@@ -73,7 +73,9 @@ constexpr std::array<Property, 12> Properties = {{
          return of<PictureBox>(c, [](const auto& x) { return jsonString(x.picture()); });
      }},
     {"Locked",
-     [](const Control& c) { return of<TextBox>(c, [](const auto& x) { return number(x.Locked); }); }},
+     [](const Control& c) {
+         return of<TextBox>(c, [](const auto& x) { return number(x.Locked); });
+     }},
     {"Reachable", [](const Control& c) { return Value(number(c.reachable())); }},
 }};
 

@@ -13,23 +13,29 @@ TextView stueck(TextView text, size_t ab, size_t anzahl) {
     return ab < text.size() ? text.substr(ab, anzahl) : TextView();
 }
 
+template <typename Feld, typename Kind>
+std::array<Feld, 9> felderVon(Kind& kind) {
+    return {&kind.Nachname, &kind.Vorname, &kind.Geschlecht, &kind.Geburtsdatum, &kind.AG[0],
+            &kind.AG[1],    &kind.AG[2],   &kind.AG[3],      &kind.Geburtsort};
+}
+
 } // namespace
 
-Namensliste NamenLaden(Arbeitsverzeichnis& verzeichnis) {
+std::array<Text*, 9> FelderVon(Schueler& kind) { return felderVon<Text*>(kind); }
+
+std::array<const Text*, 9> FelderVon(const Schueler& kind) { return felderVon<const Text*>(kind); }
+
+Namensliste NamenLaden(Arbeitsverzeichnis& verzeichnis, const std::function<void(int)>& jeNummer) {
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
     Namensliste liste;
-    liste.Schuelerzahl = readNumberedRecords(
-        verzeichnis, dateien::Namen, Schuelerplaetze, [&](RecordReader& reader, int row, int) {
-            liste.Klasse = reader.text();
-            Schueler& kind = liste.Kinder[row];
-            kind.Nachname = reader.text();
-            kind.Vorname = reader.text();
-            kind.Geschlecht = reader.text();
-            kind.Geburtsdatum = reader.text();
-            for (Text& ag : kind.AG)
-                ag = reader.text();
-            kind.Geburtsort = reader.text();
-        });
+    liste.Schuelerzahl = readNumberedRecords(verzeichnis, dateien::Namen, Schuelerplaetze,
+                                             [&](RecordReader& reader, int row, int nummer) {
+                                                 liste.Klasse = reader.text();
+                                                 for (Text* feld : FelderVon(liste.Kinder[row]))
+                                                     *feld = reader.text();
+                                                 if (jeNummer)
+                                                     jeNummer(nummer);
+                                             });
     return liste;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/working_directory.h"
 
 #include <array>
+#include <functional>
 
 namespace zeugnis {
 
@@ -29,9 +30,14 @@ struct Namensliste {
     Schuelertabelle<Schueler> Kinder;
 };
 
+/// The nine texts of a pupil, in the order in which the files hold them.
+std::array<Text*, 9> FelderVon(Schueler& kind);
+std::array<const Text*, 9> FelderVon(const Schueler& kind);
+
 /// Reads Namen.Txt in the folder Daten. A 37th record, or a record behind a number outside 0 to
-/// 35, fails with index-out-of-range.
-Namensliste NamenLaden(Arbeitsverzeichnis& verzeichnis);
+/// 35, fails with index-out-of-range. `jeNummer` is called with the number of each record.
+Namensliste NamenLaden(Arbeitsverzeichnis& verzeichnis,
+                       const std::function<void(int)>& jeNummer = {});
 
 /// The stem of the pupil's picture file: names and the digits of the birth date, by position.
 Text BildnameVon(const Schueler& kind);

@@ -4,6 +4,7 @@
 #include "platform/record_writer.h"
 #include "shell/file_catalogue.h"
 
+#include <algorithm>
 #include <array>
 
 namespace zeugnis {
@@ -24,6 +25,21 @@ Schuldaten BasisdatenLesen(const Arbeitsverzeichnis& verzeichnis, int felder) {
     for (int i = 0; i < felder; ++i)
         daten.*Felder.at(static_cast<size_t>(i)) = reader.text();
     return daten;
+}
+
+Text NaechstesSchuljahrNach(const Text& schuljahr) {
+    const int jahr = numberFromText(TextView(schuljahr).substr(0, 4),
+                                    u"Die Jahreszahl am Anfang des Schuljahres");
+    return textFromNumber(jahr + 1) + u"/" + textFromNumber(jahr + 2);
+}
+
+bool IstZahl(TextView text, int zahl) {
+    const Text wert = trimmed(text);
+    TextView ziffern = wert;
+    if (ziffern.starts_with(u'+'))
+        ziffern.remove_prefix(1);
+    ziffern.remove_prefix(std::min(ziffern.find_first_not_of(u'0'), ziffern.size()));
+    return ziffern == textFromNumber(zahl);
 }
 
 void BasisdatenSchreiben(const Arbeitsverzeichnis& verzeichnis, const Schuldaten& daten) {

@@ -24,6 +24,13 @@ inline constexpr int BasisdatenFelder = 10;
 /// empty. Fails with end-of-file if there are fewer.
 Schuldaten BasisdatenLesen(const Arbeitsverzeichnis& verzeichnis, int felder);
 
+/// The school year behind the one that begins with the year of the first four characters:
+/// "2006/2007" for "2005/2006". Fails with type-mismatch if they are no number.
+Text NaechstesSchuljahrNach(const Text& schuljahr);
+
+/// Whether a text such as the half-year is this number. A text that is no number is none.
+bool IstZahl(TextView text, int zahl);
+
 /// Writes Basisdaten.txt in the working directory as it stands.
 void BasisdatenSchreiben(const Arbeitsverzeichnis& verzeichnis, const Schuldaten& daten);
 

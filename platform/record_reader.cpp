@@ -15,8 +15,8 @@ constexpr TextView Separators = u",\r\n";
 } // namespace
 
 RecordReader::RecordReader(const Arbeitsverzeichnis& directory, TextView name)
-    : RecordReader(decodeWindows1252(readWholeFile(directory, name)),
-                   directory.anzeigename(name)) {}
+    : RecordReader(decodeWindows1252(readWholeFile(directory, name)), directory.anzeigename(name)) {
+}
 
 RecordReader::RecordReader(Text content, Text shownName)
     : m_content(std::move(content)), m_shownName(std::move(shownName)) {}
@@ -43,14 +43,15 @@ int RecordReader::row(int number, int rows) const {
 }
 
 Text RecordReader::place() const {
-    return u"Datei „" + m_shownName + u"“, Zeile " + textFromNumber(m_lineOfField) + u", Feld " +
-           textFromNumber(m_lastField);
+    return u"Datei „" + m_shownName + u"“, Datensatz " + textFromNumber(m_lineOfField) +
+           u", Feld " + textFromNumber(m_lastField);
 }
 
 Text RecordReader::nextField() {
     if (atEnd())
         throw Laufzeitfehler(Fehlerart::EndOfFile,
-                             place() + u": Danach fehlt mindestens ein Feld; die Datei ist zu Ende.");
+                             place() +
+                                 u": Danach fehlt mindestens ein Feld; die Datei ist zu Ende.");
     m_lineOfField = m_line;
     m_lastField = ++m_field;
     while (!atEnd() && m_content[m_at] == u' ')
@@ -60,9 +61,9 @@ Text RecordReader::nextField() {
         const size_t first = m_at + 1;
         const size_t closing = m_content.find(u'"', first);
         Text value = m_content.substr(first, closing - first);
-        m_at = closing == Text::npos ? m_content.size()
-                                     : std::min(m_content.find_first_of(Separators, closing + 1),
-                                                m_content.size());
+        m_at = closing == Text::npos
+                   ? m_content.size()
+                   : std::min(m_content.find_first_of(Separators, closing + 1), m_content.size());
         skipDelimiter();
         return value;
     }

@@ -43,6 +43,20 @@ Text trimmed(TextView text) {
     return Text(text.substr(first, last - first + 1));
 }
 
+Text withBoxLineEnds(TextView text) {
+    Text result;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != u'\r' && text[i] != u'\n') {
+            result += text[i];
+            continue;
+        }
+        result += Zeilenende;
+        if (text.substr(i, 2) == Zeilenende)
+            ++i;
+    }
+    return result;
+}
+
 Text textFromNumber(int number) {
     const std::string digits = std::to_string(number);
     return {digits.begin(), digits.end()};
@@ -73,11 +87,10 @@ int numberFromText(TextView text, TextView what) {
 }
 
 bool sameIgnoringCase(TextView left, TextView right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char16_t a, char16_t b) {
-                          return u_foldCase(a, U_FOLD_CASE_DEFAULT) ==
-                                 u_foldCase(b, U_FOLD_CASE_DEFAULT);
-                      });
+    return std::equal(
+        left.begin(), left.end(), right.begin(), right.end(), [](char16_t a, char16_t b) {
+            return u_foldCase(a, U_FOLD_CASE_DEFAULT) == u_foldCase(b, U_FOLD_CASE_DEFAULT);
+        });
 }
 
 } // namespace zeugnis

@@ -20,6 +20,9 @@ std::string utf8FromText(TextView text);
 /// Takes away blanks at both ends. Only character 32 is a blank.
 Text trimmed(TextView text);
 
+/// The text with CR LF for each line end, whatever it was: CR LF, CR or LF.
+Text withBoxLineEnds(TextView text);
+
 /// Decimal, a leading minus for negative numbers.
 Text textFromNumber(int number);
 

@@ -2,12 +2,14 @@
 
 #include "platform/failure.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <memory>
 #include <optional>
 #include <system_error>
+#include <vector>
 
 namespace zeugnis {
 namespace fs = std::filesystem;
@@ -19,7 +21,8 @@ struct FileCloser {
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
 [[noreturn]] void fail(int error, const Text& shownName, TextView action) {
-    const Text sentence = u"Die Datei „" + shownName + u"“ kann nicht " + Text(action) + u" werden: ";
+    const Text sentence =
+        u"Die Datei „" + shownName + u"“ kann nicht " + Text(action) + u" werden: ";
     switch (error) {
     case ENOENT:
         throw Laufzeitfehler(Fehlerart::FileNotFound, sentence + u"Sie ist nicht vorhanden.");
@@ -106,6 +109,21 @@ void writeWholeFile(const Arbeitsverzeichnis& directory, TextView name, std::str
 
 void copyWholeFile(const Arbeitsverzeichnis& directory, TextView from, TextView to) {
     writeWholeFile(directory, to, readWholeFile(directory, from));
+}
+
+void deleteFilesEndingIn(const Arbeitsverzeichnis& directory, TextView ending) {
+    std::error_code ignored;
+    std::vector<fs::path> doomed;
+    for (fs::directory_iterator entry(directory.aktuell(), ignored), end; !ignored && entry != end;
+         entry.increment(ignored)) {
+        const std::u8string utf8 = entry->path().filename().u8string();
+        const Text name = textFromUtf8(std::string(utf8.begin(), utf8.end()));
+        const size_t stem = name.size() - std::min(name.size(), ending.size());
+        if (sameIgnoringCase(TextView(name).substr(stem), ending) && isRegularFile(entry->path()))
+            doomed.push_back(entry->path());
+    }
+    for (const fs::path& file : doomed)
+        fs::remove(file, ignored);
 }
 
 } // namespace zeugnis

@@ -17,4 +17,8 @@ void writeWholeFile(const Arbeitsverzeichnis& directory, TextView name, std::str
 /// Copies a file over another. Fails as the two operations above.
 void copyWholeFile(const Arbeitsverzeichnis& directory, TextView from, TextView to);
 
+/// Deletes the files of the working directory whose names end so, whatever the case. What cannot
+/// be deleted stays, without a failure.
+void deleteFilesEndingIn(const Arbeitsverzeichnis& directory, TextView ending);
+
 } // namespace zeugnis

@@ -69,9 +69,9 @@ Arbeitsverzeichnis::Arbeitsverzeichnis(const fs::path& programFolder) {
     std::error_code failed;
     m_base = fs::canonical(programFolder, failed);
     if (failed || !fs::is_directory(m_base, failed))
-        throw Laufzeitfehler(Fehlerart::PathNotFound,
-                             u"Der Programmordner „" + textFromPath(programFolder) +
-                                 u"“ ist nicht vorhanden.");
+        throw Laufzeitfehler(Fehlerart::PathNotFound, u"Der Programmordner „" +
+                                                          textFromPath(programFolder) +
+                                                          u"“ ist nicht vorhanden.");
     m_current = m_base;
 }
 
@@ -79,8 +79,8 @@ void Arbeitsverzeichnis::wechseln(TextView folder) {
     const std::vector<Text> names = components(folder);
     const std::optional<fs::path> target = folderBehind(m_current, names, names.size());
     if (!target)
-        throw Laufzeitfehler(Fehlerart::PathNotFound, u"Der Ordner „" + anzeigename(folder) +
-                                                          u"“ ist nicht vorhanden.");
+        throw Laufzeitfehler(Fehlerart::PathNotFound,
+                             u"Der Ordner „" + anzeigename(folder) + u"“ ist nicht vorhanden.");
     m_current = *target;
 }
 

@@ -38,7 +38,8 @@ class Ordnerwechsel {
     Ordnerwechsel(Arbeitsverzeichnis& directory, TextView folder) : m_directory(directory) {
         m_directory.wechseln(folder);
     }
-    ~Ordnerwechsel() { m_directory.wechseln(u"..\\"); }
+    // The folder above is always there to go to.
+    ~Ordnerwechsel() { m_directory.wechseln(u"..\\"); } // NOLINT(bugprone-exception-escape)
     Ordnerwechsel(const Ordnerwechsel&) = delete;
     Ordnerwechsel& operator=(const Ordnerwechsel&) = delete;
 

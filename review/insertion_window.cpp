@@ -1,6 +1,7 @@
 #include "review/insertion_window.h"
 
 #include "controls/program.h"
+#include "platform/code_page.h"
 #include "platform/record_reader.h"
 #include "platform/record_writer.h"
 #include "shell/file_catalogue.h"
@@ -27,7 +28,7 @@ struct Eintrag {
 // The entries behind the head (row 0 with 12 blanks) and the line of underscores.
 constexpr Eintrag Kopf{0, 12};
 constexpr Eintrag KurzeListe[] = {{1, 8}, {2, 11}, {4, 11}, {6, 11}, {8, 20}};
-constexpr Eintrag VolleListe[] = {{1, 8},   {2, 11}, {3, 13}, {4, 11}, {5, 12}, {6, 11},
+constexpr Eintrag VolleListe[] = {{1, 8},  {2, 11}, {3, 13}, {4, 11}, {5, 12}, {6, 11},
                                   {7, 10}, {8, 20}, {9, 8},  {10, 9}, {11, 6}};
 constexpr int ErsterEintrag = 2;
 
@@ -142,7 +143,8 @@ void Einfuegungen::NeuenEingeben() {
         u"<Nextschj> oder <Konferenz> benutzen.");
     if (!eingabe || eingabe->empty())
         return;
-    List1.addItem(AnfuehrungszeichenErsetzen(*eingabe, ErsetzteAnfuehrungszeichen));
+    List1.addItem(
+        AnfuehrungszeichenErsetzen(nearestInWindows1252(*eingabe), ErsetzteAnfuehrungszeichen));
     ListeSchreiben();
 }
 

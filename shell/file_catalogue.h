@@ -13,6 +13,11 @@ inline constexpr TextView Standard = u"Standard\\";     ///< seen from inside Da
 
 inline constexpr TextView Basisdaten = u"Basisdaten.txt";
 inline constexpr TextView Namen = u"Namen.Txt";
+inline constexpr TextView Namen1 = u"Namen1.txt";
+inline constexpr TextView Sibankpfad = u"Sibankpfad.txt";
+inline constexpr TextView Standardpfade = u"sib1undsib2.txt";
+inline constexpr TextView AGListe = u"AGListe.txt";
+inline constexpr TextView Bildliststeuer = u"Bildliststeuer.Txt";
 inline constexpr TextView AktivForm = u"AktivForm.txt";
 inline constexpr TextView Platzhalter = u"Platzhalter.txt";
 inline constexpr TextView Einfuegungen1 = u"Einfügungen1.txt";
@@ -24,6 +29,17 @@ inline constexpr TextView AVKategorien = u"AVKategorien.txt";
 inline constexpr TextView SVKategorien = u"SVKategorien.txt";
 inline constexpr TextView AVSVspeicher = u"AVSVspeicher.txt";
 inline constexpr TextView AVSVWahl = u"AVSVWahl.txt";
+inline constexpr TextView Speicher12 = u"12Speicher.txt";
+inline constexpr TextView Sperre12 = u"12Sperre.txt";
+inline constexpr TextView Speicher34 = u"34Speicher.txt";
+inline constexpr TextView Sperre34 = u"34Sperre.txt";
+
+inline constexpr TextView Foerder34 = u"Förder34.Txt";
+inline constexpr TextView Interessen34 = u"Interessen34.Txt";
+inline constexpr TextView Zensurabweichung = u"Zensurabweichung.Txt";
+inline constexpr TextView Bemerkungen34 = u"Bemerkungen34.Txt";
+inline constexpr TextView AG = u"AG.Txt";
+inline constexpr TextView Sportusw = u"Sportusw.Txt";
 
 inline constexpr TextView Kopfbild1 = u"ZeugnKOPF.jpg";
 inline constexpr TextView Kopfbild2 = u"ZeugnKOPF1.jpg";

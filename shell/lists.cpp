@@ -27,7 +27,8 @@ Listen::Listen(Programm& programm)
              u"Listenerstellung- Dieses Fenster ist hier verschiebbar!!") {
     Label1.Caption =
         u"Sie können hier mit dem Programm Winword automatisch verschiedene Listen erstellen, die "
-        u"eingegebene Daten des Programmes nutzen. Sie können sie bei Bedarf in Winword ausdrucken.";
+        u"eingegebene Daten des Programmes nutzen. Sie können sie bei Bedarf in Winword "
+        u"ausdrucken.";
     Command1.each([](Button& taste) {
         taste.Caption = Listentasten[static_cast<size_t>(*taste.index())].Beschriftung;
     });

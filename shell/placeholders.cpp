@@ -27,9 +27,8 @@ constexpr Platzhalter Nextschj{u"<Nextschj>", {}, {}, &Einsetzwerte::NaechstesSc
 constexpr Platzhalter Konferenz{u"<Konferenz>", {}, {}, &Einsetzwerte::Konferenzdatum};
 
 constexpr std::array BekanntArbeitsverhalten = {SieEr, IhrIhm, IhrSein, ErSie, Vorname, EndungIn};
-constexpr std::array BekanntJahrgaenge = {SieEr,     ErSie,    IhrIhm,   IhmIhr,
-                                          IhrSein,   SeinIhr,  Vorname,  EndungIn,
-                                          Schuljahr, Nextschj, Konferenz};
+constexpr std::array BekanntJahrgaenge = {SieEr,   ErSie,    IhrIhm,    IhmIhr,   IhrSein,  SeinIhr,
+                                          Vorname, EndungIn, Schuljahr, Nextschj, Konferenz};
 
 struct Bereinigung {
     TextView Gesucht;

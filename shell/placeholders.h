@@ -19,9 +19,9 @@ struct Platzhalter;
 
 /// In what the screens differ when they expand and insert.
 struct Textregeln {
-    int Durchgaenge;                        ///< how often each placeholder is looked for
-    std::span<const Platzhalter> Bekannte;  ///< in the order in which a pass takes them
-    bool EndungAnhaengen;                   ///< "<in>" is inserted without a blank before it
+    int Durchgaenge;                       ///< how often each placeholder is looked for
+    std::span<const Platzhalter> Bekannte; ///< in the order in which a pass takes them
+    bool EndungAnhaengen;                  ///< "<in>" is inserted without a blank before it
 };
 
 extern const Textregeln TextregelnArbeitsverhalten;

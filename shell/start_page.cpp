@@ -57,8 +57,7 @@ constexpr std::array<Beschriftung, 8> Hauptknoepfe = {{
     {u"Textbausteine zum Arbeits- und Sozialverhalten ändern",
      u"Textvorgaben selbst ändern und anpassen"},
     {u"", u"Textvorgaben selbst ändern und anpassen"},
-    {u"Stammdaten prüfen und ggf. ändern",
-     u"Basisdaten des Gesamtprogrammes eingeben oder ändern"},
+    {u"Stammdaten prüfen und ggf. ändern", u"Basisdaten des Gesamtprogrammes eingeben oder ändern"},
     {u"Programm beenden", u"Das Programm schließen"},
 }};
 
@@ -92,8 +91,9 @@ void GsStart::EntwurfSetzen() {
     Label1(1).Caption = u"Schuljahr";
     Label1(2).Caption = u"Halbjahr";
     Label2.Caption = u"Was wollen Sie tun? Klicken Sie auf die zutreffende Taste!";
-    Label3.Caption = u"    WinWord® ist ein eingetragenes Waren- zeichen der Microsoft Corporation, "
-                     u"Redmond";
+    Label3.Caption =
+        u"    WinWord® ist ein eingetragenes Waren- zeichen der Microsoft Corporation, "
+        u"Redmond";
     Label4.Caption = u"Klassenleitung:";
     Label6.Caption = u"Zeugnisprogramm der Tannenhofschule Werlingen";
     Picture1.ToolTip = TurnstundeHinweis;
@@ -142,8 +142,7 @@ void GsStart::StartseiteLaden() {
         Command1(5).Caption = u"Textbausteine für Förder und AG, Interessen und Bemerkungen ändern";
     } else {
         Command1(2).Enabled = false;
-        Command1(5).Caption =
-            u"Textbausteine für Interessen, Kompetenzen und Bemerkungen ändern";
+        Command1(5).Caption = u"Textbausteine für Interessen, Kompetenzen und Bemerkungen ändern";
         Command5.Caption = u"Versäumnisliste aufrufen";
     }
 }
@@ -262,8 +261,7 @@ void GsStart::Command6_Click() {
     programm().machine().dialogs.message(
         {.text = u"Vergessen Sie nicht, die Änderungen in Word zu speichern, bevor Sie Winword "
                  u"wieder verlassen. Die Änderungen gehen sonst verloren !"});
-    WordStarten(programm(),
-                word::Klassendokument(Klasse, u"Zeugnisse", Jahrgang, Schule.Halbjahr));
+    WordStarten(programm(), word::Klassendokument(Klasse, u"Zeugnisse", Jahrgang, Schule.Halbjahr));
 }
 
 void GsStart::Command7_Click() { programm().zeigen(bildschirme::Listen); }

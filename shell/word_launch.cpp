@@ -14,9 +14,7 @@ Text Klassendokument(const Text& klasse, TextView art, int jahrgang, const Text&
     return u"Winword.exe " + klasse + Text(art) + textFromNumber(jahrgang) + halbjahr + u".doc";
 }
 
-Text Hilfe(int nummer) {
-    return u"Winword.exe Texte\\Hilfe" + textFromNumber(nummer) + u".doc";
-}
+Text Hilfe(int nummer) { return u"Winword.exe Texte\\Hilfe" + textFromNumber(nummer) + u".doc"; }
 
 } // namespace word
 } // namespace zeugnis

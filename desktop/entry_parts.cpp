@@ -1,0 +1,110 @@
+#include "desktop/entry_parts.h"
+
+#include "controls/list_controls.h"
+#include "controls/text_box.h"
+#include "desktop/binder.h"
+#include "desktop/picture_view.h"
+#include "desktop/text_editor.h"
+#include "desktop/theme.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace zeugnis::entryparts {
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("entryparts", text); }
+
+QBoxLayout* titleRow(Binder& binder, const Head& parts) {
+    auto* row = new QHBoxLayout;
+    QLabel* purpose = binder.label(parts.Purpose);
+    purpose->setFont(theme::scaledFont(1.15, QFont::DemiBold));
+    purpose->setWordWrap(false);
+    QLabel* className = binder.label(parts.ClassName);
+    className->setFont(theme::scaledFont(1.15, QFont::DemiBold));
+    row->addWidget(purpose);
+    row->addWidget(className, 1);
+    row->addWidget(binder.signButton(parts.Help, QStringLiteral("?"), tr("Hilfe"),
+                                     QKeySequence::HelpContents));
+    return row;
+}
+
+QBoxLayout* selectionRow(Binder& binder, const Head& parts, std::initializer_list<Key> sections) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    QComboBox* pupils = binder.combo(parts.Pupils, tr("Namensliste"));
+    pupils->setMinimumWidth(380);
+    pupils->setFocus();
+    pupils->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    row->addWidget(pupils);
+    for (const Key& section : sections)
+        row->addWidget(binder.button(section.Control, section.Mnemonic));
+    row->addStretch();
+    return row;
+}
+
+} // namespace
+
+QBoxLayout* head(Binder& binder, const Head& parts, std::initializer_list<Key> sections) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(14);
+    row->addWidget(binder.picture(parts.Picture, {72, 96}, tr("Bild des Kindes")));
+    auto* middle = new QVBoxLayout;
+    middle->addLayout(titleRow(binder, parts));
+    middle->addLayout(selectionRow(binder, parts, sections));
+    row->addLayout(middle, 1);
+    return row;
+}
+
+QLabel* nextStep(Binder& binder, Label& label) {
+    QLabel* widget = binder.label(label);
+    widget->setFont(theme::scaledFont(1.4));
+    widget->setAlignment(Qt::AlignCenter);
+    widget->setMargin(40);
+    return widget;
+}
+
+QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name) {
+    TextEditor* editor = binder.text(box, name);
+    editor->setFont(theme::scaledFont(1.08));
+    editor->setMinimumHeight(120);
+    auto* caption = new QLabel(name, editor->parentWidget());
+    caption->setFont(theme::scaledFont(0.92));
+    caption->setBuddy(editor);
+    binder.follow([caption, &box] { caption->setVisible(box.Visible); });
+    auto* column = new QVBoxLayout;
+    column->setSpacing(2);
+    column->addWidget(caption);
+    column->addWidget(editor, 1);
+    return column;
+}
+
+QWidget* lockSign(Binder& binder, PictureBox& picture) {
+    PictureView* sign = binder.picture(picture, {120, 140}, tr("Der Text ist gesperrt"));
+    sign->setPixmap(QPixmap(QStringLiteral(":/gesperrt.png")));
+    return sign;
+}
+
+QBoxLayout* actions(Binder& binder, const Actions& keys) {
+    const auto button = [&](const Key& key) { return binder.button(key.Control, key.Mnemonic); };
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->addWidget(button(keys.Reset));
+    row->addSpacing(16);
+    row->addWidget(button(keys.ShowPhrases));
+    row->addWidget(button(keys.HidePhrases));
+    row->addStretch();
+    row->addWidget(button(keys.Save));
+    row->addWidget(button(keys.Leave));
+    return row;
+}
+
+QString lostSinceSaving() {
+    return tr("Das Fenster wird geschlossen, ohne zu speichern. Was Sie seit dem letzten Speichern "
+              "eingegeben haben, geht verloren.\n\n"
+              "Soll es trotzdem geschlossen werden?");
+}
+
+} // namespace zeugnis::entryparts

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "controls/control_array.h"
+#include "masterdata/pupil_list.h"
+#include "masterdata/school_data.h"
+#include "shell/placeholders.h"
+
+namespace zeugnis {
+
+class Programm;
+
+/// What the entry screens do alike, each with its own controls and colours.
+
+/// The buttons that show (0) and hide (1) the insertion window: only one of them stands open.
+struct Einfuegetasten {
+    const ControlArray<Button>& Tasten;
+    Farbwert Aktiv;
+    Farbwert Ruhend;
+};
+
+/// After a click into a text: the window may be shown, unless it is.
+void EinfuegungenAnbieten(const Einfuegetasten& beide);
+
+/// After a click on one of the buttons: shows the window, or hides it and empties the clipboard.
+void EinfuegungenSchalten(Programm& programm, const Einfuegetasten& beide, int index);
+
+/// Loads a picture of the folder Bild, or the standard one where it cannot be shown.
+void SchuelerBildLaden(PictureBox& bild, const Text& datei);
+
+/// What the report screens of the year groups put in place of placeholders.
+Einsetzwerte EinsetzwerteVon(const Schueler& kind, const Schuldaten& schule);
+
+} // namespace zeugnis
