@@ -3,6 +3,7 @@
 #include "desktop/entry_view_avsv.h"
 #include "desktop/insertion_view.h"
 #include "desktop/lists_view.h"
+#include "desktop/master_data_view.h"
 #include "desktop/start_view.h"
 #include "desktop/unfinished_view.h"
 
@@ -18,6 +19,7 @@ ScreenWindow* makeFor(Screen& screen, WindowHost& host, QWidget* below) {
 
 constexpr ScreenWindow* (*Makers[])(Screen&, WindowHost&, QWidget*) = {
     makeFor<StartView, GsStart>,
+    makeFor<MasterDataView, GsBasis>,
     makeFor<EntryViewAVSV, GsArbeitsverhalten>,
     makeFor<InsertionView, Einfuegungen>,
     makeFor<ListsView, Listen>,

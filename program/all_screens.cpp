@@ -2,6 +2,7 @@
 
 #include "behaviour/avsv_entry_screen.h"
 #include "controls/program.h"
+#include "masterdata/master_data_screen.h"
 #include "program/unfinished_screen.h"
 #include "review/insertion_window.h"
 #include "shell/lists.h"
@@ -30,7 +31,7 @@ struct Eintrag {
 };
 constexpr std::array<Eintrag, 11> Verzeichnis = {{
     {bildschirme::GsStart, neu<GsStart>},
-    {bildschirme::GsBasis, nochOhneInhalt},
+    {bildschirme::GsBasis, neu<GsBasis>},
     {bildschirme::GsArbeitsverhalten, neu<GsArbeitsverhalten>},
     {bildschirme::GSAVSVAenderung, nochOhneInhalt},
     {bildschirme::Kompetenzen, nochOhneInhalt},

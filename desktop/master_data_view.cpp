@@ -1,0 +1,346 @@
+#include "desktop/master_data_view.h"
+
+#include "desktop/qt_text.h"
+#include "desktop/text_editor.h"
+#include "desktop/theme.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace zeugnis {
+namespace {
+
+constexpr int FieldSpacing = 12;
+
+QFrame* area(QWidget* parent) {
+    auto* frame = new QFrame(parent);
+    frame->setObjectName(QStringLiteral("area"));
+    return frame;
+}
+
+QLabel* faintLabel(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setFont(theme::scaledFont(0.88));
+    label->setStyleSheet(QStringLiteral("color: %1").arg(theme::InkFaint.name()));
+    return label;
+}
+
+// Two or more fields in one row, each with its share of the width.
+QBoxLayout* side(std::initializer_list<std::pair<QBoxLayout*, int>> fields) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(FieldSpacing);
+    for (const auto& [field, share] : fields)
+        row->addLayout(field, share);
+    return row;
+}
+
+} // namespace
+
+MasterDataView::MasterDataView(GsBasis& screen, WindowHost& host, QWidget* below)
+    : ScreenWindow(screen, host, below), m_basis(screen) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 12, 20, 14);
+    layout->setSpacing(10);
+    layout->addLayout(head());
+    auto* areas = new QHBoxLayout;
+    areas->setSpacing(14);
+    areas->addWidget(schoolArea(), 34);
+    areas->addWidget(pupilArea(), 66);
+    layout->addLayout(areas, 1);
+    layout->addLayout(actions());
+    followUnlocking();
+    orderByUse();
+    bind().follow([this] {
+        warnBeforeClosing(m_basis.Ungesichert()
+                              ? tr("Das Fenster wird geschlossen, ohne zu speichern. Was Sie seit "
+                                   "dem letzten Speichern eingegeben haben, geht verloren.\n\n"
+                                   "Soll es trotzdem geschlossen werden?")
+                              : QString());
+    });
+    bind().widgetOf(m_basis.Combo1)->setFocus();
+    resize(1240, 740);
+}
+
+QBoxLayout* MasterDataView::head() {
+    auto* row = new QHBoxLayout;
+    auto* title = new QLabel(qString(m_basis.Frame1.Caption), this);
+    title->setFont(theme::scaledFont(1.25, QFont::DemiBold));
+    row->addWidget(title);
+    row->addStretch();
+    row->addWidget(bind().signButton(m_basis.Command8, QStringLiteral("?"), tr("Hilfe"),
+                                     QKeySequence::HelpContents));
+    return row;
+}
+
+QBoxLayout* MasterDataView::areaHead(const QString& title, const Control& lockedWith,
+                                     std::initializer_list<QWidget*> buttons) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    auto* label = new QLabel(title, this);
+    label->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    row->addWidget(label);
+    auto* lock = new QLabel(tr("gesperrt"), this);
+    lock->setObjectName(QStringLiteral("lock"));
+    lock->setFont(theme::scaledFont(0.88));
+    lock->setAccessibleName(tr("%1 sind gesperrt").arg(title));
+    bind().follow([lock, &lockedWith] { lock->setVisible(!lockedWith.Enabled); });
+    row->addWidget(lock);
+    row->addStretch();
+    for (QWidget* button : buttons)
+        row->addWidget(button);
+    return row;
+}
+
+QBoxLayout* MasterDataView::captioned(TextBox& box, const QString& name) {
+    TextEditor* editor = bind().line(box, QString(name).remove(u':'));
+    QLabel* caption = faintLabel(name, this);
+    caption->setBuddy(editor);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(1);
+    column->addWidget(caption);
+    column->addWidget(editor);
+    return column;
+}
+
+QBoxLayout* MasterDataView::schoolField(int index) {
+    return captioned(m_basis.Text1(index),
+                     qString(Schulfelder.at(static_cast<size_t>(index)).Beschriftung));
+}
+
+QBoxLayout* MasterDataView::pupilField(int index) {
+    return captioned(m_basis.Text2(index),
+                     qString(Schuelerfelder.at(static_cast<size_t>(index)).Beschriftung));
+}
+
+QWidget* MasterDataView::schoolArea() {
+    QFrame* frame = area(this);
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(16, 12, 16, 14);
+    column->setSpacing(7);
+    column->addLayout(
+        areaHead(tr("Schuldaten"), m_basis.Text1(0), {bind().button(m_basis.Command3, u'u')}));
+    column->addLayout(schoolField(0));
+    column->addLayout(schoolField(1));
+    column->addLayout(schoolField(2));
+    column->addLayout(schoolField(10));
+    column->addLayout(side({{schoolField(5), 3}, {schoolField(3), 5}, {schoolField(4), 3}}));
+    column->addLayout(side({{schoolField(8), 1}, {schoolField(7), 1}}));
+    column->addLayout(schoolField(9));
+    column->addStretch();
+    column->addLayout(schoolField(6));
+    column->addLayout(pathRow());
+    return frame;
+}
+
+QBoxLayout* MasterDataView::pathRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    QLabel* purpose = bind().label(m_basis.Label5);
+    purpose->setFont(theme::scaledFont(0.88));
+    row->addWidget(purpose, 1);
+    row->addWidget(bind().button(m_basis.Command7(0), u'P', TintedButton::Role::Quiet));
+    row->addWidget(bind().button(m_basis.Command7(1), u'w', TintedButton::Role::Quiet));
+    return row;
+}
+
+QWidget* MasterDataView::pupilArea() {
+    QFrame* frame = area(this);
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(16, 12, 16, 14);
+    column->setSpacing(7);
+    column->addLayout(
+        areaHead(tr("Schülerdaten"), m_basis.Text2(1),
+                 {bind().button(m_basis.Command5, u'r'),
+                  bind().button(m_basis.Command6, u'o', TintedButton::Role::Quiet),
+                  bind().button(m_basis.Command4(0), u'G', TintedButton::Role::Quiet)}));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(18);
+    row->addLayout(pupilColumn(), 2);
+    row->addLayout(pupilForm(), 4);
+    column->addLayout(row, 1);
+    return frame;
+}
+
+QBoxLayout* MasterDataView::pupilColumn() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(5);
+    QListWidget* pupils = bind().wordedList(m_basis.Combo1, tr("Nummer"),
+                                            [this](int index) { return pupilRow(index); });
+    pupils->setObjectName(QStringLiteral("compact"));
+    pupils->setMinimumWidth(245);
+    pupils->setTextElideMode(Qt::ElideRight);
+    QLabel* caption = faintLabel(tr("&Nummer:"), this);
+    caption->setBuddy(pupils);
+    column->addWidget(caption);
+    column->addWidget(pupils, 1);
+    column->addWidget(bind().button(m_basis.Command4(2), u'h'));
+    column->addWidget(bind().button(m_basis.Command4(1), u'k', TintedButton::Role::Quiet));
+    return column;
+}
+
+QBoxLayout* MasterDataView::pupilForm() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(7);
+    auto* heading = new QLabel(this);
+    heading->setFont(theme::scaledFont(1.3, QFont::DemiBold));
+    heading->setTextFormat(Qt::PlainText);
+    heading->setMinimumWidth(1);
+    bind().follow([this, heading] { heading->setText(pupilHeading()); });
+    column->addWidget(heading);
+    column->addLayout(side({{pupilField(1), 1}, {pupilField(2), 1}}));
+    column->addWidget(genderRow());
+    column->addLayout(side({{pupilField(3), 1}, {pupilField(4), 1}}));
+    column->addSpacing(6);
+    column->addLayout(workingGroups(), 1);
+    const auto group = [this](int index) {
+        return captioned(m_basis.Text3(index), tr("AG %1:").arg(index + 1));
+    };
+    column->addLayout(side({{group(0), 1}, {group(1), 1}}));
+    column->addLayout(side({{group(2), 1}, {group(3), 1}}));
+    return column;
+}
+
+// One stop of the Tab key: m and w choose, as the letters in front of the inscriptions say.
+QWidget* MasterDataView::genderRow() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(FieldSpacing);
+    constexpr std::array Keys = {Qt::Key_M, Qt::Key_W};
+    constexpr std::array Arrows = {Qt::Key_Left, Qt::Key_Right};
+    m_basis.Option1.each([&](OptionButton& option) {
+        const auto index = static_cast<size_t>(*option.index());
+        ChoiceRow* choice = bind().option(option);
+        choice->setKeyHint(QKeySequence(Keys.at(index)).toString().toLower());
+        layout->addWidget(choice, 1);
+        for (const Qt::Key key : {Keys.at(index), Arrows.at(index)}) {
+            auto* shortcut = new QShortcut(QKeySequence(key), row);
+            shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+            connect(shortcut, &QShortcut::activated, choice, &ChoiceRow::click);
+        }
+        bind().follow([this, choice, &option] {
+            const bool isStop =
+                option.value() || (*option.index() == 0 && !m_basis.Option1(1).value());
+            choice->setFocusPolicy(isStop ? Qt::StrongFocus : Qt::ClickFocus);
+        });
+    });
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* onwards = new QShortcut(QKeySequence(key), row);
+        onwards->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(onwards, &QShortcut::activated, this, [this] { focusNextChild(); });
+    }
+    return row;
+}
+
+QBoxLayout* MasterDataView::workingGroups() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    QLabel* title = bind().label(m_basis.Label3(6));
+    title->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    column->addWidget(title);
+    QLabel* purpose = bind().label(m_basis.Label4);
+    purpose->setFont(theme::scaledFont(0.88));
+    column->addWidget(purpose);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(FieldSpacing);
+    QListWidget* groups =
+        bind().wordedList(m_basis.List1, tr("Arbeitsgemeinschaften"), [this](int index) {
+            return qString(m_basis.List1.entries().at(static_cast<size_t>(index)));
+        });
+    groups->setObjectName(QStringLiteral("compact"));
+    groups->setMinimumHeight(96);
+    row->addWidget(groups, 1);
+    auto* buttons = new QVBoxLayout;
+    buttons->addWidget(bind().button(m_basis.Command2(0), u'A', TintedButton::Role::Quiet));
+    buttons->addWidget(bind().button(m_basis.Command2(1), u'L', TintedButton::Role::Quiet));
+    buttons->addStretch();
+    row->addLayout(buttons, 1);
+    column->addLayout(row, 1);
+    return column;
+}
+
+QBoxLayout* MasterDataView::actions() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    auto* text = new QLabel(this);
+    text->setWordWrap(true);
+    bind().follow([this, text] { text->setText(notice()); });
+    row->addWidget(text, 1);
+    const std::array mnemonics = {QChar(u'B'), QChar(u'E')};
+    m_basis.Command1.each([&](Button& button) {
+        TintedButton* widget =
+            bind().button(button, mnemonics.at(static_cast<size_t>(*button.index())));
+        widget->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+        widget->setMinimumSize(110, 40);
+        row->addWidget(widget);
+    });
+    return row;
+}
+
+// The button that unlocked an area is gone; the keyboard goes to the area's first box.
+void MasterDataView::followUnlocking() {
+    for (TextBox* first : {&m_basis.Text1(0), &m_basis.Text2(1)})
+        bind().follow([this, first, open = first->Enabled]() mutable {
+            if (std::exchange(open, first->Enabled) == open)
+                return;
+            QWidget* editor = bind().widgetOf(*first);
+            QMetaObject::invokeMethod(
+                editor, [editor] { editor->setFocus(); }, Qt::QueuedConnection);
+        });
+}
+
+// A pupil after the other first, then what is done once.
+void MasterDataView::orderByUse() {
+    std::vector<const Control*> order = {&m_basis.Combo1};
+    const auto add = [&order](const Control& control) { order.push_back(&control); };
+    for (const int index : {1, 2})
+        add(m_basis.Text2(index));
+    m_basis.Option1.each(add);
+    for (const int index : {3, 4})
+        add(m_basis.Text2(index));
+    m_basis.Text3.each(add);
+    for (const Control* control : std::initializer_list<const Control*>{
+             &m_basis.Command4(2), &m_basis.Command4(1), &m_basis.Command6, &m_basis.Command4(0),
+             &m_basis.Command5, &m_basis.List1, &m_basis.Command2(0), &m_basis.Command2(1),
+             &m_basis.Command3})
+        order.push_back(control);
+    for (const int index : {0, 1, 2, 10, 5, 3, 4, 8, 7, 9, 6})
+        add(m_basis.Text1(index));
+    m_basis.Command7.each(add);
+    m_basis.Command1.each(add);
+    add(m_basis.Command8);
+    for (size_t i = 1; i < order.size(); ++i)
+        setTabOrder(bind().widgetOf(*order[i - 1]), bind().widgetOf(*order[i]));
+}
+
+QString MasterDataView::pupilRow(int index) const {
+    const Schueler& pupil = m_basis.Liste.Kinder[index];
+    QString row = qString(m_basis.Combo1.entries().at(static_cast<size_t>(index)));
+    if (!pupil.Nachname.empty() || !pupil.Vorname.empty())
+        row += QStringLiteral("   %1, %2").arg(qString(pupil.Nachname), qString(pupil.Vorname));
+    return row;
+}
+
+QString MasterDataView::pupilHeading() const {
+    const QString name =
+        qString(m_basis.Text2(2).text() + u" " + m_basis.Text2(1).text()).simplified();
+    return QStringLiteral("%1   %2").arg(qString(m_basis.Combo1.Inscription), name);
+}
+
+QString MasterDataView::notice() const {
+    if (!m_basis.Command3.Enabled)
+        return tr("Die Zeugnistexte aller Kinder sind geleert.");
+    if (m_basis.SpeicherLoeschen)
+        return tr("Speichern, Hinzufügen, Löschen und eine neue Liste leeren die Zeugnistexte "
+                  "aller Kinder.");
+    return tr("Schuldaten und Schülerdaten sind gesperrt.");
+}
+
+} // namespace zeugnis

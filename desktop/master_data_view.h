@@ -1,0 +1,44 @@
+#pragma once
+
+#include "desktop/screen_window.h"
+#include "masterdata/master_data_screen.h"
+
+class QBoxLayout;
+class QGridLayout;
+class QLabel;
+
+namespace zeugnis {
+
+/// School data and class list side by side. What is locked looks like a text on paper; what can be
+/// written in has a frame. A class is typed in by the keyboard alone.
+class MasterDataView : public ScreenWindow {
+  public:
+    MasterDataView(GsBasis& screen, WindowHost& host, QWidget* below);
+
+  private:
+    QBoxLayout* head();
+    QWidget* schoolArea();
+    QBoxLayout* pathRow();
+    QWidget* pupilArea();
+    QBoxLayout* pupilColumn();
+    QBoxLayout* pupilForm();
+    QWidget* genderRow();
+    QBoxLayout* workingGroups();
+    QBoxLayout* actions();
+
+    QBoxLayout* areaHead(const QString& title, const Control& lockedWith,
+                         std::initializer_list<QWidget*> buttons);
+    QBoxLayout* captioned(TextBox& box, const QString& name);
+    QBoxLayout* schoolField(int index);
+    QBoxLayout* pupilField(int index);
+    void followUnlocking();
+    void orderByUse();
+
+    [[nodiscard]] QString pupilRow(int index) const;
+    [[nodiscard]] QString pupilHeading() const;
+    [[nodiscard]] QString notice() const;
+
+    GsBasis& m_basis;
+};
+
+} // namespace zeugnis
