@@ -1,5 +1,6 @@
 #include "desktop/views.h"
 
+#include "desktop/entry_view_34.h"
 #include "desktop/entry_view_avsv.h"
 #include "desktop/insertion_view.h"
 #include "desktop/lists_view.h"
@@ -21,6 +22,7 @@ constexpr ScreenWindow* (*Makers[])(Screen&, WindowHost&, QWidget*) = {
     makeFor<StartView, GsStart>,
     makeFor<MasterDataView, GsBasis>,
     makeFor<EntryViewAVSV, GsArbeitsverhalten>,
+    makeFor<EntryView34, GSAGFI>,
     makeFor<InsertionView, Einfuegungen>,
     makeFor<ListsView, Listen>,
 };
