@@ -1,5 +1,6 @@
 #include "desktop/views.h"
 
+#include "desktop/entry_view_12.h"
 #include "desktop/entry_view_34.h"
 #include "desktop/entry_view_avsv.h"
 #include "desktop/insertion_view.h"
@@ -22,6 +23,7 @@ constexpr ScreenWindow* (*Makers[])(Screen&, WindowHost&, QWidget*) = {
     makeFor<StartView, GsStart>,
     makeFor<MasterDataView, GsBasis>,
     makeFor<EntryViewAVSV, GsArbeitsverhalten>,
+    makeFor<EntryView12, Kompetenzen>,
     makeFor<EntryView34, GSAGFI>,
     makeFor<InsertionView, Einfuegungen>,
     makeFor<ListsView, Listen>,

@@ -8,6 +8,7 @@
 #include "shell/lists.h"
 #include "shell/screen_names.h"
 #include "shell/start_page.h"
+#include "years12/entry_screen.h"
 #include "years34/entry_screen.h"
 
 #include <array>
@@ -35,7 +36,7 @@ constexpr std::array<Eintrag, 11> Verzeichnis = {{
     {bildschirme::GsBasis, neu<GsBasis>},
     {bildschirme::GsArbeitsverhalten, neu<GsArbeitsverhalten>},
     {bildschirme::GSAVSVAenderung, nochOhneInhalt},
-    {bildschirme::Kompetenzen, nochOhneInhalt},
+    {bildschirme::Kompetenzen, neu<Kompetenzen>},
     {bildschirme::GSAGFI, neu<GSAGFI>},
     {bildschirme::GSAenderung12, nochOhneInhalt},
     {bildschirme::GSAenderung34, nochOhneInhalt},
