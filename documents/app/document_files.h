@@ -1,0 +1,43 @@
+#pragma once
+
+#include "documents/app/command_line.h"
+#include "documents/model/document.h"
+#include "platform/working_directory.h"
+
+#include <functional>
+#include <optional>
+
+/// The two files of a document: .doc for word processors, and .pdf beside it to show and print.
+namespace zeugnis::dokumente {
+
+struct Dokumentdateien {
+    Text Name; ///< of the .doc as the user knows it
+    std::filesystem::path Doc;
+    std::filesystem::path Pdf;
+};
+
+/// Writes both, first the .doc: a .doc that is younger than its .pdf has been edited since. Fails
+/// as writeWholeFile does. `stamm` may name a folder.
+Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& dokument,
+                                  const Text& stamm);
+
+/// Makes what a macro makes, or finds what is to be opened; the class document is only made if it
+/// is not there. Fails with file-not-found if there is no such document, and as its readers and
+/// writers do.
+Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Aufruf& aufruf);
+
+/// What the window shows.
+struct Anzeige {
+    Dokumentdateien Dateien;
+    std::filesystem::path Pdf;
+    Text Hinweis; ///< what the reader has to know about it; mostly empty
+};
+
+/// Turns a .doc into a .pdf and returns its path, or nothing if that cannot be done here.
+using Umwandler = std::function<std::optional<std::filesystem::path>(const std::filesystem::path&)>;
+
+/// The .pdf beside the .doc, or a fresh one if the .doc has been edited since. Fails with
+/// file-not-found if there is none and none can be made.
+Anzeige AnzeigeFinden(const Dokumentdateien& dateien, const Umwandler& umwandeln);
+
+} // namespace zeugnis::dokumente

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "behaviour/avsv_stores.h"
+#include "masterdata/school_data.h"
+
+#include <vector>
+
+namespace zeugnis::dokumente {
+
+/// Whose documents these are: the master data as they stand on disk.
+struct Stammdaten {
+    Schuldaten Schule;
+    Namensliste Liste;
+    int Jahrgang = 0;
+    Text Halbjahr; ///< "2" for year 1 whatever the file says: it has no report for the first half
+};
+
+/// Fails as the readers of Basisdaten.txt and Namen.Txt do, and with type-mismatch for a class
+/// that does not begin with a digit or a half-year that is no number.
+Stammdaten StammdatenLesen(Arbeitsverzeichnis& verzeichnis);
+
+/// The name of a class document without its extension: "3a" + "Zeugnisse" + "3" + "2".
+Text Klassenstamm(const Stammdaten& daten, TextView art);
+
+/// The texts on work and social behaviour. Fails with invalid-call if they are those of another
+/// class list: a child must never get the text of another.
+AVSVSpeicher AVSVTexteLesen(Arbeitsverzeichnis& verzeichnis, const Namensliste& liste);
+
+/// The sections that only one of the two pairs of years has, as its store keeps them.
+inline constexpr int Bereiche12 = 8;
+inline constexpr int Bereiche34 = 3;
+
+/// Their texts by section and child. Fails with invalid-call as AVSVTexteLesen does.
+using Bereichstexte = std::vector<Schuelertabelle<Text>>;
+Bereichstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten);
+
+} // namespace zeugnis::dokumente

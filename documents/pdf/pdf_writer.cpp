@@ -1,0 +1,105 @@
+#include "documents/pdf/pdf_writer.h"
+
+#include "documents/pdf/pdf_outline.h"
+#include "documents/pdf/qt_text.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace zeugnis::dokumente {
+namespace {
+
+constexpr int TwipsPerInch = 1440;
+
+void setUpPage(QPdfWriter& writer, const Text& title) {
+    writer.setTitle(qString(title));
+    writer.setCreator(QStringLiteral("Zeugnisprogramm"));
+    writer.setResolution(TwipsPerInch);
+    writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
+}
+
+void drawFooter(QPainter& painter, const LaidSection& section, int pageNumber) {
+    const Style& style = styleOf(StyleId::Fusszeile);
+    const QPoint corner(page::Left, page::Height - page::FooterToEdge - style.lineHeight);
+    const Text numbers =
+        u"Seite " + textFromNumber(pageNumber) + u" von " + textFromNumber(section.pages);
+    drawLine(painter, style, Alignment::Left, section.footer, corner, page::TextWidth);
+    drawLine(painter, style, Alignment::Right, numbers, corner, page::TextWidth);
+}
+
+class SectionPainter {
+  public:
+    SectionPainter(QPdfWriter& writer, QPainter& painter, std::vector<Bookmark>& bookmarks)
+        : m_writer(writer), m_painter(painter), m_bookmarks(bookmarks) {}
+
+    void draw(const LaidSection& section) {
+        int current = 0;
+        beginPage();
+        for (size_t i = 0; i < section.strips.size(); ++i) {
+            const LaidStrip& strip = section.strips[i];
+            const Place& place = section.places[i];
+            for (; current < place.page; ++current) {
+                drawFooter(m_painter, section, current + 1);
+                beginPage();
+            }
+            const QPoint corner(page::Left, page::Top + place.y);
+            strip.paint(m_painter, corner);
+            if (!strip.bookmark.empty())
+                m_bookmarks.push_back(
+                    {.title = strip.bookmark, .page = m_page, .fromTop = corner.y() / 20});
+        }
+        drawFooter(m_painter, section, current + 1);
+    }
+
+  private:
+    void beginPage() {
+        if (m_page >= 0)
+            m_writer.newPage();
+        ++m_page;
+    }
+
+    QPdfWriter& m_writer;
+    QPainter& m_painter;
+    std::vector<Bookmark>& m_bookmarks;
+    int m_page = -1;
+};
+
+} // namespace
+
+std::vector<int> LaidDocument::pagesPerSection() const {
+    std::vector<int> pages;
+    for (const LaidSection& section : sections)
+        pages.push_back(section.pages);
+    return pages;
+}
+
+LaidDocument layOut(const Document& document) {
+    LaidDocument laid{.title = document.title, .sections = {}};
+    for (const Section& section : document.sections) {
+        LaidSection one{.footer = section.footer,
+                        .strips = layBlocks(section.blocks, page::TextWidth),
+                        .places = {}};
+        one.places = paginate(one.strips, page::TextHeight);
+        one.pages = one.places.empty() ? 1 : one.places.back().page + 1;
+        laid.sections.push_back(std::move(one));
+    }
+    return laid;
+}
+
+std::string pdfFromLayout(const LaidDocument& document) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    std::vector<Bookmark> bookmarks;
+    {
+        QPdfWriter writer(&buffer);
+        setUpPage(writer, document.title);
+        QPainter painter(&writer);
+        SectionPainter sections(writer, painter, bookmarks);
+        for (const LaidSection& section : document.sections)
+            sections.draw(section);
+    }
+    return withBookmarks(buffer.data().toStdString(), bookmarks);
+}
+
+} // namespace zeugnis::dokumente

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "documents/pdf/layout.h"
+
+namespace zeugnis::dokumente {
+
+struct LaidSection {
+    Text footer;
+    std::vector<LaidStrip> strips;
+    std::vector<Place> places;
+    int pages = 1;
+};
+
+/// A document broken into lines and pages. Needs a QGuiApplication, for the fonts.
+struct LaidDocument {
+    Text title;
+    std::vector<LaidSection> sections;
+
+    [[nodiscard]] std::vector<int> pagesPerSection() const;
+};
+
+LaidDocument layOut(const Document& document);
+
+/// The bytes of a PDF file with embedded fonts, title and bookmarks.
+std::string pdfFromLayout(const LaidDocument& document);
+
+} // namespace zeugnis::dokumente

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <QString>
+
+namespace zeugnis::dokumente {
+
+/// Both sides are UTF-16, so these only copy.
+inline QString qString(TextView text) {
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline Text fromQString(const QString& text) { return text.toStdU16String(); }
+
+} // namespace zeugnis::dokumente

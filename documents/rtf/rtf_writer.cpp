@@ -1,0 +1,160 @@
+#include "documents/rtf/rtf_writer.h"
+
+#include "documents/rtf/rtf_styles.h"
+#include "documents/rtf/rtf_text.h"
+
+namespace zeugnis::dokumente {
+namespace {
+
+std::string hexadecimal(std::string_view bytes) {
+    constexpr std::string_view Digits = "0123456789abcdef";
+    std::string hex;
+    hex.reserve(bytes.size() * 2);
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        hex += Digits[value >> 4U];
+        hex += Digits[value & 0xFU];
+    }
+    return hex;
+}
+
+int hundredthsOfMillimetres(Twips length) { return length * 2540 / 1440; }
+
+std::string field(const char* instruction, int shown) {
+    return std::string("{\\field{\\*\\fldinst ") + instruction + "}{\\fldrslt " +
+           std::to_string(shown) + "}}";
+}
+
+std::string content(const Paragraph& paragraph) {
+    std::string rtf;
+    if (!paragraph.label.empty())
+        rtf += rtfText(paragraph.label) + "\\tab ";
+    for (const Run& run : paragraph.runs)
+        rtf += run.bold ? "{\\b " + rtfText(run.text) + "}" : rtfText(run.text);
+    return rtf;
+}
+
+std::string opening(const Paragraph& paragraph, const char* place) {
+    const Style& style = styleOf(paragraph.style);
+    std::string rtf = std::string("\\pard\\plain") + place + rtfProperties(style);
+    if (paragraph.keepWithNext && !style.keepWithNext)
+        rtf += "\\keepn";
+    if (paragraph.keepWithNext)
+        rtf += "\\keep";
+    if (paragraph.startsPage)
+        rtf += "\\pagebb";
+    return rtf + " ";
+}
+
+std::string cellContent(const Cell& cell) {
+    std::string rtf;
+    for (const Paragraph& paragraph : cell.paragraphs) {
+        if (!rtf.empty())
+            rtf += "\\par\n";
+        rtf += opening(paragraph, "\\intbl") + content(paragraph);
+    }
+    return (rtf.empty() ? "\\pard\\plain\\intbl " : rtf) + "\\cell\n";
+}
+
+std::string cellEdge(const Table& table, Twips edge) {
+    std::string rtf;
+    if (table.grid)
+        for (const char* side : {"\\clbrdrt", "\\clbrdrl", "\\clbrdrb", "\\clbrdrr"})
+            rtf += side + rtfLine(RuleWidth, RuleColour);
+    return rtf + rtfNumber("\\cellx", edge);
+}
+
+std::string rowFromTable(const Table& table, const Row& row) {
+    std::string rtf = rtfNumber("\\trowd\\trleft0\\trkeep\\trgaph", table.grid ? CellPadding : 0);
+    for (const Twips edge : columnEdges(table, page::TextWidth))
+        rtf += cellEdge(table, edge);
+    rtf += "\n";
+    for (const Cell& cell : row)
+        rtf += cellContent(cell);
+    return rtf + "\\row\n";
+}
+
+// What stands between the end of a block and whatever comes next; a paragraph needs an end,
+// a table brings its own.
+struct Piece {
+    std::string rtf;
+    bool needsEnd;
+};
+
+struct BlockToRtf {
+    Piece operator()(const Paragraph& paragraph) const {
+        return {opening(paragraph, "") + content(paragraph), true};
+    }
+
+    Piece operator()(const Table& table) const {
+        std::string rtf;
+        for (const Row& row : table.rows)
+            rtf += rowFromTable(table, row);
+        return {rtf, false};
+    }
+
+    // With an exact line height a picture would be cut off.
+    Piece operator()(const Image& image) const {
+        return {"\\pard\\plain" + rtfProperties(styleOf(StyleId::Bildzeile)) +
+                    "\\sl0 {\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv " +
+                    rtfText(image.description) + "}}}\\pngblip" +
+                    rtfNumber("\\picw", hundredthsOfMillimetres(image.width)) +
+                    rtfNumber("\\pich", hundredthsOfMillimetres(image.height)) +
+                    rtfNumber("\\picwgoal", image.width) + rtfNumber("\\pichgoal", image.height) +
+                    "\n" + hexadecimal(image.png) + "}",
+                true};
+    }
+};
+
+std::string footer(const Section& section, int pages) {
+    return "{\\footer\\pard\\plain" + rtfProperties(styleOf(StyleId::Fusszeile)) +
+           rtfNumber("\\tqr\\tx", page::TextWidth) + " " + rtfText(section.footer) +
+           "\\tab Seite " + field("PAGE", 1) + " von " + field("SECTIONPAGES", pages) + "\\par}\n";
+}
+
+// The end of a section is also the end of its last paragraph. Behind a table there has to be one;
+// it is as small as can be, so that it does not fill a page of its own.
+std::string sectionContent(const Section& section, const char* end) {
+    constexpr const char* SmallParagraph = "\\pard\\plain\\fs2\\sl-20\\slmult0 ";
+    std::string rtf;
+    bool needsEnd = false;
+    for (const Block& block : section.blocks) {
+        if (needsEnd)
+            rtf += "\\par\n";
+        Piece piece = std::visit(BlockToRtf{}, block);
+        rtf += piece.rtf;
+        needsEnd = piece.needsEnd;
+    }
+    return rtf + (needsEnd ? "" : SmallParagraph) + end + "\n";
+}
+
+std::string pageSetup() {
+    return rtfNumber("\\paperw", page::Width) + rtfNumber("\\paperh", page::Height) +
+           rtfNumber("\\margl", page::Left) + rtfNumber("\\margr", page::Right) +
+           rtfNumber("\\margt", page::Top) + rtfNumber("\\margb", page::Bottom) +
+           "\\widowctrl\\hyphauto0\\viewkind1\n";
+}
+
+std::string sectionSetup() {
+    return rtfNumber("\\sectd\\sbkpage\\pgndec\\pgnrestart\\pgnstarts1\\footery",
+                     page::FooterToEdge) +
+           rtfNumber("\\pgwsxn", page::Width) + rtfNumber("\\pghsxn", page::Height) +
+           rtfNumber("\\marglsxn", page::Left) + rtfNumber("\\margrsxn", page::Right) +
+           rtfNumber("\\margtsxn", page::Top) + rtfNumber("\\margbsxn", page::Bottom) + "\n";
+}
+
+} // namespace
+
+std::string rtfFromDocument(const Document& document, const std::vector<int>& pages) {
+    std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\\deflang1031\n" + rtfTables() +
+                      "{\\info{\\title " + rtfText(document.title) + "}}\n" + pageSetup();
+    for (size_t i = 0; i < document.sections.size(); ++i) {
+        const Section& section = document.sections[i];
+        const bool isLast = i + 1 == document.sections.size();
+        rtf += sectionSetup() + footer(section, pages.at(i)) +
+               sectionContent(section, isLast ? "\\par" : "\\sect");
+    }
+    return rtf + "}\n";
+}
+
+} // namespace zeugnis::dokumente

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "documents/app/document_files.h"
+#include "documents/window/page_view.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class QListWidget;
+class QPushButton;
+
+namespace zeugnis::dokumente {
+
+/// Shows a document as it will be printed, and offers what can be done with it.
+class PreviewWindow : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Gives the document's present state; asked at the beginning and whenever the .doc has been
+    /// changed by another program. May fail.
+    using Nachschauen = std::function<Anzeige()>;
+
+    explicit PreviewWindow(Nachschauen nachschauen, QWidget* parent = nullptr);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QWidget* actionRow();
+    QWidget* zoomRow();
+    QWidget* contentsColumn();
+    void addShortcuts();
+    QPushButton* button(const QString& text, const QString& toolTip,
+                        void (PreviewWindow::*action)());
+
+    void load();
+    void reloadIfChanged();
+    void showPosition();
+    void goTo(int row);
+    void showZoom();
+    void chooseZoom(int index);
+    void print();
+    void saveAs();
+    void edit();
+
+    Nachschauen m_nachschauen;
+    Anzeige m_anzeige;
+    std::filesystem::file_time_type m_stand;
+    std::unique_ptr<PdfPages> m_pages;
+    std::vector<Inhaltszeile> m_lines;
+
+    PageView* m_view;
+    QListWidget* m_contents;
+    QComboBox* m_zoom;
+    QLabel* m_hint;
+    QLabel* m_position;
+    QPushButton* m_edit;
+};
+
+} // namespace zeugnis::dokumente

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QEventLoop>
+#include <QProgressDialog>
+#include <QTimer>
+#include <chrono>
+#include <future>
+
+namespace zeugnis::dokumente {
+
+/// Runs `work` in a thread of its own and returns what it returns, or fails as it fails. The
+/// windows stay alive meanwhile; after half a second `text` says what is being done.
+template <typename Work>
+auto withProgress(const QString& text, QWidget* parent, Work work) {
+    auto result = std::async(std::launch::async, std::move(work));
+    QProgressDialog dialog(text, QString(), 0, 0, parent);
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.setMinimumDuration(500);
+    dialog.setValue(0);
+    QEventLoop loop;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &loop, [&] {
+        if (result.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
+            loop.quit();
+    });
+    watch.start(20);
+    loop.exec();
+    return result.get();
+}
+
+} // namespace zeugnis::dokumente
