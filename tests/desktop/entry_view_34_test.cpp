@@ -1,0 +1,106 @@
+#include "controls/user_actions.h"
+#include "desktop/choice_row.h"
+#include "desktop/window_host.h"
+#include "shell/screen_names.h"
+#include "tests/desktop/settle_layouts.h"
+#include "tests/support/test_programm.h"
+#include "years34/entry_screen.h"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QTest>
+
+namespace zeugnis::test {
+namespace {
+
+/// The delivered installation with its first child selected.
+class EntryView34Test : public testing::Test {
+  protected:
+    EntryView34Test() {
+        std::filesystem::copy(std::filesystem::path(ZEUGNIS_SOURCE_FOLDER) / "install",
+                              installation.path(), std::filesystem::copy_options::recursive);
+        host.run([this] {
+            machine.programm.zeigen(bildschirme::GsStart);
+            machine.programm.zeigen(bildschirme::GSAGFI);
+        });
+        screen = dynamic_cast<GSAGFI*>(machine.programm.find(bildschirme::GSAGFI));
+        host.run([this] { user::pick(screen->Combo1, 0); });
+        for (QWidget* one : QApplication::topLevelWidgets())
+            if (one->isVisible() && one->windowTitle() == QStringLiteral("Förder Interessen"))
+                window = one;
+    }
+
+    template <typename W>
+    W* named(const QString& name) {
+        for (auto* one : window->findChildren<W*>())
+            if (one->isVisible() && one->accessibleName() == name)
+                return one;
+        ADD_FAILURE() << name.toStdString();
+        return nullptr;
+    }
+    void turnTo(int page) {
+        host.run([&] { user::click(screen->Command2(page)); });
+        settleLayouts();
+    }
+
+    TemporaryFolder installation;
+    TestProgramm machine{installation};
+    WindowHost host{machine.programm};
+    GSAGFI* screen = nullptr;
+    QWidget* window = nullptr;
+};
+
+TEST_F(EntryView34Test, ShowsEveryInscriptionWholeAndNamesEveryWidget) {
+    for (const QSize size : {QSize(1270, 760), QSize(1000, 640)}) {
+        window->resize(size);
+        for (const int page : {0, 1, 2}) {
+            turnTo(page);
+            int rows = 0;
+            for (const QWidget* one : window->findChildren<QWidget*>()) {
+                if (!one->isVisible() || one->focusPolicy() == Qt::NoFocus)
+                    continue;
+                const auto* button = qobject_cast<const QAbstractButton*>(one);
+                EXPECT_FALSE(one->accessibleName().isEmpty() &&
+                             (button == nullptr || button->text().isEmpty()))
+                    << page << one->metaObject()->className();
+                if (qobject_cast<const ChoiceRow*>(one) == nullptr)
+                    continue;
+                ++rows;
+                EXPECT_GE(one->height(), one->heightForWidth(one->width()))
+                    << page << button->text().toStdString();
+            }
+            EXPECT_EQ(rows, page == 0 ? 10 : page == 1 ? 21 : 17);
+        }
+    }
+}
+
+TEST_F(EntryView34Test, PictureIsTickedAndItsSentenceShown) {
+    turnTo(1);
+    auto* badge = named<ChoiceRow>(QStringLiteral("Radfahrprüfung"));
+    auto* text = named<QPlainTextEdit>(QStringLiteral("Zeugnistext zu den Interessen"));
+    QTest::mouseClick(badge, Qt::LeftButton);
+    EXPECT_TRUE(badge->isChecked());
+    EXPECT_EQ(text->toPlainText(), QStringLiteral("Die Radfahrprüfung hat Mats bestanden. "));
+    QTest::keyClick(badge, Qt::Key_Space);
+    EXPECT_FALSE(badge->isChecked());
+    EXPECT_EQ(text->toPlainText(), QString());
+}
+
+TEST_F(EntryView34Test, PageTakesNoChoiceWhileTheSignStandsOverIt) {
+    turnTo(2);
+    host.run([this] { user::click(screen->Check2(0)); });
+    auto* text = named<QPlainTextEdit>(QStringLiteral("Zeugnistext zu den Bemerkungen"));
+    QTest::mouseClick(text->viewport(), Qt::LeftButton);
+    EXPECT_NE(named<QWidget>(QStringLiteral("Der Text ist gesperrt")), nullptr);
+    const QString before = text->toPlainText();
+    EXPECT_FALSE(before.isEmpty());
+    for (auto* row : window->findChildren<ChoiceRow*>())
+        if (row->isVisible())
+            QTest::mouseClick(row, Qt::LeftButton);
+    EXPECT_EQ(text->toPlainText(), before);
+    QTest::keyClicks(text, QStringLiteral("x"));
+    EXPECT_EQ(text->toPlainText().size(), before.size() + 1);
+}
+
+} // namespace
+} // namespace zeugnis::test

@@ -1,0 +1,76 @@
+#include "documents/app/document_files.h"
+#include "tests/documents/report_installation.h"
+#include "tests/support/failure_of.h"
+
+#include <gtest/gtest.h>
+
+namespace zeugnis::dokumente {
+namespace {
+
+namespace fs = std::filesystem;
+using test::failureOf;
+
+class DocumentFiles : public testing::Test {
+  protected:
+    DocumentFiles() { installation.write({{test::schueler(u"Azra", u"Öz"), u"Azra liest.", u""}}); }
+
+    Dokumentdateien open(const Text& document, const Text& macro = {}) {
+        Arbeitsverzeichnis verzeichnis(installation.path());
+        return DokumentBereitstellen(verzeichnis, {.Dokument = document, .Makro = macro});
+    }
+
+    test::ReportInstallation installation;
+};
+
+std::optional<fs::path> cannotConvert(const fs::path&) { return std::nullopt; }
+
+TEST_F(DocumentFiles, TheMacroWritesBothFilesAnew) {
+    installation.write(u"3aZeugnisse32.doc", u"alt");
+    const Dokumentdateien files = open(u"zeugnisseschreiben.DOC", u"ZEUGNISSESCHREIBEN");
+    EXPECT_EQ(files.Name, u"3aZeugnisse32.doc");
+    EXPECT_EQ(installation.read(u"3aZeugnisse32.doc").substr(0, 6), u"{\\rtf1");
+    EXPECT_EQ(installation.read(u"3aZeugnisse32.pdf").substr(0, 5), u"%PDF-");
+    EXPECT_EQ(AnzeigeFinden(files, cannotConvert).Hinweis, u"");
+}
+
+TEST_F(DocumentFiles, OpeningMakesTheReportOnlyIfItIsMissing) {
+    open(u"3AZEUGNISSE32.DOC");
+    EXPECT_TRUE(installation.has(u"3aZeugnisse32.pdf"));
+    installation.write(u"3aZeugnisse32.doc", u"von Hand");
+    open(u"3aZeugnisse32.doc");
+    EXPECT_EQ(installation.read(u"3aZeugnisse32.doc"), u"von Hand");
+}
+
+TEST_F(DocumentFiles, FindsAHelpTextInItsFolder) {
+    fs::create_directories(installation.path() / "Texte");
+    installation.write(u"Texte/Hilfe1.doc", u"a");
+    installation.write(u"Texte/Hilfe1.pdf", u"b");
+    EXPECT_EQ(open(u"texte\\hilfe1.doc").Pdf.filename(), "Hilfe1.pdf");
+    EXPECT_EQ(failureOf([&] { open(u"Texte\\Hilfe2.doc"); }), "file-not-found");
+}
+
+TEST_F(DocumentFiles, NamesWhatThereIsNotYet) {
+    const Text sentence = test::failureSentenceOf([&] { open(u"KlListe.doc", u"Klassenliste"); });
+    EXPECT_NE(sentence.find(u"„KlListe.doc“"), Text::npos);
+    EXPECT_EQ(failureOf([&] { open(u"3aZeugnisliste32.doc"); }), "file-not-found");
+    EXPECT_EQ(failureOf([&] { open(u"Anderswo\\a.doc"); }), "path-not-found");
+}
+
+TEST_F(DocumentFiles, ShowsAnEditedDocumentAfreshOrSaysThatItCannot) {
+    const Dokumentdateien files = open(u"3aZeugnisse32.doc");
+    installation.makeYounger("3aZeugnisse32.doc", "3aZeugnisse32.pdf");
+    const Anzeige former = AnzeigeFinden(files, cannotConvert);
+    EXPECT_EQ(former.Pdf, files.Pdf);
+    EXPECT_NE(former.Hinweis.find(u"Stand davor"), Text::npos);
+    const Anzeige fresh = AnzeigeFinden(files, [&](const fs::path& doc) {
+        EXPECT_EQ(doc, files.Doc);
+        return std::optional(fs::path("neu.pdf"));
+    });
+    EXPECT_EQ(fresh.Pdf, "neu.pdf");
+
+    fs::remove(files.Pdf);
+    EXPECT_EQ(failureOf([&] { AnzeigeFinden(files, cannotConvert); }), "file-not-found");
+}
+
+} // namespace
+} // namespace zeugnis::dokumente

@@ -1,0 +1,107 @@
+#include "documents/app/document_files.h"
+#include "documents/window/preview_window.h"
+#include "tests/documents/report_installation.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+namespace zeugnis::dokumente {
+namespace {
+
+class PreviewWindowTest : public testing::Test {
+  protected:
+    PreviewWindowTest() {
+        for (const char16_t* name : {u"Ahlers", u"Bäcker", u"Çelik"})
+            m_children.push_back({test::schueler(u"Kim", name), test::saetze(70), u""});
+        files = make(m_children);
+        window = std::make_unique<PreviewWindow>(
+            [this] { return AnzeigeFinden(files, [this](const auto&) { return m_converted; }); });
+        window->resize(1000, 700);
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        contents = window->findChild<QListWidget*>();
+        view = window->findChild<PageView*>();
+        hint = window->findChild<QLabel*>(QStringLiteral("hinweis"));
+    }
+
+    Dokumentdateien make(const std::vector<test::Zeugniskind>& children) {
+        m_installation.write(children);
+        Arbeitsverzeichnis verzeichnis(m_installation.path());
+        return DokumentBereitstellen(
+            verzeichnis, {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"});
+    }
+
+    // As if a word processor had saved it.
+    void edit() { m_installation.makeYounger("3aZeugnisse32.doc", "3aZeugnisse32.pdf"); }
+
+    void returnToWindow() {
+        QEvent event(QEvent::ActivationChange);
+        QApplication::setActiveWindow(window.get());
+        QApplication::sendEvent(window.get(), &event);
+    }
+
+    Dokumentdateien files;
+    std::unique_ptr<PreviewWindow> window;
+    QListWidget* contents = nullptr;
+    PageView* view = nullptr;
+    QLabel* hint = nullptr;
+
+  private:
+    test::ReportInstallation m_installation;
+    std::vector<test::Zeugniskind> m_children;
+    std::optional<std::filesystem::path> m_converted;
+};
+
+TEST_F(PreviewWindowTest, TheListLeadsToTheChildrenAndFollowsTheScrolling) {
+    ASSERT_EQ(contents->count(), 3);
+    EXPECT_EQ(contents->item(2)->text(), QStringLiteral("Kim Çelik"));
+    contents->setFocus();
+    QTest::keyClick(contents, Qt::Key_End);
+    EXPECT_EQ(view->currentPage(), 4);
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Home);
+    EXPECT_EQ(contents->currentRow(), 0);
+    EXPECT_EQ(view->currentPage(), 0);
+}
+
+TEST_F(PreviewWindowTest, KeysChangeTheSizeOfTheView) {
+    const auto* zoom = window->findChild<QComboBox*>();
+    EXPECT_EQ(zoom->currentText(), QStringLiteral("100 %"));
+    QTest::keyClick(window.get(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(zoom->currentText(), QStringLiteral("125 %"));
+    QTest::keyClick(window.get(), Qt::Key_Minus, Qt::ControlModifier);
+    QTest::keyClick(window.get(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(view->factor(), 0.9);
+    QTest::keyClick(window.get(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(zoom->currentText(), QStringLiteral("Ganze Seite"));
+    EXPECT_LT(view->factor(), 0.9);
+}
+
+TEST_F(PreviewWindowTest, SaysThatTheDocumentWasEditedMeanwhile) {
+    EXPECT_TRUE(hint->isHidden());
+    edit();
+    returnToWindow();
+    EXPECT_FALSE(hint->isHidden());
+    EXPECT_TRUE(hint->text().contains(QStringLiteral("Stand davor")));
+}
+
+TEST_F(PreviewWindowTest, CanBeUsedByKeyboardAndScreenReader) {
+    for (const QWidget* widget : window->findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget->isHidden())
+            continue;
+        const auto* button = qobject_cast<const QPushButton*>(widget);
+        EXPECT_TRUE(!widget->accessibleName().isEmpty() ||
+                    (button != nullptr && button->text().contains(u'&')))
+            << widget->metaObject()->className();
+    }
+    EXPECT_TRUE(view->accessibleDescription().contains(QStringLiteral("Kim Ahlers")))
+        << view->accessibleDescription().toStdString();
+}
+
+} // namespace
+} // namespace zeugnis::dokumente

@@ -1,0 +1,81 @@
+#include "platform/whole_file.h"
+
+#include "tests/support/failure_of.h"
+#include "tests/support/test_installation.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace zeugnis::test {
+namespace {
+namespace fs = std::filesystem;
+
+class WholeFile : public testing::Test {
+  protected:
+    TemporaryFolder folder;
+    Arbeitsverzeichnis directory{folder.path()};
+};
+
+TEST_F(WholeFile, SaysWhyItCannotReadOrWrite) {
+    fs::create_directory(folder.path() / "Ordner.txt");
+    EXPECT_EQ(failureOf([&] { readWholeFile(directory, u"fehlt.txt"); }), "file-not-found");
+    EXPECT_EQ(failureOf([&] { readWholeFile(directory, u"Daten\\x.txt"); }), "path-not-found");
+    EXPECT_EQ(failureOf([&] { readWholeFile(directory, u"Ordner.txt"); }), "access-denied");
+    EXPECT_EQ(failureOf([&] { writeWholeFile(directory, u"Ordner.txt", "x"); }), "access-denied");
+    EXPECT_EQ(failureSentenceOf([&] { readWholeFile(directory, u"fehlt.txt"); }),
+              u"Die Datei „fehlt.txt“ kann nicht gelesen werden: Sie ist nicht vorhanden.");
+}
+
+TEST_F(WholeFile, FullDiskIsAFailureThatNamesTheFile) {
+    fs::create_symlink("/dev/full", folder.path() / "voll.txt");
+    const auto write = [&] { writeWholeFile(directory, u"voll.txt", "Inhalt"); };
+    EXPECT_EQ(failureOf(write), "disk-full");
+    EXPECT_EQ(failureSentenceOf(write),
+              u"Die Datei „voll.txt“ kann nicht geschrieben werden: Auf dem Datenträger ist kein "
+              u"Platz mehr frei.");
+}
+
+// Lets no file of this process grow beyond some bytes.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_former);
+        static_cast<void>(std::signal(SIGXFSZ, m_signal));
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    rlimit m_former{};
+    void (*m_signal)(int);
+};
+
+TEST_F(WholeFile, FailedWriteLeavesTheFormerContent) {
+    folder.write(u"Speicher.txt", u"alter Inhalt");
+    std::string_view kind;
+    {
+        const FileSizeLimit limit(100);
+        kind =
+            failureOf([&] { writeWholeFile(directory, u"Speicher.txt", std::string(5000, 'x')); });
+    }
+    EXPECT_EQ(kind, "disk-full");
+    EXPECT_EQ(folder.read(u"Speicher.txt"), u"alter Inhalt");
+}
+
+TEST_F(WholeFile, CopiesOverAnotherFileWhateverItsCase) {
+    folder.write(u"TexteAV.txt", u"neu\r\n");
+    folder.write(u"Standard/TexteAVStandard.txt", u"alter, längerer Inhalt\r\n");
+    copyWholeFile(directory, u"TEXTEAV.Txt", u"Standard\\TexteAVStandard.Txt");
+    EXPECT_EQ(folder.read(u"Standard/TexteAVStandard.txt"), u"neu\r\n");
+    EXPECT_FALSE(folder.has(u"Standard/TexteAVStandard.Txt"));
+}
+
+} // namespace
+} // namespace zeugnis::test
