@@ -17,8 +17,8 @@ ListsView::ListsView(Listen& screen, WindowHost& host, QWidget* below)
         const int index = *button.index();
         if (index == screen.Command1.last())
             layout->addSpacing(12);
-        const auto role = index == screen.Command1.last() ? TintedButton::Role::Normal
-                                                          : TintedButton::Role::Main;
+        const auto role =
+            index == screen.Command1.last() ? TintedButton::Role::Normal : TintedButton::Role::Main;
         layout->addWidget(bind().button(button, Mnemonics[index], role));
     });
     layout->addStretch();

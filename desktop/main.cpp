@@ -40,8 +40,7 @@ int main(int argc, char** argv) {
     dialogs.parent = [&host] { return host.dialogParent(); };
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
-        &host,
-        [&] { host.run([&program] { program.zeigen(zeugnis::bildschirme::GsStart); }); },
+        &host, [&] { host.run([&program] { program.zeigen(zeugnis::bildschirme::GsStart); }); },
         Qt::QueuedConnection);
     return QApplication::exec();
 }

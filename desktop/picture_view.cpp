@@ -24,7 +24,8 @@ void PictureView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
     const QSize shown = m_pixmap.size().scaled(size(), Qt::KeepAspectRatio);
-    const QRect place(QPoint((width() - shown.width()) / 2, (height() - shown.height()) / 2), shown);
+    const QRect place(QPoint((width() - shown.width()) / 2, (height() - shown.height()) / 2),
+                      shown);
     if (!m_pixmap.hasAlpha()) {
         QPainterPath rounded;
         rounded.addRoundedRect(place, 8, 8);

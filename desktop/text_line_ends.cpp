@@ -5,9 +5,7 @@
 namespace zeugnis {
 namespace {
 
-size_t unitLength(TextView text, size_t at) {
-    return text.substr(at, 2) == Zeilenende ? 2 : 1;
-}
+size_t unitLength(TextView text, size_t at) { return text.substr(at, 2) == Zeilenende ? 2 : 1; }
 
 } // namespace
 

@@ -22,8 +22,8 @@ QString foundProgram(const QString& name) {
 bool documentExists(const QString& name, const std::filesystem::path& programFolder) {
     try {
         std::error_code ignored;
-        return std::filesystem::exists(
-            Arbeitsverzeichnis(programFolder).pfad(fromQString(name)), ignored);
+        return std::filesystem::exists(Arbeitsverzeichnis(programFolder).pfad(fromQString(name)),
+                                       ignored);
     } catch (const Laufzeitfehler&) {
         return false; // its folder is missing
     }
@@ -34,7 +34,8 @@ bool documentExists(const QString& name, const std::filesystem::path& programFol
 void WordLauncher::start(const Text& commandLine, const std::filesystem::path& programFolder) {
     QStringList words = qString(commandLine).split(u' ', Qt::SkipEmptyParts);
     const QString word = foundProgram(words.takeFirst());
-    const bool byWord = !word.isEmpty() && !words.isEmpty() && documentExists(words[0], programFolder);
+    const bool byWord =
+        !word.isEmpty() && !words.isEmpty() && documentExists(words[0], programFolder);
     const QString program = byWord ? word : m_ownFolder + QStringLiteral("/zeugnisdokumente");
     if (!QProcess::startDetached(program, words, QString::fromStdString(programFolder.string())))
         throw Laufzeitfehler(Fehlerart::ProgramNotFound,
