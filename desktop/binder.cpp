@@ -83,7 +83,7 @@ void Binder::add(Control& control, QWidget& widget, std::function<void()> refres
     m_widgets[&control] = &widget;
     m_controls[&widget] = &control;
     widget.installEventFilter(this);
-    m_refreshes.push_back([&control, &widget, show = std::move(refresh)] {
+    m_refreshes.emplace_back([&control, &widget, show = std::move(refresh)] {
         show();
         widget.setEnabled(control.Enabled);
         // A widget without a parent would become a window of its own.
@@ -293,7 +293,7 @@ void Binder::timer(Timer& control) {
     auto* widget = new QTimer(this);
     connect(widget, &QTimer::timeout, this,
             [this, &control] { m_host.run([&] { user::tick(control); }); });
-    m_refreshes.push_back([&control, widget] {
+    m_refreshes.emplace_back([&control, widget] {
         if (control.Enabled == widget->isActive())
             return;
         if (control.Enabled)

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int MarkSize = 16;
 constexpr int Padding = 8;
-constexpr int HintWidth = 16;
+constexpr int HintWidth = 20;
 constexpr int TopPadding = 4;
 constexpr int CompactTopPadding = 1;
 constexpr int PictureSize = 56;

@@ -8,6 +8,7 @@
 #include "desktop/theme.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -63,6 +64,8 @@ QLabel* nextStep(Binder& binder, Label& label) {
     widget->setFont(theme::scaledFont(1.4));
     widget->setAlignment(Qt::AlignCenter);
     widget->setMargin(40);
+    // Takes the room of the pages, so that the rows of buttons keep their height.
+    widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     return widget;
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/screen_window.h"
 #include "years34/entry_screen.h"
 
+class QBoxLayout;
 class QGridLayout;
 class QLayout;
 class QVBoxLayout;
