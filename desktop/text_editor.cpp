@@ -47,6 +47,17 @@ bool isTyped(const QKeyEvent& event) {
            (modifiers == Qt::NoModifier || altGr);
 }
 
+// Alt with a letter brings a button. Where that is disabled, the letter is not meant for the text.
+bool isForAButton(const QKeyEvent& event) {
+#ifdef Q_OS_MACOS
+    Q_UNUSED(event) // there it writes special characters
+    return false;
+#else
+    return (event.modifiers() & ~Qt::ShiftModifier) == Qt::AltModifier && !event.text().isEmpty() &&
+           event.text()[0].isPrint();
+#endif
+}
+
 } // namespace
 
 TextEditor::TextEditor(TextBox& box, WindowHost& host, QWidget* parent, Lines lines)
@@ -180,6 +191,8 @@ void TextEditor::keyPressEvent(QKeyEvent* event) {
         ownAction([this] { user::doubleClick(m_box); });
     else if (isTyped(*event))
         ownAction([this, text = fromQString(event->text())] { user::type(m_box, text); });
+    else if (isForAButton(*event))
+        event->ignore();
     else
         QPlainTextEdit::keyPressEvent(event);
 }

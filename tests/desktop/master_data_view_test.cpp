@@ -61,6 +61,9 @@ class MasterDataViewTest : public MasterDataTest {
 
 TEST_F(MasterDataViewTest, TypesPupilAfterPupilWithoutTheMouse) {
     EXPECT_EQ(QApplication::focusWidget(), widget<TextEditor>("Nachname"));
+    QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_Y, QStringLiteral("y"),
+                        Qt::AltModifier);
+    EXPECT_EQ(widget<TextEditor>("Nachname")->toPlainText(), QStringLiteral("N1"));
     press(Qt::Key_G, Qt::AltModifier);
     for (const char* const child : {"Ehlers", "Groth"}) {
         if (QLatin1String(child) == QLatin1String("Groth"))

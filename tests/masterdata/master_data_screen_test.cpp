@@ -89,6 +89,22 @@ TEST_F(MasterDataScreen, OpensAClassOf35ButNotOf36) {
     EXPECT_EQ(failureOf([&] { opened(); }), "index-out-of-range");
 }
 
+TEST_F(MasterDataScreen, TakesTheLastNumberOfAWronglyNumberedListForItsLength) {
+    prepare(1);
+    installation.write(u"Daten/Namen.Txt",
+                       u"1,\"3a\",\"A\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n"
+                       u"4,\"3b\",\"B\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n"
+                       u"3,\"3c\",\"C\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n");
+    GsBasis& screen = opened();
+    EXPECT_EQ(screen.Combo1.entries(), (std::vector<Text>{u"01", u"02", u"03"}));
+    user::click(screen.Text1(6));
+    user::click(screen.Command1(0));
+    // C followed a 4, so it stood behind the end.
+    EXPECT_EQ(names(), u"1,\"3c\",\"A\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n"
+                       u"2,\"3c\",\"B\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n"
+                       u"3,\"3c\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n");
+}
+
 TEST_F(MasterDataScreen, ClosesTheGapOfADeletedPupilAndShowsTheFirst) {
     GsBasis& screen = unlocked(11);
     user::click(screen.Command1(0));
