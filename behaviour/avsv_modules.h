@@ -40,4 +40,18 @@ int KategorienVon(Abschnitt abschnitt);
 Bausteine TexteLadenAV(Arbeitsverzeichnis& verzeichnis);
 Bausteine TexteLadenSV(Arbeitsverzeichnis& verzeichnis);
 
+/// The two module files of a section, seen from the folder Daten.
+struct Formulierungsdateien {
+    TextView Kategorien;
+    TextView Texte;
+};
+
+/// Read a section as the editor needs it: as it stands, with all blanks. Fail as above.
+Bausteine FormulierungenLadenAV(Arbeitsverzeichnis& verzeichnis, const Formulierungsdateien& namen);
+Bausteine FormulierungenLadenSV(Arbeitsverzeichnis& verzeichnis, const Formulierungsdateien& namen);
+
+/// Writes the four files anew: seven and six categories, ten lines each.
+void FormulierungenSchreiben(Arbeitsverzeichnis& verzeichnis, const Bausteine& av,
+                             const Bausteine& sv);
+
 } // namespace zeugnis

@@ -6,7 +6,6 @@
 #include "controls/user_actions.h"
 #include "desktop/picture_view.h"
 #include "desktop/qt_text.h"
-#include "desktop/text_editor.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 
@@ -17,6 +16,8 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace zeugnis {
 namespace {
@@ -41,6 +42,13 @@ QStringList shownEntries(const ListControl& list) {
     for (const Text& entry : list.entries())
         entries << qString(entry).remove(u'\r').remove(u'\n');
     return entries;
+}
+
+QString shownLines(TextView caption) {
+    QStringList lines = qString(caption).split(QStringLiteral("\r\n"));
+    for (QString& line : lines)
+        line = line.simplified();
+    return lines.join(u'\n');
 }
 
 // The ground of a label, as a rounded patch.
@@ -100,6 +108,9 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn)
         if (const auto found = m_controls.find(watched); found != m_controls.end())
             m_host.focusArrived(*found->second);
+    if (event->type() == QEvent::MouseButtonDblClick && qobject_cast<QLabel*>(watched) != nullptr)
+        if (const auto found = m_controls.find(watched); found != m_controls.end())
+            m_host.run([&] { user::doubleClick(*found->second); });
     return QObject::eventFilter(watched, event);
 }
 
@@ -135,7 +146,7 @@ QLabel* Binder::label(Label& control) {
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
     add(control, *widget, [&control, widget] {
-        setTextIfNew(*widget, qString(control.Caption).simplified());
+        setTextIfNew(*widget, shownLines(control.Caption));
         tint(*widget, control.BackColor);
     });
     return widget;
@@ -192,21 +203,28 @@ ChoiceRow* Binder::pictureCheck(CheckBox& control, const QPixmap& picture, const
     return widget;
 }
 
-TextEditor* Binder::text(TextBox& control, const QString& name) {
-    auto* widget = new TextEditor(control, m_host, &m_window);
+TextEditor* Binder::editor(TextBox& control, const QString& name, TextEditor::Lines lines) {
+    auto* widget = new TextEditor(control, m_host, &m_window, lines);
     widget->setAccessibleName(name);
-    add(control, *widget, [&control, widget] {
+    const bool tinted = lines != TextEditor::Lines::One;
+    add(control, *widget, [&control, widget, tinted] {
         widget->refresh();
-        tint(*widget, theme::fromFarbwert(control.BackColor, theme::Surface));
+        if (tinted)
+            tint(*widget, theme::fromFarbwert(control.BackColor, theme::Surface));
     });
     return widget;
 }
 
+TextEditor* Binder::text(TextBox& control, const QString& name) {
+    return editor(control, name, TextEditor::Lines::Many);
+}
+
 TextEditor* Binder::line(TextBox& control, const QString& name) {
-    auto* widget = new TextEditor(control, m_host, &m_window, TextEditor::Lines::One);
-    widget->setAccessibleName(name);
-    add(control, *widget, [widget] { widget->refresh(); });
-    return widget;
+    return editor(control, name, TextEditor::Lines::One);
+}
+
+TextEditor* Binder::module(TextBox& control, const QString& name) {
+    return editor(control, name, TextEditor::Lines::Grows);
 }
 
 QComboBox* Binder::combo(ComboBox& control, const QString& name) {
@@ -230,8 +248,14 @@ QComboBox* Binder::combo(ComboBox& control, const QString& name) {
     return widget;
 }
 
-QListWidget* Binder::list(ListBox& control, const QString& name) {
-    QListWidget* widget = entries(control, name, [&control] { return shownEntries(control); });
+QListWidget* Binder::list(ListBox& control, const QString& name,
+                          std::function<QString(const QString&)> word) {
+    QListWidget* widget = entries(control, name, [&control, word = std::move(word)] {
+        QStringList rows = shownEntries(control);
+        if (word)
+            std::transform(rows.begin(), rows.end(), rows.begin(), word);
+        return rows;
+    });
     widget->setWordWrap(true);
     return widget;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/choice_row.h"
+#include "desktop/text_editor.h"
 #include "desktop/tinted_button.h"
 
 #include <QKeySequence>
@@ -29,7 +30,6 @@ class OptionButton;
 class PictureBox;
 class PictureView;
 class TextBox;
-class TextEditor;
 class Timer;
 class WindowHost;
 
@@ -47,6 +47,7 @@ class Binder : public QObject {
     /// A button whose picture is a sign; its name, tool tip and key are the view's.
     TintedButton* signButton(Button& control, const QString& sign, const QString& name,
                              const QKeySequence& key = {});
+    /// Keeps the lines of the control's inscription, but not its runs of blanks.
     QLabel* label(Label& control);
     QFrame* frame(Frame& control);
     ChoiceRow* option(OptionButton& control);
@@ -56,8 +57,12 @@ class Binder : public QObject {
     TextEditor* text(TextBox& control, const QString& name);
     /// A text box of one line. While it is locked it looks like a text on paper.
     TextEditor* line(TextBox& control, const QString& name);
+    /// A text module: as high as its text, on the ground that the control says.
+    TextEditor* module(TextBox& control, const QString& name);
     QComboBox* combo(ComboBox& control, const QString& name);
-    QListWidget* list(ListBox& control, const QString& name);
+    /// `word` may show an entry in other words than its own.
+    QListWidget* list(ListBox& control, const QString& name,
+                      std::function<QString(const QString&)> word = {});
     /// A list whose entries the view words, and that picks as the keyboard moves through it.
     QListWidget* wordedList(ListControl& control, const QString& name,
                             std::function<QString(int)> word);
@@ -77,6 +82,7 @@ class Binder : public QObject {
 
   private:
     void add(Control& control, QWidget& widget, std::function<void()> refresh);
+    TextEditor* editor(TextBox& control, const QString& name, TextEditor::Lines lines);
     void forwardClicks(Control& control, QAbstractButton& widget);
     QListWidget* entries(ListControl& control, const QString& name,
                          std::function<QStringList()> shown);

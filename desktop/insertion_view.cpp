@@ -3,10 +3,20 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QVBoxLayout>
 
 namespace zeugnis {
+namespace {
+
+// An entry of a placeholder list holds blanks that align its explanation in a type of one width.
+QString withDash(const QString& entry) {
+    static const QRegularExpression blanks(QStringLiteral("(?<=\\S) {2,}"));
+    return QString(entry).replace(blanks, QStringLiteral("  –  ")).trimmed();
+}
+
+} // namespace
 
 InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* below)
     : ScreenWindow(screen, host, below) {
@@ -14,7 +24,15 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
     layout->setContentsMargins(16, 14, 16, 14);
     layout->setSpacing(8);
     layout->addWidget(bind().label(screen.Label1));
-    layout->addWidget(bind().list(screen.List1, tr("Einfügetexte")), 1);
+    QListWidget* list =
+        bind().list(screen.List1, tr("Einfügetexte"), [&screen](const QString& entry) {
+            return screen.mitKopfzeile() ? withDash(entry) : entry;
+        });
+    bind().follow([list, &screen] {
+        if (screen.mitKopfzeile())
+            list->item(0)->setFlags(Qt::NoItemFlags);
+    });
+    layout->addWidget(list, 1);
     layout->addWidget(bind().check(screen.Check1));
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(6);

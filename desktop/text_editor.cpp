@@ -10,6 +10,8 @@
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <QtMath>
 
 #include <algorithm>
 #include <utility>
@@ -67,12 +69,18 @@ TextEditor::TextEditor(TextBox& box, WindowHost& host, QWidget* parent, Lines li
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     if (oneLine())
         keepToOneLine();
-    connect(this, &QPlainTextEdit::textChanged, this, &TextEditor::takeNativeChange);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        growIfNeeded();
+        takeNativeChange();
+    });
 }
 
 void TextEditor::keepToOneLine() {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setLineWrapMode(QPlainTextEdit::NoWrap);
+    if (m_lines == Lines::One)
+        setLineWrapMode(QPlainTextEdit::NoWrap);
+    else
+        document()->setDocumentMargin(2);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setProperty("oneLine", true);
 }
@@ -86,7 +94,24 @@ QSize TextEditor::minimumSizeHint() const {
         return QPlainTextEdit::minimumSizeHint();
     constexpr int BorderAndPadding = 4; // as the style sheet gives it to a single line
     const auto margins = static_cast<int>(2 * document()->documentMargin());
-    return {60, fontMetrics().lineSpacing() + margins + BorderAndPadding};
+    return {60, textHeight() + margins + BorderAndPadding};
+}
+
+int TextEditor::textHeight() const {
+    const int line = fontMetrics().lineSpacing();
+    if (m_lines != Lines::Grows)
+        return line;
+    return std::max(line, qCeil(blockBoundingRect(document()->firstBlock()).height()));
+}
+
+void TextEditor::growIfNeeded() {
+    if (m_lines == Lines::Grows && std::exchange(m_grownTo, textHeight()) != textHeight())
+        updateGeometry();
+}
+
+void TextEditor::resizeEvent(QResizeEvent* event) {
+    QPlainTextEdit::resizeEvent(event);
+    growIfNeeded();
 }
 
 // A line end in a box of one line is shown as a blank; places count the same.

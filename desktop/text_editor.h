@@ -13,12 +13,12 @@ class WindowHost;
 /// is Qt's own and arrives at the box as one change. Ctrl+Enter does what a double click does.
 ///
 /// With one line only, Enter goes on to the next field, Tab selects the whole text, and pasted line
-/// ends become blanks.
+/// ends become blanks. One that grows does the same, but wraps a long text and is as high as that.
 class TextEditor : public QPlainTextEdit {
     Q_OBJECT
 
   public:
-    enum class Lines { Many, One };
+    enum class Lines { Many, One, Grows };
 
     TextEditor(TextBox& box, WindowHost& host, QWidget* parent = nullptr,
                Lines lines = Lines::Many);
@@ -34,6 +34,7 @@ class TextEditor : public QPlainTextEdit {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -41,7 +42,9 @@ class TextEditor : public QPlainTextEdit {
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
-    [[nodiscard]] bool oneLine() const { return m_lines == Lines::One; }
+    [[nodiscard]] bool oneLine() const { return m_lines != Lines::Many; }
+    [[nodiscard]] int textHeight() const;
+    void growIfNeeded();
     [[nodiscard]] QString boxText() const;
     [[nodiscard]] Text incoming(QString text) const;
     void keepToOneLine();
@@ -55,6 +58,7 @@ class TextEditor : public QPlainTextEdit {
     TextBox& m_box;
     WindowHost& m_host;
     Lines m_lines;
+    int m_grownTo = 0;
     bool m_refreshing = false;
     bool m_ownAction = false;
     bool m_secondRelease = false;

@@ -1,13 +1,17 @@
 #include "desktop/views.h"
 
+#include "desktop/editor_view_avsv.h"
+#include "desktop/editor_view_years.h"
 #include "desktop/entry_view_12.h"
 #include "desktop/entry_view_34.h"
 #include "desktop/entry_view_avsv.h"
 #include "desktop/insertion_view.h"
 #include "desktop/lists_view.h"
 #include "desktop/master_data_view.h"
+#include "desktop/review_view.h"
 #include "desktop/start_view.h"
-#include "desktop/unfinished_view.h"
+
+#include <stdexcept>
 
 namespace zeugnis {
 namespace {
@@ -25,6 +29,10 @@ constexpr ScreenWindow* (*Makers[])(Screen&, WindowHost&, QWidget*) = {
     makeFor<EntryViewAVSV, GsArbeitsverhalten>,
     makeFor<EntryView12, Kompetenzen>,
     makeFor<EntryView34, GSAGFI>,
+    makeFor<EditorViewAVSV, GSAVSVAenderung>,
+    makeFor<EditorViewYears, GSAenderung12>,
+    makeFor<EditorViewYears, GSAenderung34>,
+    makeFor<ReviewView, GsAnzeige>,
     makeFor<InsertionView, Einfuegungen>,
     makeFor<ListsView, Listen>,
 };
@@ -35,7 +43,7 @@ ScreenWindow* makeWindow(Screen& screen, WindowHost& host, QWidget* below) {
     for (const auto make : Makers)
         if (ScreenWindow* window = make(screen, host, below))
             return window;
-    return new UnfinishedView(screen, host, below);
+    throw std::logic_error("a screen without a window");
 }
 
 } // namespace zeugnis

@@ -1,10 +1,13 @@
 #include "program/all_screens.h"
 
+#include "behaviour/avsv_editor.h"
 #include "behaviour/avsv_entry_screen.h"
 #include "controls/program.h"
+#include "editors/editor12.h"
+#include "editors/editor34.h"
 #include "masterdata/master_data_screen.h"
-#include "program/unfinished_screen.h"
 #include "review/insertion_window.h"
+#include "review/review_screen.h"
 #include "shell/lists.h"
 #include "shell/screen_names.h"
 #include "shell/start_page.h"
@@ -16,15 +19,11 @@
 namespace zeugnis {
 namespace {
 
-using Erzeuger = std::unique_ptr<Screen> (*)(Programm&, TextView);
+using Erzeuger = std::unique_ptr<Screen> (*)(Programm&);
 
 template <typename S>
-std::unique_ptr<Screen> neu(Programm& programm, TextView) {
+std::unique_ptr<Screen> neu(Programm& programm) {
     return std::make_unique<S>(programm);
-}
-
-std::unique_ptr<Screen> nochOhneInhalt(Programm& programm, TextView name) {
-    return std::make_unique<UnfinishedScreen>(programm, name);
 }
 
 struct Eintrag {
@@ -35,12 +34,12 @@ constexpr std::array<Eintrag, 11> Verzeichnis = {{
     {bildschirme::GsStart, neu<GsStart>},
     {bildschirme::GsBasis, neu<GsBasis>},
     {bildschirme::GsArbeitsverhalten, neu<GsArbeitsverhalten>},
-    {bildschirme::GSAVSVAenderung, nochOhneInhalt},
+    {bildschirme::GSAVSVAenderung, neu<GSAVSVAenderung>},
     {bildschirme::Kompetenzen, neu<Kompetenzen>},
     {bildschirme::GSAGFI, neu<GSAGFI>},
-    {bildschirme::GSAenderung12, nochOhneInhalt},
-    {bildschirme::GSAenderung34, nochOhneInhalt},
-    {bildschirme::GsAnzeige, nochOhneInhalt},
+    {bildschirme::GSAenderung12, neu<GSAenderung12>},
+    {bildschirme::GSAenderung34, neu<GSAenderung34>},
+    {bildschirme::GsAnzeige, neu<GsAnzeige>},
     {bildschirme::Einfuegungen, neu<Einfuegungen>},
     {bildschirme::Listen, neu<Listen>},
 }};
@@ -58,9 +57,7 @@ std::span<const TextView> AlleBildschirme() { return Namen; }
 
 void BildschirmeAnmelden(Programm& programm) {
     for (const Eintrag& eintrag : Verzeichnis)
-        programm.registerScreen(eintrag.Name, [eintrag](Programm& laufendes) {
-            return eintrag.Neu(laufendes, eintrag.Name);
-        });
+        programm.registerScreen(eintrag.Name, eintrag.Neu);
 }
 
 } // namespace zeugnis

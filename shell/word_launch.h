@@ -15,6 +15,8 @@ namespace word {
 inline constexpr TextView ZeugnisseSchreiben =
     u"Winword.exe ZeugnisseSchreiben.doc /mZeugnisseSchreiben";
 inline constexpr TextView ZeugnislisteNeu = u"Winword.exe ZeugnislisteNeu.doc /mZeugnislisteNeu";
+inline constexpr TextView Anzeigetext =
+    u"Winword.exe daten\\worddaten\\Anzeigetext.doc /mAnzeigetext";
 inline constexpr TextView Zeugnisanlagen = u"Winword.exe ZeugnisseAnlagen.doc /mZeugnisseAnlagen";
 inline constexpr TextView Klassenliste = u"Winword.exe KlListe.doc /mKlassenliste";
 inline constexpr TextView Strichliste = u"Winword.exe StListe.doc /mStrichliste";

@@ -1,6 +1,5 @@
 #include "years12/module_files.h"
 
-#include "platform/failure.h"
 #include "platform/record_reader.h"
 #include "shell/file_catalogue.h"
 
@@ -19,25 +18,9 @@ void lesen(const Arbeitsverzeichnis& verzeichnis, const Text& name, const Bauste
 
 } // namespace
 
-Bausteintabelle::Bausteintabelle(const Bausteindatei& datei)
-    : m_spalten(datei.Spalten),
-      m_zeilen(datei.Zeilen),
-      m_zellen(static_cast<size_t>(datei.Spalten) * static_cast<size_t>(datei.Zeilen)) {}
-
-size_t Bausteintabelle::stelle(int spalte, int zeile) const {
-    if (spalte < 1 || spalte > m_spalten || zeile < 0 || zeile >= m_zeilen)
-        throw Laufzeitfehler(Fehlerart::IndexOutOfRange,
-                             u"Die Textbausteine haben keine Spalte " + textFromNumber(spalte) +
-                                 u" mit der Zeile " + textFromNumber(zeile) + u" (Spalten 1 bis " +
-                                 textFromNumber(m_spalten) + u", Zeilen 0 bis " +
-                                 textFromNumber(m_zeilen - 1) + u").");
-    return static_cast<size_t>(spalte - 1) * static_cast<size_t>(m_zeilen) +
-           static_cast<size_t>(zeile);
-}
-
 Bausteine::Bausteine() {
     for (const Bausteindatei& datei : Bausteindateien)
-        m_tabellen.emplace_back(datei);
+        m_tabellen.emplace_back(datei.Spalten, datei.Zeilen);
 }
 
 Bausteine BausteineLaden(Arbeitsverzeichnis& verzeichnis, TextView jahrgang) {

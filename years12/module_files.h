@@ -3,6 +3,7 @@
 #include "masterdata/school_data.h"
 #include "platform/text.h"
 #include "platform/working_directory.h"
+#include "shell/module_table.h"
 
 #include <array>
 #include <vector>
@@ -40,22 +41,6 @@ inline constexpr std::array<Bausteindatei, 9> Bausteindateien = {{
     {u"Sportusw", false, 1, 11},
     {u"Zwischentexte", false, 1, 26},
 }};
-
-/// The cells of one module file. Columns count from 1, as the fields behind the running number do;
-/// rows from 0. Any other place fails with index-out-of-range.
-class Bausteintabelle {
-  public:
-    explicit Bausteintabelle(const Bausteindatei& datei);
-    Text& operator()(int spalte, int zeile) { return m_zellen[stelle(spalte, zeile)]; }
-    const Text& operator()(int spalte, int zeile) const { return m_zellen[stelle(spalte, zeile)]; }
-
-  private:
-    [[nodiscard]] size_t stelle(int spalte, int zeile) const;
-
-    int m_spalten;
-    int m_zeilen;
-    std::vector<Text> m_zellen;
-};
 
 /// The modules of one year, and what the placeholders need of the school data.
 class Bausteine {

@@ -59,6 +59,8 @@ class Preparation {
         if (command == u"remove") {
             EXPECT_TRUE(m_folder.has(file)) << utf8FromText(file);
             m_folder.remove(file);
+        } else if (command == u"copy") {
+            m_folder.write(step.at(2).text, m_folder.read(file));
         } else if (command == u"replace") {
             const Text& former = step.at(2).text;
             Text content = m_folder.read(file);

@@ -1,0 +1,134 @@
+#include "desktop/editor_view_avsv.h"
+
+#include "desktop/editor_parts.h"
+#include "desktop/theme.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace zeugnis {
+namespace {
+
+// As many characters as the entry window shows well in one row.
+constexpr int ReadableCharacters = 95;
+
+// The line behind which text is hard to read, over all boxes of the lines.
+class ReadableLimit : public QWidget {
+  public:
+    ReadableLimit(QWidget& area, QWidget& firstBox, QWidget& lastBox)
+        : QWidget(&area), m_first(firstBox), m_last(lastBox) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        QPalette red = palette();
+        red.setColor(QPalette::Window, QColor(0xD3, 0x2F, 0x2F));
+        setPalette(red);
+        setAutoFillBackground(true);
+        m_last.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::Move) {
+            const int text =
+                m_first.fontMetrics().horizontalAdvance(QString(ReadableCharacters, u'n'));
+            const int top = m_first.y() - 4;
+            setGeometry(m_first.x() + text, top, 2, m_last.geometry().bottom() + 4 - top);
+            raise();
+        }
+        return QWidget::eventFilter(watched, event);
+    }
+
+  private:
+    QWidget& m_first;
+    QWidget& m_last;
+};
+
+} // namespace
+
+EditorViewAVSV::EditorViewAVSV(GSAVSVAenderung& screen, WindowHost& host, QWidget* below)
+    : ScreenWindow(screen, host, below), m_editor(screen) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 14, 20, 14);
+    layout->setSpacing(10);
+    layout->addLayout(editorparts::head(bind(), m_editor.Label1, m_editor.Command8(2)));
+    layout->addLayout(sections());
+    layout->addLayout(categories());
+    layout->addWidget(lines());
+    layout->addStretch();
+    layout->addWidget(editorparts::hint(bind(), m_editor.Label3));
+    layout->addLayout(
+        editorparts::actions(bind(), {.ShowPlaceholders = {m_editor.Command8(0), u'z'},
+                                      .HidePlaceholders = {m_editor.Command8(1), u'v'},
+                                      .Save = {m_editor.Command5, u't'},
+                                      .Leave = {m_editor.Command6, u'B'}}));
+    warnBeforeClosing(editorparts::lostByClosing());
+    resize(1220, 760);
+}
+
+QBoxLayout* EditorViewAVSV::sections() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    row->addWidget(bind().button(m_editor.Command2, u'r'));
+    row->addWidget(bind().button(m_editor.Command3, u'o'));
+    row->addStretch();
+    row->addLayout(editorparts::loading(bind(), m_editor.Command1));
+    return row;
+}
+
+QBoxLayout* EditorViewAVSV::categories() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(8);
+    auto* buttons = new QGridLayout;
+    buttons->setSpacing(6);
+    constexpr int InARow = 4;
+    m_editor.Command4.each([&](Button& button) {
+        TintedButton* widget = bind().button(button);
+        bind().follow([this, widget, k = *button.index()] {
+            const int shown =
+                m_editor.Bereich == Abschnitt::SV ? m_editor.KategorieSV : m_editor.KategorieAV;
+            widget->setMarked(shown == k + 1);
+        });
+        buttons->addWidget(widget, *button.index() / InARow, *button.index() % InARow);
+    });
+    column->addLayout(buttons);
+    auto* name = new QHBoxLayout;
+    QLabel* caption = bind().label(m_editor.Label2);
+    caption->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    caption->setWordWrap(false);
+    name->addWidget(caption);
+    TextEditor* box = bind().line(m_editor.Text1, tr("Name der Kategorie"));
+    box->setMaximumWidth(420);
+    name->addWidget(box, 1);
+    name->addStretch();
+    column->addLayout(name);
+    return column;
+}
+
+QWidget* EditorViewAVSV::lines() {
+    auto* area = new QWidget(this);
+    auto* grid = new QGridLayout(area);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(3);
+    QLabel* head = bind().label(m_editor.Label4);
+    head->setFont(theme::scaledFont(0.92));
+    head->setAlignment(Qt::AlignCenter);
+    grid->addWidget(head, 0, 2);
+    m_editor.Text2.each([&](TextBox& line) {
+        const int i = *line.index();
+        QLabel* number = bind().label(m_editor.Label5(i));
+        number->setFixedWidth(16);
+        grid->addWidget(number, i + 1, 0);
+        grid->addWidget(bind().module(line, tr("Zeile %1").arg(i)), i + 1, 1);
+        TintedButton* colour = bind().button(m_editor.Command7(i), {}, TintedButton::Role::Quiet);
+        colour->setAccessibleName(tr("Farbwahl für Zeile %1").arg(i));
+        grid->addWidget(colour, i + 1, 2);
+    });
+    grid->setColumnStretch(1, 1);
+    new ReadableLimit(*area, *bind().widgetOf(m_editor.Text2(0)),
+                      *bind().widgetOf(m_editor.Text2(9)));
+    return area;
+}
+
+} // namespace zeugnis

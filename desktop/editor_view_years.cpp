@@ -1,0 +1,171 @@
+#include "desktop/editor_view_years.h"
+
+#include "desktop/editor_parts.h"
+#include "desktop/page_area.h"
+#include "desktop/qt_text.h"
+#include "desktop/theme.h"
+#include "shell/editor_common.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace zeugnis {
+
+EditorViewYears::EditorViewYears(GSAenderung12& screen, WindowHost& host, QWidget* below)
+    : ScreenWindow(screen, host, below) {
+    build({.Editor = screen,
+           .Title = screen.Label1,
+           .Help = screen.Command8,
+           .Info = screen.Text29,
+           .Load = screen.Command3,
+           .NextStep = screen.Label4,
+           .Hint = screen.Label3,
+           .Placeholders = screen.Command2,
+           .Save = screen.Command5,
+           .Leave = screen.Command6},
+          pagesOf(screen));
+}
+
+EditorViewYears::EditorViewYears(GSAenderung34& screen, WindowHost& host, QWidget* below)
+    : ScreenWindow(screen, host, below) {
+    build({.Editor = screen,
+           .Title = screen.Label1,
+           .Help = screen.Command8,
+           .Info = screen.Text5,
+           .Load = screen.Command1,
+           .NextStep = screen.Label5,
+           .Hint = screen.Label2,
+           .Placeholders = screen.Command7,
+           .Save = screen.Command5,
+           .Leave = screen.Command6},
+          pagesOf(screen));
+}
+
+void EditorViewYears::build(const Parts& parts, const std::vector<EditorPage>& pages) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 14, 20, 14);
+    layout->setSpacing(8);
+    layout->addLayout(editorparts::head(bind(), parts.Title, parts.Help));
+    layout->addWidget(loadRow(parts));
+    layout->addLayout(pageButtons(pages));
+    layout->addWidget(entryparts::nextStep(bind(), parts.NextStep));
+    auto* area = new PageArea(this);
+    for (const EditorPage& one : pages)
+        area->add(*page(parts.Editor, one));
+    layout->addWidget(area);
+    layout->addStretch();
+    layout->addWidget(editorparts::hint(bind(), parts.Hint));
+    layout->addLayout(
+        editorparts::actions(bind(), {.ShowPlaceholders = {parts.Placeholders(0), u'z'},
+                                      .HidePlaceholders = {parts.Placeholders(1), u'v'},
+                                      .Save = {parts.Save, u't'},
+                                      .Leave = {parts.Leave, u'B'}}));
+    warnBeforeClosing(editorparts::lostByClosing());
+    resize(1220, 760);
+}
+
+// Whose modules these are, and which wording to load.
+QWidget* EditorViewYears::loadRow(const Parts& parts) {
+    auto* area = new QWidget(this);
+    auto* row = new QHBoxLayout(area);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* info = new QLabel(area);
+    info->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    bind().follow([info, &boxes = parts.Info] {
+        QString text =
+            qString(boxes(0).text()).replace(QStringLiteral("\r\n"), QStringLiteral(", "));
+        info->setText(text + QStringLiteral(", ") + qString(boxes(1).text()));
+    });
+    row->addWidget(info);
+    row->addStretch();
+    row->addLayout(editorparts::loading(bind(), parts.Load));
+    return area;
+}
+
+QLayout* EditorViewYears::pageButtons(const std::vector<EditorPage>& pages) {
+    constexpr int InARow = 4;
+    auto* grid = new QGridLayout;
+    grid->setSpacing(6);
+    int place = 0;
+    for (const EditorPage& one : pages) {
+        TintedButton* widget = bind().button(one.button, one.mnemonic);
+        bind().follow([widget, &frame = one.frame] { widget->setMarked(frame.Visible); });
+        grid->addWidget(widget, place / InARow, place % InARow);
+        ++place;
+    }
+    return grid;
+}
+
+QWidget* EditorViewYears::page(const Bausteineditor& editor, const EditorPage& one) {
+    QFrame* frame = bind().frame(one.frame);
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(14, 8, 14, 10);
+    layout->setSpacing(4);
+    for (Label* note : one.notes)
+        layout->addWidget(editorparts::hint(bind(), *note));
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(24);
+    for (const auto* groups : {&one.left, &one.right})
+        columns->addLayout(column(editor, *groups), 1);
+    layout->addLayout(columns);
+    return frame;
+}
+
+QVBoxLayout* EditorViewYears::column(const Bausteineditor& editor,
+                                     const std::vector<BoxGroup>& groups) {
+    auto* layout = new QVBoxLayout;
+    layout->setSpacing(3);
+    for (const BoxGroup& group : groups)
+        addGroup(*layout, editor, group);
+    layout->addStretch();
+    return layout;
+}
+
+void EditorViewYears::addGroup(QVBoxLayout& column, const Bausteineditor& editor,
+                               const BoxGroup& group) {
+    if (group.label != nullptr) {
+        QLabel* label = bind().label(*group.label);
+        label->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+        column.addWidget(label);
+    }
+    const bool several =
+        std::any_of(group.boxes.begin(), group.boxes.end(),
+                    [](const TextBox* box) { return box->BackColor == FarbeMehrfachwahl; });
+    auto* heading =
+        new QLabel(group.heading + (several ? tr(" (mehrere möglich)") : QString()), this);
+    heading->setFont(theme::scaledFont(0.92, QFont::DemiBold));
+    heading->setContentsMargins(0, 4, 0, 0);
+    bind().follow([heading, box = group.boxes.front()] { heading->setVisible(box->Visible); });
+    column.addWidget(heading);
+    int number = group.firstNumber;
+    for (TextBox* box : group.boxes)
+        column.addLayout(boxRow(editor, group, *box, editor.IstRot(*box) ? 0 : number++));
+}
+
+// A red box is one that the program sets by itself; it has no number.
+QLayout* EditorViewYears::boxRow(const Bausteineditor& editor, const BoxGroup& group, TextBox& box,
+                                 int number) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    const bool red = editor.IstRot(box);
+    auto* mark = new QLabel(red ? QStringLiteral("»") : QString::number(number), this);
+    mark->setFixedWidth(18);
+    mark->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    TextEditor* widget = bind().module(box, red ? tr("%1, vom Programm gesetzt").arg(group.heading)
+                                                : tr("%1, Text %2").arg(group.heading).arg(number));
+    if (red) {
+        widget->setProperty("preset", true);
+        widget->setToolTip(tr("Diesen Text setzt das Programm von selbst ein."));
+    }
+    bind().follow([mark, &box] { mark->setVisible(box.Visible); });
+    row->addWidget(mark);
+    row->addWidget(widget, 1);
+    return row;
+}
+
+} // namespace zeugnis

@@ -1,0 +1,98 @@
+#include "editors/editor12.h"
+
+#include "controls/program.h"
+#include "masterdata/school_data.h"
+#include "shell/editor_common.h"
+#include "shell/entry_common.h"
+#include "shell/word_launch.h"
+
+namespace zeugnis {
+namespace {
+
+constexpr int SeiteZahlen = 6; // the button of "Zahlen und Operationen"
+constexpr int NurJahr2Ab = 27; // the boxes of it that year 1 does not have
+constexpr int Standard = 0;    // the button that loads the Standard wording
+
+Farbwert farbe(int eintrag) { return FarbtafelEditoren()[eintrag]; }
+
+} // namespace
+
+bool GSAenderung12::istJahr1() const { return IstZahl(Jahrgangsziffer, 1); }
+
+void GSAenderung12::load() {
+    StammdatenLesen(Text29);
+    Geladen = Gespeichert = false;
+    Command5.Visible = false;
+}
+
+void GSAenderung12::Command3_Click(int Index) {
+    Geladen = true;
+    Command1.each([](Button& taste) {
+        taste.BackColor = farbe(editorfarben::Ruhend);
+        taste.Enabled = true;
+    });
+    Command3.each([](Button& taste) { taste.Enabled = false; });
+    Command2(0).BackColor = farbe(editorfarben::Aktiv);
+    Command2(0).Enabled = true;
+    Label4.Visible = false;
+    Frame1.Visible = true;
+    Command1(ErsteSeite).BackColor = Frame1.BackColor;
+    HinweisNachLaden();
+    if (!FortfahrenOderSchliessen())
+        return;
+    Command5.Enabled = Command5.Visible = true;
+    Command5.BackColor = farbe(editorfarben::Aktiv);
+    TexteLesen(Index == Standard, istJahr1() ? u"1" : u"2");
+    TexteZeigen();
+}
+
+void GSAenderung12::Command1_Click(int Index) {
+    Command1.each([](Button& taste) { taste.BackColor = farbe(editorfarben::Ruhend); });
+    for (int seite = 0; seite < Seitenzahl; ++seite)
+        rahmen(seite).Visible = seite == Index - ErsteSeite;
+    Command1(Index).BackColor = rahmen(Index - ErsteSeite).BackColor;
+    HinweisZeigen(Index);
+    if (Index == SeiteZahlen && istJahr1())
+        for (int i = NurJahr2Ab; i <= Text5.last(); ++i)
+            Text5(i).Visible = false;
+    TexteZeigen();
+}
+
+void GSAenderung12::Command2_Click(int Index) {
+    EinfuegungenSchalten(
+        programm(), {Command2, farbe(editorfarben::Aktiv), farbe(editorfarben::Ruhend)}, Index);
+}
+
+void GSAenderung12::Command5_Click() {
+    if (Geladen)
+        SpeichernBestaetigen();
+    if (!SpeichernJa)
+        return;
+    FesteDateienSchreiben();
+    Gespeichert = true;
+}
+
+// Whatever has been loaded, the current files are written.
+void GSAenderung12::FesteDateienSchreiben() {
+    std::vector<Text> namen;
+    for (const Moduldatei& datei : moduldateien())
+        namen.push_back(Dateiname(datei, Jahrgangsziffer));
+    TexteSchreiben(namen);
+}
+
+void GSAenderung12::Command6_Click() {
+    if (!Gespeichert && Geladen && SpeichernVorEnde())
+        FesteDateienSchreiben();
+    Schliessen();
+}
+
+void GSAenderung12::Command8_Click() { WordStarten(programm(), word::Hilfe(6)); }
+
+void GSAenderung12::Label1_DblClick() {
+    if (!Geladen)
+        return;
+    StandardFragen();
+    StandardKopieren();
+}
+
+} // namespace zeugnis

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "controls/control_array.h"
+#include "controls/screen.h"
+#include "controls/text_box.h"
+#include "shell/module_table.h"
+
+#include <array>
+#include <span>
+#include <vector>
+
+namespace zeugnis {
+
+/// A module file as an editor reads and writes it.
+struct Moduldatei {
+    TextView Stamm;
+    int Spalten;             ///< texts of a record, behind its running number
+    int Zeilen;              ///< rows that there is room for; a record behind them fails
+    int Geschrieben;         ///< rows that a save writes; 0 if the file is only read
+    bool JeJahrgang = false; ///< the year's digit stands behind the stem
+    int NurJahrgang = 0;     ///< the year that alone reads and writes the file; 0 for all
+};
+
+class Bausteineditor;
+
+/// Boxes that show one column of a module file, box by row.
+struct Feldreihe {
+    int Textfeld; ///< the number of the array: 3 for Text3
+    int Ab;       ///< its first box
+    int Anzahl;
+    int Datei; ///< the place in the editor's table of files
+    int Spalte = 1;
+    int Zeile = 0;                                        ///< the first row
+    bool Rot = false;                                     ///< the program sets this text by itself
+    bool (*Gilt)(const Bausteineditor& editor) = nullptr; ///< when the boxes show this; or always
+};
+
+/// What the editors of the year groups do alike: the modules are loaded once, Standard or current,
+/// shown in boxes, taken back from them, and written.
+class Bausteineditor : public Screen {
+  public:
+    Text Klasse;
+    Text Jahrgangsziffer; ///< the first character of the class
+    Text Schuljahr;
+    Text Halbjahr;
+    /// By the table of files, the names that the load has read; empty before.
+    std::vector<Text> Dateinamen;
+    bool Geladen = false;
+    bool Gespeichert = false;
+    bool SpeichernJa = false; ///< the answer to the question before a save
+    Text Passwort;
+
+    /// Which boxes show what, in the order in which they are filled and taken back.
+    [[nodiscard]] std::span<const Feldreihe> Felder() const { return m_regeln.Felder; }
+    /// The text array of this number.
+    [[nodiscard]] virtual const ControlArray<TextBox>& textfeld(int nummer) const = 0;
+    /// Whether a box shows what the program sets by itself.
+    [[nodiscard]] bool IstRot(const TextBox& feld) const;
+
+  protected:
+    /// What one editor says and does its own way.
+    struct Regeln {
+        std::span<const Moduldatei> Dateien;
+        std::span<const Feldreihe> Felder;
+        std::span<const TextView> StandardZuKopieren;
+        TextView SpeichernFrage;
+        TextView EndeFrage;
+    };
+
+    Bausteineditor(Programm& programm, TextView name, TextView title, const Regeln& regeln);
+
+    /// Keeps double quotes out of the boxes of these arrays, takes all boxes over when one of them
+    /// is left, and inserts on a double click.
+    void FelderVerbinden(int erstes, int letztes);
+
+    /// Reads class, school year and half-year, and shows them in the two boxes.
+    void StammdatenLesen(const ControlArray<TextBox>& info);
+
+    /// The name of a file with the year's digit where it has one.
+    [[nodiscard]] static Text Dateiname(const Moduldatei& datei, const Text& jahrgang);
+
+    /// Asks whether to go on; on No the screen is gone, with the insertion window, and the caller
+    /// must return.
+    [[nodiscard]] bool FortfahrenOderSchliessen();
+
+    /// Sets `Dateinamen` and reads the files, from the folder Standard or from Daten.
+    void TexteLesen(bool standard, const Text& jahrgang);
+    void TexteZeigen();
+    void TexteUebernehmen();
+    /// Writes the files under these names, one for each of the table.
+    void TexteSchreiben(std::span<const Text> namen);
+
+    void SpeichernBestaetigen();
+    [[nodiscard]] bool SpeichernVorEnde();
+    void Schliessen();
+    void StandardFragen();
+    void StandardKopieren();
+
+    [[nodiscard]] std::span<const Moduldatei> moduldateien() const { return m_regeln.Dateien; }
+
+  private:
+    // `action(box, cell)` for all boxes that show one, in the order of the table.
+    template <typename Action>
+    void jedesFeld(Action action);
+    [[nodiscard]] bool gehoertDazu(const Moduldatei& datei) const;
+
+    Regeln m_regeln;
+    std::vector<Bausteintabelle> m_tabellen;
+};
+
+} // namespace zeugnis

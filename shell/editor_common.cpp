@@ -1,0 +1,88 @@
+#include "shell/editor_common.h"
+
+#include "controls/program.h"
+#include "controls/text_box.h"
+#include "platform/whole_file.h"
+#include "shell/file_catalogue.h"
+#include "shell/placeholders.h"
+#include "shell/text_input.h"
+
+namespace zeugnis {
+namespace {
+
+constexpr TextView Standardpasswort = u"Kuckuckstal";
+
+} // namespace
+
+const Tabelle<Farbwert, Editorfarben>& FarbtafelEditoren() {
+    static const Tabelle<Farbwert, Editorfarben> Farbtafel = [] {
+        Tabelle<Farbwert, Editorfarben> farben;
+        int eintrag = 0;
+        for (const Farbwert farbe : {0xFFFFFFU, 0x80FF80U, 0xC0FFC0U, 0xC0E0FFU, 0xC0C0FFU,
+                                     0xC0C0C0U, 0x0000FFU, 0x00FFFFU})
+            farben[eintrag++] = farbe;
+        return farben;
+    }();
+    return Farbtafel;
+}
+
+bool FortfahrenFragen(Programm& programm) {
+    return programm.machine().dialogs.message(
+               {.text = u"Wenn Sie die Textbausteine ändern wollen, beachten Sie die Hinweise am "
+                        u"Ende der Seite.\r\n Nutzen Sie für geschlechtsspezifische Einfügungen "
+                        u"die Vorgaben!\r\nWollen Sie fortfahren ?",
+                .tasten = Tasten::JaNein,
+                .symbol = Symbol::Ausrufezeichen,
+                .standard = Antwort::Nein}) == Antwort::Ja;
+}
+
+bool SicherheitshalberFragen(Programm& programm, TextView frage) {
+    return programm.machine().dialogs.message({.text = Text(frage),
+                                               .tasten = Tasten::JaNein,
+                                               .symbol = Symbol::Frage,
+                                               .standard = Antwort::Nein}) == Antwort::Ja;
+}
+
+void StandardUeberschreibenFragen(Programm& programm, Text& passwort) {
+    Dialogs& dialoge = programm.machine().dialogs;
+    const Antwort antwort = dialoge.message(
+        {.text = u"Die Standardformulierungen werden unwiederbringlich gelöscht und durch die "
+                 u"aktuellen Formulierungen ersetzt. Wollen Sie das?",
+         .tasten = Tasten::JaNeinAbbrechen,
+         .symbol = Symbol::Frage});
+    if (antwort == Antwort::Ja)
+        passwort =
+            dialoge.input(Text(Programmtitel), u"Geben Sie das Passwort ein!").value_or(Text());
+}
+
+Text Standardname(TextView datei) {
+    const size_t endung = datei.rfind(u'.');
+    return Text(datei.substr(0, endung)) + u"Standard" + Text(datei.substr(endung));
+}
+
+void StandardUeberschreiben(Programm& programm, const Text& passwort,
+                            std::span<const TextView> namen) {
+    if (passwort != Standardpasswort)
+        return;
+    const Ordnerwechsel in(programm.verzeichnis(), dateien::Daten);
+    for (const TextView datei : namen)
+        copyWholeFile(programm.verzeichnis(), datei, Text(dateien::Standard) + Standardname(datei));
+}
+
+void AnfuehrungszeichenFernhalten(TextBox& feld, std::function<void()> danach) {
+    feld.onKeyPress = [&feld](char16_t& taste) {
+        AnfuehrungszeichenTaste(feld.screen().programm(), taste);
+    };
+    feld.onChange = [&feld, danach = std::move(danach)] {
+        AnfuehrungszeichenAenderung(feld.screen().programm(), feld);
+        if (danach)
+            danach();
+    };
+}
+
+void EinfuegungInsFeld(TextBox& feld) {
+    if (!feld.Locked)
+        feld.setText(MitEinfuegung(feld.screen().programm(), feld, TextregelnEditoren));
+}
+
+} // namespace zeugnis
