@@ -55,6 +55,7 @@ void EditorViewYears::build(const Parts& parts, const std::vector<EditorPage>& p
     layout->addLayout(pageButtons(pages));
     layout->addWidget(entryparts::nextStep(bind(), parts.NextStep));
     auto* area = new PageArea(this);
+    area->keepRoomToScroll();
     for (const EditorPage& one : pages)
         area->add(*page(parts.Editor, one));
     layout->addWidget(area);

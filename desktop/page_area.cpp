@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QResizeEvent>
+#include <QScrollBar>
 
 namespace zeugnis {
 
@@ -20,6 +21,13 @@ PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
 
 void PageArea::add(QWidget& page, Qt::Alignment alignment) {
     m_place->addWidget(&page, 0, 0, alignment);
+}
+
+void PageArea::keepRoomToScroll() {
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QScrollBar* bar = verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, bar,
+            [bar](int lowest, int highest) { bar->setEnabled(highest > lowest); });
 }
 
 QSize PageArea::sizeHint() const {

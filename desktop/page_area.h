@@ -16,6 +16,10 @@ class PageArea : public QScrollArea {
 
     void add(QWidget& page, Qt::Alignment alignment = {});
 
+    /// For pages whose height depends on their width: the place of the scroll bar is always kept
+    /// free, or the bar would come and go without end.
+    void keepRoomToScroll();
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 

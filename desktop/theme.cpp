@@ -50,6 +50,7 @@ QFrame#area { background: #FFFFFF; border: 1px solid #DDD8CC; border-radius: 8px
 QScrollBar:vertical { width: 12px; background: transparent; border: none; margin: 0; }
 QScrollBar::handle:vertical { min-height: 32px; margin: 2px; border-radius: 4px;
     background: rgba(60, 60, 50, 90); }
+QScrollBar::handle:vertical:disabled { background: transparent; }
 QScrollBar::handle:vertical:hover { background: rgba(60, 60, 50, 150); }
 QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }

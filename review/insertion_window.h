@@ -14,8 +14,8 @@ class Einfuegungen : public Screen {
     explicit Einfuegungen(Programm& programm);
     void load() override;
 
-    /// Whether entry 0 is the head of a list of placeholders. It stands for no text; for the editors
-    /// of the year groups a click on it ends the program.
+    /// Whether entry 0 is the head of a list of placeholders. It stands for no text; for the
+    /// editors of the year groups a click on it ends the program.
     [[nodiscard]] bool mitKopfzeile() const { return !dientEingabe() && !List1.entries().empty(); }
 
     void List1_Click();
