@@ -1,8 +1,10 @@
-#include "documents/app/document_files.h"
+#include "documents/app/document_keys.h"
+#include "documents/app/report_list_files.h"
 #include "documents/app/word_processor.h"
 #include "documents/pdf/qt_text.h"
 #include "documents/window/preview_window.h"
 #include "documents/window/progress.h"
+#include "documents/window/report_list_window.h"
 #include "documents/window/theme.h"
 #include "platform/failure.h"
 #include "platform/machine.h"
@@ -35,16 +37,56 @@ Anzeige mitFortschrittSuchen(const Dokumentdateien& dateien, const QTemporaryDir
     });
 }
 
-int mitFenster(const std::vector<Text>& argumente) {
-    const Aufruf aufruf = AufrufLesen(argumente);
+using Fenster = std::unique_ptr<QWidget>;
+
+std::unique_ptr<PreviewWindow> vorschau(const Dokumentdateien& dateien,
+                                        const QTemporaryDir& ordner) {
+    return std::make_unique<PreviewWindow>(
+        [&ordner, dateien] { return mitFortschrittSuchen(dateien, ordner); });
+}
+
+Fenster listenfenster(const Arbeitsverzeichnis& programmordner, bool neu,
+                      const QTemporaryDir& ordner) {
+    Listenstand stand = withProgress(QStringLiteral("Die Liste wird geöffnet …"), nullptr, [&] {
+        Arbeitsverzeichnis verzeichnis = programmordner;
+        return ListeBereitstellen(verzeichnis, neu);
+    });
+    return std::make_unique<ReportListWindow>(
+        programmordner, std::move(stand), [&ordner](const Dokumentdateien& dateien) {
+            PreviewWindow* druck = vorschau(dateien, ordner).release();
+            druck->setAttribute(Qt::WA_DeleteOnClose);
+            druck->show();
+        });
+}
+
+std::vector<Befund> gepruefteKlasse(Arbeitsverzeichnis verzeichnis) {
+    return ZeugnissePruefen(ZeugnisdatenLesen(verzeichnis), PlatzhalterLesen(verzeichnis));
+}
+
+Fenster dokumentfenster(const Arbeitsverzeichnis& programmordner, const Aufruf& aufruf,
+                        bool sindZeugnisse, const QTemporaryDir& ordner) {
     const Dokumentdateien dateien =
         withProgress(QStringLiteral("Das Dokument wird geschrieben …"), nullptr, [&] {
-            Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
+            Arbeitsverzeichnis verzeichnis = programmordner;
             return DokumentBereitstellen(verzeichnis, aufruf);
         });
+    std::unique_ptr<PreviewWindow> fenster = vorschau(dateien, ordner);
+    if (sindZeugnisse)
+        fenster->showChecks([&] { return gepruefteKlasse(programmordner); });
+    return fenster;
+}
+
+int mitFenster(const std::vector<Text>& argumente) {
+    const Aufruf aufruf = AufrufLesen(argumente);
+    Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
+    const Fensterart art = FensterFuer(verzeichnis, aufruf);
+    const bool neu = art == Fensterart::ZeugnislisteNeu;
     const QTemporaryDir ordner;
-    PreviewWindow fenster([&] { return mitFortschrittSuchen(dateien, ordner); });
-    fenster.show();
+    const Fenster fenster =
+        neu || art == Fensterart::Zeugnisliste
+            ? listenfenster(verzeichnis, neu, ordner)
+            : dokumentfenster(verzeichnis, aufruf, art == Fensterart::Zeugnisse, ordner);
+    fenster->show();
     QApplication::setQuitOnLastWindowClosed(true);
     return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 #include "documents/content/school_report.h"
 
 #include "documents/content/report_frame.h"
+#include "documents/content/report_grades.h"
 #include "documents/content/wording.h"
 #include "platform/failure.h"
 
@@ -27,28 +28,50 @@ constexpr std::array<TextView, Bereiche34> Ueberschriften34 = {
     u"Bemerkungen",
 };
 
-void bereichAnfuegen(Section& seiten, TextView ueberschrift, const Text& inhalt) {
-    seiten.blocks.emplace_back(paragraph(StyleId::Bereich, Text(ueberschrift)));
-    seiten.blocks.emplace_back(paragraph(StyleId::Bereichstext, oderStrich(inhalt)));
+constexpr size_t Verhaltensabschnitte = 2; // behind them come the grades
+
+void bereichAnfuegen(Section& seiten, const Abschnittstext& abschnitt) {
+    seiten.blocks.emplace_back(paragraph(StyleId::Bereich, Text(abschnitt.Ueberschrift)));
+    seiten.blocks.emplace_back(paragraph(StyleId::Bereichstext, oderStrich(abschnitt.Inhalt)));
 }
 
 Section zeugnis(const Zeugnisdaten& daten, int platz) {
     const Schueler& kind = daten.Stamm.Liste.Kinder[platz];
+    const Eintrag eintrag = daten.Liste ? daten.Liste->Eintraege[platz] : Eintrag();
+    const bool hatNoten = HatNoten(daten.Stamm.Jahrgang);
     Section seiten;
     seiten.footer = Kindname(kind) + u", Klasse " + daten.Stamm.Liste.Klasse;
     seiten.blocks = Zeugniskopf(daten.Stamm, kind);
-    bereichAnfuegen(seiten, u"Arbeitsverhalten", daten.AVSV.AV.Texte[platz]);
-    bereichAnfuegen(seiten, u"Sozialverhalten", daten.AVSV.SV.Texte[platz]);
-    const std::span<const TextView> ueberschriften =
-        daten.Stamm.Jahrgang < 3 ? std::span<const TextView>(Ueberschriften12) : Ueberschriften34;
-    for (size_t i = 0; i < ueberschriften.size(); ++i)
-        bereichAnfuegen(seiten, ueberschriften[i], daten.Bereiche.at(i)[platz]);
+    seiten.blocks.emplace_back(Versaeumnisse(eintrag));
+    const std::vector<Abschnittstext> abschnitte = AbschnitteVon(daten, platz);
+    for (size_t i = 0; i < abschnitte.size(); ++i) {
+        if (i == Verhaltensabschnitte && hatNoten) {
+            seiten.blocks.emplace_back(paragraph(StyleId::Bereich, u"Leistungen in den Fächern"));
+            seiten.blocks.emplace_back(Notentabelle(eintrag));
+        }
+        bereichAnfuegen(seiten, abschnitte[i]);
+    }
     LetztenAbsatzHalten(seiten.blocks);
+    if (hatNoten)
+        seiten.blocks.emplace_back(Notenschluessel());
     seiten.blocks.emplace_back(Zeugnisschluss(daten.Stamm.Schule));
     return seiten;
 }
 
 } // namespace
+
+std::vector<Abschnittstext> AbschnitteVon(const Zeugnisdaten& daten, int platz) {
+    std::vector<Abschnittstext> abschnitte = {
+        {u"Arbeitsverhalten", daten.AVSV.AV.Texte[platz]},
+        {u"Sozialverhalten", daten.AVSV.SV.Texte[platz]},
+    };
+    const std::span<const TextView> ueberschriften =
+        HatNoten(daten.Stamm.Jahrgang) ? std::span<const TextView>(Ueberschriften34)
+                                       : Ueberschriften12;
+    for (size_t i = 0; i < ueberschriften.size(); ++i)
+        abschnitte.push_back({ueberschriften[i], daten.Bereiche.at(i)[platz]});
+    return abschnitte;
+}
 
 Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis) {
     Zeugnisdaten daten{.Stamm = StammdatenLesen(verzeichnis), .AVSV = {}, .Bereiche = {}};
@@ -57,6 +80,7 @@ Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis) {
                              u"In der Namensliste steht kein Kind. Es wurde nichts geschrieben.");
     daten.AVSV = AVSVTexteLesen(verzeichnis, daten.Stamm.Liste);
     daten.Bereiche = BereichstexteLesen(verzeichnis, daten.Stamm);
+    daten.Liste = ZeugnislisteLesen(verzeichnis, daten.Stamm);
     return daten;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/content/class_data.h"
+#include "documents/content/report_list.h"
 #include "documents/model/document.h"
 
 namespace zeugnis::dokumente {
@@ -9,10 +9,21 @@ namespace zeugnis::dokumente {
 struct Zeugnisdaten {
     Stammdaten Stamm;
     AVSVSpeicher AVSV;
-    Bereichstexte Bereiche; ///< of the years 1 and 2 or of the years 3 and 4
+    Bereichstexte Bereiche;                 ///< of the years 1 and 2 or of the years 3 and 4
+    std::optional<Zeugnisliste> Liste = {}; ///< absences and grades, if there are any yet
 };
 
-/// Reads the files in Daten. Fails with invalid-call if there is no child in the class list.
+/// What stands under one heading.
+struct Abschnittstext {
+    TextView Ueberschrift;
+    const Text& Inhalt;
+};
+
+/// The texts of a child, in the order in which the report shows them.
+std::vector<Abschnittstext> AbschnitteVon(const Zeugnisdaten& daten, int platz);
+
+/// Reads the files of the installation. Fails with invalid-call if there is no child in the class
+/// list.
 Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis);
 
 /// The reports of the class, one section per child in the order of the class list.

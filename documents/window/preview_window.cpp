@@ -37,6 +37,10 @@ constexpr std::array<Zoomstufe, 7> Zoomstufen = {{
     {"150 %", PageView::Zoom::Factor, 1.5},
 }};
 
+constexpr int WindowWidth = 1180;
+constexpr int WindowHeight = 760;
+constexpr int WidthWithChecks = 1260;
+
 QString qPfad(const std::filesystem::path& pfad) {
     return QString::fromStdU16String(pfad.u16string());
 }
@@ -51,6 +55,7 @@ std::filesystem::file_time_type standVon(const std::filesystem::path& datei) {
 PreviewWindow::PreviewWindow(Nachschauen nachschauen, QWidget* parent)
     : QWidget(parent),
       m_nachschauen(std::move(nachschauen)),
+      m_middle(new QHBoxLayout),
       m_view(new PageView),
       m_contents(new QListWidget),
       m_zoom(new QComboBox),
@@ -61,10 +66,9 @@ PreviewWindow::PreviewWindow(Nachschauen nachschauen, QWidget* parent)
     m_hint->setWordWrap(true);
     m_position->setObjectName(QStringLiteral("leise"));
 
-    auto* middle = new QHBoxLayout;
-    middle->setSpacing(14);
-    middle->addWidget(contentsColumn());
-    middle->addWidget(m_view, 1);
+    m_middle->setSpacing(14);
+    m_middle->addWidget(contentsColumn());
+    m_middle->addWidget(m_view, 1);
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(m_position);
     bottom->addStretch();
@@ -74,7 +78,7 @@ PreviewWindow::PreviewWindow(Nachschauen nachschauen, QWidget* parent)
     all->setSpacing(12);
     all->addWidget(actionRow());
     all->addWidget(m_hint);
-    all->addLayout(middle, 1);
+    all->addLayout(m_middle, 1);
     all->addLayout(bottom);
     addShortcuts();
 
@@ -82,7 +86,7 @@ PreviewWindow::PreviewWindow(Nachschauen nachschauen, QWidget* parent)
     connect(m_view, &PageView::zoomChanged, this, &PreviewWindow::showZoom);
     load();
     showZoom();
-    resize(1180, 760);
+    resize(WindowWidth, WindowHeight);
     m_contents->setFocus();
 }
 
@@ -224,6 +228,40 @@ void PreviewWindow::reloadIfChanged() {
 void PreviewWindow::goTo(int row) {
     if (row >= 0 && static_cast<size_t>(row) < m_lines.size())
         m_view->showPlace(m_lines[static_cast<size_t>(row)].place);
+}
+
+void PreviewWindow::showChecks(const ChecksPanel::Pruefen& pruefen) {
+    auto* panel = new ChecksPanel(pruefen);
+    connect(panel, &ChecksPanel::chosen, this, &PreviewWindow::goToFinding);
+    m_middle->addWidget(panel);
+    resize(WidthWithChecks, WindowHeight);
+}
+
+void PreviewWindow::goToFinding(const Befund& befund) {
+    if (befund.Platz != AlleKinder)
+        m_view->showPlace({.page = pageOf(befund), .top = 0});
+}
+
+// The name stands on all pages of a report. The bookmark is surer, since two children may have the
+// same, but a document that came from a word processor may have none.
+int PreviewWindow::pageOf(const Befund& befund) const {
+    const QString name = qString(befund.Kind);
+    const auto platz = static_cast<size_t>(befund.Platz);
+    int first = 0;
+    if (platz < m_lines.size() && m_lines[platz].title == name)
+        first = m_lines[platz].place.page;
+    else
+        while (first + 1 < m_pages->count() && !m_pages->text(first).contains(name))
+            ++first;
+    const QString heading = qString(befund.Abschnitt);
+    for (int page = first; page < m_pages->count(); ++page) {
+        const QString text = m_pages->text(page);
+        if (!text.contains(name))
+            break;
+        if (text.contains(heading))
+            return page;
+    }
+    return first;
 }
 
 void PreviewWindow::showPosition() {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "documents/app/document_files.h"
+#include "documents/window/checks_panel.h"
 #include "documents/window/page_view.h"
 
 #include <QWidget>
 
+class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QListWidget;
@@ -23,6 +25,9 @@ class PreviewWindow : public QWidget {
 
     explicit PreviewWindow(Nachschauen nachschauen, QWidget* parent = nullptr);
 
+    /// Shows beside the pages what to look at before they are printed.
+    void showChecks(const ChecksPanel::Pruefen& pruefen);
+
   protected:
     void changeEvent(QEvent* event) override;
 
@@ -38,6 +43,8 @@ class PreviewWindow : public QWidget {
     void reloadIfChanged();
     void showPosition();
     void goTo(int row);
+    void goToFinding(const Befund& befund);
+    [[nodiscard]] int pageOf(const Befund& befund) const;
     void showZoom();
     void chooseZoom(int index);
     void print();
@@ -50,6 +57,7 @@ class PreviewWindow : public QWidget {
     std::unique_ptr<PdfPages> m_pages;
     std::vector<Inhaltszeile> m_lines;
 
+    QBoxLayout* m_middle;
     PageView* m_view;
     QListWidget* m_contents;
     QComboBox* m_zoom;

@@ -38,6 +38,17 @@ QListWidget:focus { border: 2px solid #1F6F6B; padding: 3px; }
 QListWidget::item { padding: 5px 6px; border-radius: 4px; color: #242B33; }
 QListWidget::item:hover { background: #EAF3F2; }
 QListWidget::item:selected { background: #1F6F6B; color: white; }
+QTableView { background: white; alternate-background-color: #FAF8F3; gridline-color: #D8D3C8;
+    border: 1px solid #8C867A; border-radius: 6px; selection-background-color: #D5E7E5;
+    selection-color: #242B33; }
+QTableView:focus { border: 2px solid #1F6F6B; }
+QTableView::item:focus { background: #BFDCD9; border: 2px solid #1F6F6B; }
+QTableView QLineEdit { background: #FFFBEA; border: 2px solid #1F6F6B; padding: 0; }
+QHeaderView { background: #F6F4EF; }
+QHeaderView::section { background: #F6F4EF; padding: 2px 6px; border: none;
+    border-right: 1px solid #D8D3C8; border-bottom: 1px solid #D8D3C8; }
+QHeaderView::section:checked { background: #EAF3F2; font-weight: normal; }
+QTableCornerButton::section { background: #F6F4EF; border: none; }
 QScrollBar:vertical { width: 14px; margin: 0; background: transparent; }
 QScrollBar:horizontal { height: 14px; margin: 0; background: transparent; }
 QScrollBar::handle { margin: 3px; border-radius: 4px; background: #A9A295; }
@@ -49,6 +60,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QLabel#hinweis { padding: 9px 14px; background: #FFF6D8; border: 1px solid #D9C98C;
     border-radius: 6px; }
+QLabel#fehler { color: #A3261B; font-weight: 600; }
 QLabel#leise { color: #5F656C; }
 )";
 

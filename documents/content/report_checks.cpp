@@ -1,0 +1,271 @@
+#include "documents/content/report_checks.h"
+
+#include "documents/content/report_frame.h"
+#include "documents/content/wording.h"
+#include "platform/record_reader.h"
+#include "shell/file_catalogue.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <system_error>
+
+namespace zeugnis::dokumente {
+namespace {
+
+constexpr TextView Lueckenmarke = u"?????";
+constexpr size_t GleichAb = 60; // shorter texts may well be the same
+constexpr size_t NamenHoechstens = 3;
+
+struct Pruefling {
+    const Zeugnisdaten& Daten;
+    const std::vector<Text>& Platzhalter;
+    int Platz;
+
+    [[nodiscard]] const Schueler& kind(int platz) const { return Daten.Stamm.Liste.Kinder[platz]; }
+    [[nodiscard]] Text name() const { return Kindname(kind(Platz)); }
+    [[nodiscard]] int anzahl() const { return Daten.Stamm.Liste.Schuelerzahl; }
+};
+
+using Befunde = std::vector<Befund>;
+
+bool istBuchstabe(char16_t zeichen) {
+    return (zeichen >= u'a' && zeichen <= u'z') || (zeichen >= u'A' && zeichen <= u'Z') ||
+           (zeichen >= u'0' && zeichen <= u'9') || zeichen == u'-' ||
+           (zeichen >= u'À' && zeichen <= u'ž');
+}
+
+// Where the word stands, with no letter to its left or right.
+size_t wortstelle(TextView text, TextView wort, size_t ab) {
+    for (size_t i = text.find(wort, ab); i != TextView::npos; i = text.find(wort, i + 1)) {
+        const size_t ende = i + wort.size();
+        if ((i == 0 || !istBuchstabe(text[i - 1])) &&
+            (ende == text.size() || !istBuchstabe(text[ende])))
+            return i;
+    }
+    return TextView::npos;
+}
+
+// The text without the child's own name, so that "Anna" is not found in "Anna Sophie".
+Text ohneEigenenNamen(const Text& text, const Schueler& kind) {
+    Text rest = text;
+    for (const Text& name : {kind.Vorname, kind.Vorname + u"s", kind.Nachname}) {
+        if (trimmed(name).empty() || name == u"s")
+            continue;
+        for (size_t i = wortstelle(rest, name, 0); i != Text::npos; i = wortstelle(rest, name, i))
+            rest.replace(i, name.size(), u"#");
+    }
+    return rest;
+}
+
+// A run of exactly two: three full stops are meant.
+bool hatDoppelpunkt(TextView text) {
+    for (size_t i = text.find(u".."); i != TextView::npos; i = text.find(u"..", i)) {
+        const size_t ende = std::min(text.find_first_not_of(u'.', i), text.size());
+        if (ende - i == 2)
+            return true;
+        i = ende;
+    }
+    return false;
+}
+
+void ohneText(const Pruefling& pruefling, Befunde& befunde) {
+    std::vector<Text> leere;
+    const std::vector<Abschnittstext> abschnitte = AbschnitteVon(pruefling.Daten, pruefling.Platz);
+    TextView erster;
+    for (const Abschnittstext& abschnitt : abschnitte) {
+        if (!printable(abschnitt.Inhalt).empty())
+            continue;
+        if (leere.empty())
+            erster = abschnitt.Ueberschrift;
+        leere.push_back(u"„" + Text(abschnitt.Ueberschrift) + u"“");
+    }
+    if (leere.size() == abschnitte.size())
+        befunde.push_back(
+            {pruefling.Platz, pruefling.name(), erster, u"Es gibt noch keine Texte."});
+    else if (!leere.empty())
+        befunde.push_back({pruefling.Platz, pruefling.name(), erster,
+                           u"Ohne Text: " + aufgezaehlt(leere) + u"."});
+}
+
+using Abschnittspruefung = Text (*)(const Pruefling& pruefling, const Text& text);
+
+// Runs a check over all sections that have a text.
+template <Abschnittspruefung Pruefung>
+void jeAbschnitt(const Pruefling& pruefling, Befunde& befunde) {
+    for (const Abschnittstext& abschnitt : AbschnitteVon(pruefling.Daten, pruefling.Platz)) {
+        const Text text = printable(abschnitt.Inhalt);
+        if (text.empty())
+            continue;
+        if (const Text satz = Pruefung(pruefling, text); !satz.empty())
+            befunde.push_back({pruefling.Platz, pruefling.name(), abschnitt.Ueberschrift,
+                               Text(abschnitt.Ueberschrift) + u": " + satz});
+    }
+}
+
+Text platzhalterImText(const Pruefling& pruefling, const Text& text) {
+    std::vector<Text> gefunden;
+    for (const Text& mark : pruefling.Platzhalter)
+        if (text.find(mark) != Text::npos)
+            gefunden.push_back(mark);
+    if (gefunden.empty())
+        return {};
+    return (gefunden.size() == 1 ? u"Ein Platzhalter steht noch im Text: "
+                                 : u"Platzhalter stehen noch im Text: ") +
+           aufgezaehlt(gefunden) + u".";
+}
+
+Text luecke(const Pruefling& /*pruefling*/, const Text& text) {
+    return text.find(Lueckenmarke) == Text::npos
+               ? Text()
+               : u"Hier fehlt noch etwas, im Text steht „" + Text(Lueckenmarke) + u"“.";
+}
+
+Text fremderName(const Pruefling& pruefling, const Text& text) {
+    const Text rest = ohneEigenenNamen(text, pruefling.kind(pruefling.Platz));
+    std::vector<Text> namen;
+    for (int platz = 0; platz < pruefling.anzahl(); ++platz) {
+        const Text name = trimmed(pruefling.kind(platz).Vorname);
+        const bool gefunden = !name.empty() && wortstelle(rest, name, 0) != Text::npos;
+        if (gefunden && std::find(namen.begin(), namen.end(), name) == namen.end())
+            namen.push_back(name);
+    }
+    return namen.empty()
+               ? Text()
+               : u"Im Text steht der Name eines anderen Kindes: " + aufgezaehlt(namen) + u".";
+}
+
+Text doppelteZeichen(const Pruefling& /*pruefling*/, const Text& text) {
+    const bool leerzeichen = text.find(u"  ") != Text::npos;
+    if (hatDoppelpunkt(text))
+        return leerzeichen ? u"doppelter Punkt und doppeltes Leerzeichen." : u"doppelter Punkt.";
+    return leerzeichen ? u"doppeltes Leerzeichen." : u"";
+}
+
+void gleicherText(const Pruefling& pruefling, Befunde& befunde) {
+    const std::vector<Abschnittstext> eigene = AbschnitteVon(pruefling.Daten, pruefling.Platz);
+    for (size_t i = 0; i < eigene.size(); ++i) {
+        const Text text = printable(eigene[i].Inhalt);
+        if (text.size() <= GleichAb)
+            continue;
+        std::vector<Text> andere;
+        for (int platz = 0; platz < pruefling.anzahl(); ++platz)
+            if (platz != pruefling.Platz &&
+                printable(AbschnitteVon(pruefling.Daten, platz)[i].Inhalt) == text)
+                andere.push_back(Kindname(pruefling.kind(platz)));
+        if (andere.empty())
+            continue;
+        if (andere.size() > NamenHoechstens) {
+            const int weitere = static_cast<int>(andere.size() - NamenHoechstens + 1);
+            andere.resize(NamenHoechstens - 1);
+            andere.push_back(textFromNumber(weitere) + u" weiteren Kindern");
+        }
+        befunde.push_back({pruefling.Platz, pruefling.name(), eigene[i].Ueberschrift,
+                           Text(eigene[i].Ueberschrift) + u": derselbe Text wie bei " +
+                               aufgezaehlt(andere) + u"."});
+    }
+}
+
+// Subjects in which no child of the class has a grade are not taught.
+std::vector<Text> fehlendeNoten(const Pruefling& pruefling) {
+    std::vector<Text> faecher;
+    const std::span<const Spalte> spalten = SpaltenFuer(pruefling.Daten.Stamm.Jahrgang);
+    const Schuelertabelle<Eintrag>& eintraege = pruefling.Daten.Liste->Eintraege;
+    for (size_t i = ErstesFach; i < spalten.size(); ++i) {
+        const bool wirdErteilt =
+            std::any_of(eintraege.begin(), eintraege.end(),
+                        [i](const Eintrag& einer) { return einer.Werte.at(i) != LeereZelle; });
+        if (wirdErteilt && eintraege[pruefling.Platz].Werte.at(i) == LeereZelle)
+            faecher.emplace_back(spalten[i].Name);
+    }
+    return faecher;
+}
+
+void versaeumnisse(const Pruefling& pruefling, Befunde& befunde) {
+    if (!pruefling.Daten.Liste)
+        return;
+    const Eintrag& eintrag = pruefling.Daten.Liste->Eintraege[pruefling.Platz];
+    if (eintrag.Werte[SpalteTage] == LeereZelle)
+        befunde.push_back(
+            {pruefling.Platz, pruefling.name(), {}, u"Noch keine Versäumnisse eingetragen."});
+    else if (eintrag.Werte[SpalteUnentschuldigt] == LeereZelle)
+        befunde.push_back({pruefling.Platz,
+                           pruefling.name(),
+                           {},
+                           u"Versäumnisse: Es ist nicht eingetragen, wie viele Tage "
+                           u"unentschuldigt sind."});
+}
+
+void noten(const Pruefling& pruefling, Befunde& befunde) {
+    if (!pruefling.Daten.Liste || !HatNoten(pruefling.Daten.Stamm.Jahrgang))
+        return;
+    if (!pruefling.Daten.Liste->Eintraege[pruefling.Platz].hatNoten()) {
+        befunde.push_back(
+            {pruefling.Platz, pruefling.name(), {}, u"Noch keine Noten eingetragen."});
+        return;
+    }
+    if (const std::vector<Text> faecher = fehlendeNoten(pruefling); !faecher.empty())
+        befunde.push_back({pruefling.Platz,
+                           pruefling.name(),
+                           {},
+                           u"Es fehlt die Note in " + aufgezaehlt(faecher) + u"."});
+}
+
+using Pruefung = void (*)(const Pruefling& pruefling, Befunde& befunde);
+
+constexpr std::array<Pruefung, 8> Pruefungen = {
+    versaeumnisse,
+    noten,
+    ohneText,
+    jeAbschnitt<platzhalterImText>,
+    jeAbschnitt<luecke>,
+    jeAbschnitt<fremderName>,
+    jeAbschnitt<doppelteZeichen>,
+    gleicherText,
+};
+
+void listePruefen(const Zeugnisdaten& daten, Befunde& befunde) {
+    const Text name(Listenname(daten.Stamm.Jahrgang));
+    const TextView was =
+        HatNoten(daten.Stamm.Jahrgang) ? u"Versäumnissen und Noten" : u"Versäumnissen";
+    if (!daten.Liste)
+        befunde.push_back({.Satz = u"Die " + name +
+                                   u" dieser Klasse ist noch nicht angelegt. In "
+                                   u"allen Zeugnissen stehen bei " +
+                                   Text(was) + u" Striche."});
+    else if (!daten.Liste->OhneKind.empty())
+        befunde.push_back({.Satz = u"In der " + name +
+                                   u" stehen Einträge, zu denen es kein Kind "
+                                   u"gibt: " +
+                                   aufgezaehlt(daten.Liste->OhneKind) + u"."});
+}
+
+} // namespace
+
+std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten,
+                                     const std::vector<Text>& platzhalter) {
+    Befunde befunde;
+    listePruefen(daten, befunde);
+    for (int platz = 0; platz < daten.Stamm.Liste.Schuelerzahl; ++platz)
+        for (const Pruefung pruefung : Pruefungen)
+            pruefung({.Daten = daten, .Platzhalter = platzhalter, .Platz = platz}, befunde);
+    return befunde;
+}
+
+std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis) {
+    const Ordnerwechsel in(verzeichnis, dateien::Daten);
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(verzeichnis.pfad(dateien::Platzhalter), ignored))
+        return {};
+    std::vector<Text> marken;
+    RecordReader reader(verzeichnis, dateien::Platzhalter);
+    while (!reader.atEnd()) {
+        reader.skip(1);
+        if (const Text marke = reader.text(); marke.starts_with(u'<'))
+            marken.push_back(marke);
+        reader.skip(1);
+    }
+    return marken;
+}
+
+} // namespace zeugnis::dokumente

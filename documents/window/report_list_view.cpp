@@ -1,0 +1,198 @@
+#include "documents/window/report_list_view.h"
+
+#include "documents/pdf/qt_text.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+#include <QTimer>
+#include <algorithm>
+
+namespace zeugnis::dokumente {
+namespace {
+
+constexpr int RowHeight = 26;
+constexpr int HeadHeight = 52;
+constexpr int NarrowestColumn = 62;
+constexpr int ColumnPadding = 14;
+
+/// The editor of a cell is as wide as the cell, with its text in the middle.
+class CellDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                          const QModelIndex& index) const override {
+        auto* line = new QLineEdit(parent);
+        line->setAlignment(Qt::AlignCenter);
+        line->setFrame(false);
+        line->setAccessibleName(
+            index.model()
+                ->headerData(index.column(), Qt::Horizontal, Qt::AccessibleTextRole)
+                .toString());
+        line->installEventFilter(this->parent());
+        return line;
+    }
+};
+
+} // namespace
+
+ReportListView::ReportListView(ReportListModel& model, QWidget* parent)
+    : QTableView(parent), m_model(model) {
+    setModel(&model);
+    setItemDelegate(new CellDelegate(this));
+    setAccessibleName(QStringLiteral("Einträge der Klasse"));
+    setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
+    setCornerButtonEnabled(false);
+    setAlternatingRowColors(true);
+    setHorizontalScrollMode(ScrollPerPixel);
+    horizontalHeader()->setFixedHeight(HeadHeight);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setMinimumSectionSize(NarrowestColumn + ColumnPadding);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(RowHeight);
+    verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(&model, &ReportListModel::refused, this, [this](const QModelIndex& cell) {
+        m_wasRefused = true;
+        // The view may be on its way to another cell at this moment.
+        QTimer::singleShot(0, this, [this, cell = QPersistentModelIndex(cell)] { returnTo(cell); });
+    });
+    connect(&model, &QAbstractItemModel::modelReset, this,
+            [this] { setCurrentIndex(m_model.index(0, 0)); });
+    setCurrentIndex(model.index(0, 0));
+}
+
+void ReportListView::returnTo(const QModelIndex& cell) {
+    if (cell.isValid() && !selectionModel()->isSelected(cell))
+        setCurrentIndex(cell);
+    m_wasRefused = false;
+}
+
+QRect ReportListView::block() const {
+    QRect area;
+    for (const QModelIndex& cell : selectionModel()->selectedIndexes())
+        area |= QRect(cell.column(), cell.row(), 1, 1);
+    if (area.isEmpty() && currentIndex().isValid())
+        area = QRect(currentIndex().column(), currentIndex().row(), 1, 1);
+    return area;
+}
+
+void ReportListView::copy() const {
+    const QRect area = block();
+    QStringList lines;
+    for (int row = area.top(); row <= area.bottom(); ++row) {
+        QStringList cells;
+        for (int column = area.left(); column <= area.right(); ++column)
+            cells << m_model.index(row, column).data().toString();
+        lines << cells.join(u'\t');
+    }
+    QApplication::clipboard()->setText(lines.join(u'\n'));
+}
+
+void ReportListView::cut() {
+    copy();
+    clearCells();
+}
+
+void ReportListView::paste() {
+    const QString text = QApplication::clipboard()->text();
+    const QRect area = block();
+    if (text.isEmpty() || area.isEmpty())
+        return;
+    const Zelltext corner{.Platz = area.top(), .Spalte = area.left(), .Inhalt = {}};
+    m_model.change(ZellenAusText(fromQString(text), corner, area.height(), area.width()),
+                   QStringLiteral("Einfügen"));
+}
+
+void ReportListView::clearCells() {
+    std::vector<Zelltext> cells;
+    for (const QModelIndex& cell : selectionModel()->selectedIndexes())
+        cells.push_back({.Platz = cell.row(), .Spalte = cell.column(), .Inhalt = {}});
+    if (!cells.empty())
+        m_model.change(cells, QStringLiteral("Löschen"));
+}
+
+// False if there is no cell in that direction. Behind the end of a row comes the next one.
+bool ReportListView::step(int columns, int rows) {
+    const int width = m_model.columnCount();
+    const int next =
+        currentIndex().row() * width + currentIndex().column() + columns + rows * width;
+    if (!currentIndex().isValid() || next < 0 || next >= width * m_model.rowCount())
+        return false;
+    setCurrentIndex(m_model.index(next / width, next % width));
+    return true;
+}
+
+void ReportListView::keyPressEvent(QKeyEvent* event) {
+    const bool isBackwards =
+        event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier);
+    if (event->matches(QKeySequence::Copy))
+        copy();
+    else if (event->matches(QKeySequence::Cut))
+        cut();
+    else if (event->matches(QKeySequence::Paste))
+        paste();
+    else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)
+        clearCells();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        step(0, isBackwards ? -1 : 1);
+    else if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)
+        event->setAccepted(!event->modifiers().testFlag(Qt::ControlModifier) &&
+                           step(isBackwards ? -1 : 1, 0));
+    else
+        QTableView::keyPressEvent(event);
+}
+
+bool ReportListView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    m_typedOver = trigger == AnyKeyPressed;
+    return QTableView::edit(index, trigger, event);
+}
+
+void ReportListView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (m_wasRefused)
+        return;
+    if (hint == QAbstractItemDelegate::EditNextItem)
+        step(1, 0);
+    else if (hint == QAbstractItemDelegate::EditPreviousItem)
+        step(-1, 0);
+    else if (hint == QAbstractItemDelegate::SubmitModelCache)
+        step(0, 1);
+}
+
+void ReportListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (!m_wasRefused)
+        emit cellEntered();
+}
+
+// In a cell that is typed over, arrows lead to the next cell; in one opened with F2 they move the
+// caret.
+bool ReportListView::handleEditorKey(const QKeyEvent& event) {
+    if (!m_typedOver || event.modifiers() != Qt::NoModifier)
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Left:
+        setCurrentIndex(
+            m_model.index(currentIndex().row(), std::max(0, currentIndex().column() - 1)));
+        return true;
+    case Qt::Key_Right:
+        setCurrentIndex(m_model.index(currentIndex().row(), std::min(m_model.columnCount() - 1,
+                                                                     currentIndex().column() + 1)));
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool ReportListView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && qobject_cast<QLineEdit*>(watched) != nullptr &&
+        handleEditorKey(*static_cast<QKeyEvent*>(event)))
+        return true;
+    return QTableView::eventFilter(watched, event);
+}
+
+} // namespace zeugnis::dokumente

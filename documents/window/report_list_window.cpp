@@ -1,0 +1,234 @@
+#include "documents/window/report_list_window.h"
+
+#include "documents/pdf/qt_text.h"
+#include "platform/failure.h"
+
+#include <QAccessible>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace zeugnis::dokumente {
+namespace {
+
+constexpr QSize WindowSize(1240, 760);
+
+QWidget* rowOf(QHBoxLayout*& layout) {
+    auto* row = new QWidget;
+    layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(10);
+    return row;
+}
+
+QPushButton* buttonOf(const QString& text, const QString& toolTip) {
+    auto* button = new QPushButton(text);
+    button->setToolTip(toolTip);
+    return button;
+}
+
+QLabel* labelOf(const QString& name) {
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    return label;
+}
+
+} // namespace
+
+ReportListWindow::ReportListWindow(Arbeitsverzeichnis verzeichnis, Listenstand stand, Zeigen zeigen,
+                                   QWidget* parent)
+    : QWidget(parent),
+      m_zeigen(std::move(zeigen)),
+      m_model(std::move(verzeichnis), std::move(stand)),
+      m_view(new ReportListView(m_model)),
+      m_undo(buttonOf(QStringLiteral("&Rückgängig"),
+                      QStringLiteral("Die letzte Änderung zurücknehmen (Strg+Z)"))),
+      m_redo(buttonOf(QStringLiteral("&Wiederholen"),
+                      QStringLiteral("Die zurückgenommene Änderung wiederholen (Strg+Y)"))),
+      m_takeOver(buttonOf(QStringLiteral("Frühere &Einträge übernehmen"),
+                          QStringLiteral("Die Einträge der letzten Kopie für alle Kinder "
+                                         "übernehmen, die noch in der Klasse sind"))),
+      m_hint(labelOf(QStringLiteral("hinweis"))),
+      m_cell(labelOf(QStringLiteral("leise"))),
+      m_refusal(labelOf(QStringLiteral("fehler"))),
+      m_saved(labelOf(QStringLiteral("leise"))) {
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(16, 14, 16, 10);
+    all->setSpacing(10);
+    all->addWidget(actionRow());
+    all->addWidget(noticeRow());
+    all->addWidget(m_view, 1);
+    all->addWidget(statusRow());
+    connectModel();
+    addShortcuts();
+    showNotice(qString(m_model.state().Hinweis));
+    showState();
+    showCell();
+    resize(WindowSize);
+    m_view->setFocus();
+}
+
+QWidget* ReportListWindow::actionRow() {
+    QHBoxLayout* layout = nullptr;
+    QWidget* row = rowOf(layout);
+    auto* print = buttonOf(
+        QStringLiteral("&Drucken …"),
+        QStringLiteral("Die Liste als Dokument schreiben und zeigen, wie sie gedruckt wird "
+                       "(Strg+P)"));
+    print->setObjectName(QStringLiteral("haupt"));
+    auto* close = buttonOf(QStringLiteral("&Schließen"),
+                           QStringLiteral("Alles ist gespeichert, sobald es dasteht (Strg+W)"));
+    connect(print, &QPushButton::clicked, this, &ReportListWindow::print);
+    connect(m_undo, &QPushButton::clicked, &m_model, &ReportListModel::undo);
+    connect(m_redo, &QPushButton::clicked, &m_model, &ReportListModel::redo);
+    connect(close, &QPushButton::clicked, this, &QWidget::close);
+    for (QPushButton* button : {print, m_undo, m_redo})
+        layout->addWidget(button);
+    layout->addStretch();
+    layout->addWidget(close);
+    return row;
+}
+
+QWidget* ReportListWindow::noticeRow() {
+    QHBoxLayout* layout = nullptr;
+    QWidget* row = rowOf(layout);
+    m_hint->setWordWrap(true);
+    connect(m_takeOver, &QPushButton::clicked, this, [this] {
+        m_view->setFocus();
+        m_model.takeOver();
+    });
+    layout->addWidget(m_hint, 1);
+    layout->addWidget(m_takeOver);
+    return row;
+}
+
+QWidget* ReportListWindow::statusRow() {
+    QHBoxLayout* layout = nullptr;
+    QWidget* row = rowOf(layout);
+    m_refusal->setWordWrap(true);
+    m_refusal->hide();
+    layout->addWidget(m_cell);
+    layout->addWidget(m_refusal, 1);
+    layout->addStretch();
+    layout->addWidget(m_saved);
+    return row;
+}
+
+void ReportListWindow::connectModel() {
+    connect(&m_model, &ReportListModel::changed, this, [this] {
+        m_documentIsStale = true;
+        showState();
+        showCell();
+    });
+    connect(&m_model, &ReportListModel::notice, this, &ReportListWindow::showNotice);
+    connect(
+        &m_model, &ReportListModel::refused, this,
+        [this](const QModelIndex& /*cell*/, const QString& sentence) { showRefusal(sentence); });
+    connect(m_view, &ReportListView::cellEntered, this, &ReportListWindow::showCell);
+}
+
+void ReportListWindow::addShortcuts() {
+    const auto on = [this](const QKeySequence& keys, auto action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    on(QKeySequence::Print, [this] { print(); });
+    on(QKeySequence(Qt::CTRL | Qt::Key_Z), [this] { m_model.undo(); });
+    for (const QKeyCombination keys : {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z})
+        on(QKeySequence(keys), [this] { m_model.redo(); });
+    on(QKeySequence::Close, [this] { close(); });
+    on(QKeySequence(Qt::Key_Escape), [this] { close(); });
+}
+
+void ReportListWindow::showState() {
+    const Stammdaten& stamm = m_model.state().Stamm;
+    setWindowTitle(qString(Text(Listenname(stamm.Jahrgang)) + u" der Klasse " + stamm.Liste.Klasse +
+                           u", " + stamm.Halbjahr + u". Halbjahr"));
+    m_undo->setEnabled(m_model.history().canUndo());
+    m_redo->setEnabled(m_model.history().canRedo());
+    m_takeOver->setVisible(m_model.canTakeOver());
+    m_saved->setText(m_model.isSaved() ? QStringLiteral("Alles ist gespeichert.")
+                                       : QStringLiteral("Noch nicht gespeichert!"));
+}
+
+void ReportListWindow::showCell() {
+    const QModelIndex cell = m_view->currentIndex();
+    m_refusal->hide();
+    m_cell->show();
+    if (!cell.isValid()) {
+        m_cell->setText(QStringLiteral("In der Namensliste steht noch kein Kind."));
+        return;
+    }
+    const Schueler& kind = m_model.state().Stamm.Liste.Kinder[cell.row()];
+    m_cell->setText(qString(kind.Vorname + u" " + kind.Nachname) + QStringLiteral("   ·   ") +
+                    m_model.headerData(cell.column(), Qt::Horizontal, Qt::ToolTipRole).toString());
+}
+
+void ReportListWindow::showRefusal(const QString& sentence) {
+    m_cell->hide();
+    m_refusal->setText(sentence);
+    m_refusal->show();
+    QAccessibleEvent alert(m_refusal, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void ReportListWindow::showNotice(const QString& sentence) {
+    m_hint->setText(sentence);
+    m_hint->setVisible(!sentence.isEmpty());
+    showState();
+}
+
+void ReportListWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        m_model.refresh();
+}
+
+bool ReportListWindow::writeDocument() {
+    try {
+        ListendokumentSchreiben(m_model.folder(), m_model.state());
+        m_documentIsStale = false;
+        return true;
+    } catch (const Laufzeitfehler& failure) {
+        showNotice(qString(failure.sentence()));
+        return false;
+    }
+}
+
+void ReportListWindow::print() {
+    m_view->setFocus(); // what is being typed belongs to it
+    if (IstBearbeitet(m_model.folder(), m_model.state()) &&
+        QMessageBox::question(
+            this, QStringLiteral("Drucken"),
+            QStringLiteral("Das Dokument der Liste wurde in einer Textverarbeitung geändert. Soll "
+                           "es aus dieser Tabelle neu geschrieben werden?")) != QMessageBox::Yes)
+        return;
+    if (!writeDocument())
+        return;
+    const Text stamm = Listenstamm(m_model.state().Stamm);
+    const Arbeitsverzeichnis& ordner = m_model.folder();
+    m_zeigen({.Name = ordner.anzeigename(stamm + u".doc"),
+              .Doc = ordner.pfad(stamm + u".doc"),
+              .Pdf = ordner.pfad(stamm + u".pdf")});
+}
+
+// The document is left as new as the table, since it is what opens where Word is installed.
+void ReportListWindow::closeEvent(QCloseEvent* event) {
+    m_view->setFocus();
+    const bool saved = m_model.isSaved() || m_model.save();
+    if (!saved &&
+        QMessageBox::question(this, windowTitle(),
+                              QStringLiteral("Die letzten Änderungen konnten nicht "
+                                             "gespeichert werden und gehen verloren. "
+                                             "Trotzdem schließen?")) != QMessageBox::Yes) {
+        event->ignore();
+        return;
+    }
+    if (saved && m_documentIsStale && !IstBearbeitet(m_model.folder(), m_model.state()))
+        writeDocument();
+    QWidget::closeEvent(event);
+}
+
+} // namespace zeugnis::dokumente
