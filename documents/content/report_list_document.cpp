@@ -5,10 +5,11 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr int BreiteNummer = 4;
-constexpr int BreiteName = 32;
-constexpr int BreiteSpalte = 6;
-constexpr int BreiteSpalteAllein = 16; // where there are only two
+// In relation to each other, so that two figures fit into the narrowest column.
+constexpr int BreiteNummer = 42;
+constexpr int BreiteName = 256;
+constexpr int BreiteSpalte = 52;
+constexpr int BreiteSpalteAllein = 120; // where there are only two
 
 Cell zelle(StyleId stil, Text text) { return {.paragraphs = {paragraph(stil, std::move(text))}}; }
 

@@ -10,7 +10,7 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr int PanelWidth = 320;
+constexpr int PanelWidth = 300;
 
 QString summaryOf(size_t count) {
     if (count == 0)

@@ -235,6 +235,7 @@ void PreviewWindow::showChecks(const ChecksPanel::Pruefen& pruefen) {
     connect(panel, &ChecksPanel::chosen, this, &PreviewWindow::goToFinding);
     m_middle->addWidget(panel);
     resize(WidthWithChecks, WindowHeight);
+    m_view->setZoom(PageView::Zoom::PageWidth);
 }
 
 void PreviewWindow::goToFinding(const Befund& befund) {

@@ -65,19 +65,30 @@ QVariant ReportListModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-QVariant ReportListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Vertical) {
-        const Schueler& kind = m_stand.Stamm.Liste.Kinder[section];
-        const Text name = verbunden(kind.Nachname, u", ", kind.Vorname);
-        if (role == Qt::DisplayRole)
-            return qString(textFromNumber(section + 1) + u"   " + name);
-        return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignLeft | Qt::AlignVCenter)
-                                             : QVariant();
+QVariant ReportListModel::nameData(int row, int role) const {
+    const Schueler& kind = m_stand.Stamm.Liste.Kinder[row];
+    const QString name = qString(verbunden(kind.Nachname, u", ", kind.Vorname));
+    switch (role) {
+    case Qt::DisplayRole: // figures have all the same width, and so has the blank for them
+        return QString::number(row + 1).rightJustified(2, QChar(0x2007)) + QStringLiteral("  ") +
+               name;
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return name;
+    case Qt::TextAlignmentRole:
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    default:
+        return {};
     }
+}
+
+QVariant ReportListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Vertical)
+        return nameData(section, role);
     const Spalte& spalte = column(section);
     switch (role) {
     case Qt::DisplayRole:
-        return qString(spalte.Kopf);
+        return qString(HatNoten(m_stand.Stamm.Jahrgang) ? spalte.Kopf : spalte.Name);
     case Qt::AccessibleTextRole:
         return qString(spalte.Name);
     case Qt::ToolTipRole:

@@ -55,6 +55,7 @@ class ReportListModel : public QAbstractTableModel {
     friend class ListChange;
     void apply(const std::vector<Zellwert>& values);
     void reload();
+    [[nodiscard]] QVariant nameData(int row, int role) const;
 
     Arbeitsverzeichnis m_verzeichnis;
     Listenstand m_stand;

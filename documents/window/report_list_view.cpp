@@ -14,10 +14,18 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr int RowHeight = 26;
-constexpr int HeadHeight = 52;
-constexpr int NarrowestColumn = 62;
-constexpr int ColumnPadding = 14;
+constexpr int RowHeight = 25;
+constexpr int HeadHeight = 50;
+constexpr int NarrowestColumn = 76;
+constexpr int NameWidth = 270; // so that all subjects fit beside it on a small screen
+constexpr int GoodColumn = 90;
+constexpr double HeadPoints = 9.5;
+
+void setPoints(QWidget& widget, double points) {
+    QFont font = widget.font();
+    font.setPointSizeF(points);
+    widget.setFont(font);
+}
 
 /// The editor of a cell is as wide as the cell, with its text in the middle.
 class CellDelegate : public QStyledItemDelegate {
@@ -51,7 +59,10 @@ ReportListView::ReportListView(ReportListModel& model, QWidget* parent)
     setHorizontalScrollMode(ScrollPerPixel);
     horizontalHeader()->setFixedHeight(HeadHeight);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    horizontalHeader()->setMinimumSectionSize(NarrowestColumn + ColumnPadding);
+    for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
+        header->setTextElideMode(Qt::ElideRight);
+    horizontalHeader()->setMinimumSectionSize(NarrowestColumn);
+    setPoints(*horizontalHeader(), HeadPoints);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(RowHeight);
     verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -129,7 +140,12 @@ bool ReportListView::step(int columns, int rows) {
 void ReportListView::keyPressEvent(QKeyEvent* event) {
     const bool isBackwards =
         event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier);
-    if (event->matches(QKeySequence::Copy))
+    // What an open editor does not use comes up here too, but the editor's end moves on by itself.
+    const bool endsEditor = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                            event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (state() == EditingState && endsEditor)
+        event->accept();
+    else if (event->matches(QKeySequence::Copy))
         copy();
     else if (event->matches(QKeySequence::Cut))
         cut();
@@ -144,6 +160,13 @@ void ReportListView::keyPressEvent(QKeyEvent* event) {
                            step(isBackwards ? -1 : 1, 0));
     else
         QTableView::keyPressEvent(event);
+}
+
+void ReportListView::resizeEvent(QResizeEvent* event) {
+    const int besideColumns =
+        event->size().width() + verticalHeader()->width() - m_model.columnCount() * GoodColumn;
+    verticalHeader()->setMaximumWidth(std::max(NameWidth, besideColumns));
+    QTableView::resizeEvent(event);
 }
 
 bool ReportListView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {

@@ -64,11 +64,19 @@ ReportListWindow::ReportListWindow(Arbeitsverzeichnis verzeichnis, Listenstand s
     all->addWidget(statusRow());
     connectModel();
     addShortcuts();
-    showNotice(qString(m_model.state().Hinweis));
+    showNotice(openingNotice());
     showState();
     showCell();
     resize(WindowSize);
     m_view->setFocus();
+}
+
+QString ReportListWindow::openingNotice() const {
+    const Listenstand& stand = m_model.state();
+    if (!stand.Hinweis.empty() || !m_model.canTakeOver())
+        return qString(stand.Hinweis);
+    return QStringLiteral("Die Liste ist noch leer. Frühere Einträge stehen in der Kopie „%1“.")
+        .arg(qString(LetzteKopie(m_model.folder(), Listenstamm(stand.Stamm))));
 }
 
 QWidget* ReportListWindow::actionRow() {
@@ -118,6 +126,10 @@ QWidget* ReportListWindow::statusRow() {
 }
 
 void ReportListWindow::connectModel() {
+    m_undo->setEnabled(false);
+    m_redo->setEnabled(false);
+    connect(&m_model.history(), &QUndoStack::canUndoChanged, m_undo, &QWidget::setEnabled);
+    connect(&m_model.history(), &QUndoStack::canRedoChanged, m_redo, &QWidget::setEnabled);
     connect(&m_model, &ReportListModel::changed, this, [this] {
         m_documentIsStale = true;
         showState();
@@ -146,8 +158,6 @@ void ReportListWindow::showState() {
     const Stammdaten& stamm = m_model.state().Stamm;
     setWindowTitle(qString(Text(Listenname(stamm.Jahrgang)) + u" der Klasse " + stamm.Liste.Klasse +
                            u", " + stamm.Halbjahr + u". Halbjahr"));
-    m_undo->setEnabled(m_model.history().canUndo());
-    m_redo->setEnabled(m_model.history().canRedo());
     m_takeOver->setVisible(m_model.canTakeOver());
     m_saved->setText(m_model.isSaved() ? QStringLiteral("Alles ist gespeichert.")
                                        : QStringLiteral("Noch nicht gespeichert!"));

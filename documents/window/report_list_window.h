@@ -33,6 +33,7 @@ class ReportListWindow : public QWidget {
     void connectModel();
     void addShortcuts();
 
+    [[nodiscard]] QString openingNotice() const;
     void showState();
     void showCell();
     void showRefusal(const QString& sentence);

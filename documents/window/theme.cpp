@@ -45,9 +45,10 @@ QTableView:focus { border: 2px solid #1F6F6B; }
 QTableView::item:focus { background: #BFDCD9; border: 2px solid #1F6F6B; }
 QTableView QLineEdit { background: #FFFBEA; border: 2px solid #1F6F6B; padding: 0; }
 QHeaderView { background: #F6F4EF; }
-QHeaderView::section { background: #F6F4EF; padding: 2px 6px; border: none;
+QHeaderView::section { background: #F6F4EF; padding: 2px 3px; border: none;
     border-right: 1px solid #D8D3C8; border-bottom: 1px solid #D8D3C8; }
-QHeaderView::section:checked { background: #EAF3F2; font-weight: normal; }
+QHeaderView::section:vertical { padding-left: 8px; }
+QHeaderView::section:checked { background: #D5E7E5; }
 QTableCornerButton::section { background: #F6F4EF; border: none; }
 QScrollBar:vertical { width: 14px; margin: 0; background: transparent; }
 QScrollBar:horizontal { height: 14px; margin: 0; background: transparent; }
