@@ -166,18 +166,31 @@ bool ReportListModel::refresh() {
     try {
         if (IstAktuell(m_verzeichnis, m_stand))
             return true;
-        reload();
+        // Not at once: an editor may be handing over its text at this moment.
+        QMetaObject::invokeMethod(this, &ReportListModel::reload, Qt::QueuedConnection);
     } catch (const Laufzeitfehler& failure) {
-        emit notice(QStringLiteral("Die Liste kann gerade nicht geändert werden. ") +
-                    qString(failure.sentence()));
+        notUsable(failure);
     }
     return false;
 }
 
+void ReportListModel::notUsable(const Laufzeitfehler& failure) {
+    emit notice(QStringLiteral("Die Liste kann gerade nicht geändert werden. ") +
+                qString(failure.sentence()));
+}
+
 void ReportListModel::reload() {
-    Listenstand neu = ZeugnislisteOeffnen(m_verzeichnis, SystemCalendar().today());
+    try {
+        if (!IstAktuell(m_verzeichnis, m_stand))
+            take(ZeugnislisteOeffnen(m_verzeichnis, SystemCalendar().today()));
+    } catch (const Laufzeitfehler& failure) {
+        notUsable(failure);
+    }
+}
+
+void ReportListModel::take(Listenstand stand) {
     beginResetModel();
-    m_stand = std::move(neu);
+    m_stand = std::move(stand);
     m_eintraege = m_stand.Liste.Eintraege;
     m_history.clear();
     m_saved = true;

@@ -2,6 +2,7 @@
 
 #include "documents/content/report_list_edit.h"
 #include "documents/content/report_list_store.h"
+#include "platform/failure.h"
 
 #include <QAbstractTableModel>
 #include <QUndoStack>
@@ -30,7 +31,8 @@ class ReportListModel : public QAbstractTableModel {
     void redo();
     [[nodiscard]] const QUndoStack& history() const { return m_history; }
 
-    /// Reads everything anew if another program has changed it; false if it had to, or failed.
+    /// False if another program has changed the files, or they cannot be read: then nothing can be
+    /// changed now. What has changed is read anew as soon as the present event is over.
     bool refresh();
 
     /// Takes the entries of the last dated copy over for the children that are still there.
@@ -55,6 +57,8 @@ class ReportListModel : public QAbstractTableModel {
     friend class ListChange;
     void apply(const std::vector<Zellwert>& values);
     void reload();
+    void take(Listenstand stand);
+    void notUsable(const Laufzeitfehler& failure);
     [[nodiscard]] QVariant nameData(int row, int role) const;
 
     Arbeitsverzeichnis m_verzeichnis;

@@ -52,7 +52,7 @@ TEST_F(DocumentFiles, FindsAHelpTextInItsFolder) {
 TEST_F(DocumentFiles, NamesWhatThereIsNotYet) {
     const Text sentence = test::failureSentenceOf([&] { open(u"KlListe.doc", u"Klassenliste"); });
     EXPECT_NE(sentence.find(u"„KlListe.doc“"), Text::npos);
-    EXPECT_EQ(failureOf([&] { open(u"3aZeugnisliste32.doc"); }), "file-not-found");
+    EXPECT_EQ(failureOf([&] { open(u"3aFotoliste32.doc"); }), "file-not-found");
     EXPECT_EQ(failureOf([&] { open(u"Anderswo\\a.doc"); }), "path-not-found");
 }
 

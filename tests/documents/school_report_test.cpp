@@ -41,6 +41,8 @@ TEST(SchoolReport, ShowsHeadTextsAndEndOfTheFormInOrder) {
                          u"Zoé arbeitet gern.\r\nSie liest viel.",
                          u"Zoé hilft allen.",
                          {u"Zoé singt im Chor.", u"Zoé liebt Tiere.", u"Zoé wird versetzt."}}});
+    installation.write(u"3aZeugnisliste32.txt",
+                       u"7,\"3a\",\"Weiß\",\"Zoé\",5,0,1,2,3,4,5,6,-1,2,2,2\r\n");
     const Document document = documentOf(installation);
     ASSERT_EQ(document.sections.size(), 1U);
     EXPECT_EQ(utf8FromText(document.title),
@@ -54,17 +56,40 @@ Schuljahr 2026/2027, 2. Halbjahr
 Zoé Weiß
 geboren am 02.11.2017 in Köln
 Klasse 3a
+Versäumte Unterrichtstage: 5, davon unentschuldigt: 0
 Arbeitsverhalten
 Zoé arbeitet gern.
 Sie liest viel.
 Sozialverhalten
 Zoé hilft allen.
+Leistungen in den Fächern
+Deutsch
+Mathematik
+Sachunterricht
+Englisch
+Religion / Werte und Normen
+sehr gut (1)
+gut (2)
+befriedigend (3)
+ausreichend (4)
+mangelhaft (5)
+Musik
+Kunst
+Textiles Gestalten
+Gestaltendes Werken
+Sport
+ungenügend (6)
+–
+gut (2)
+gut (2)
+gut (2)
 Förderunterricht und Arbeitsgemeinschaften
 Zoé singt im Chor.
 Besondere Interessen
 Zoé liebt Tiere.
 Bemerkungen
 Zoé wird versetzt.
+Noten: 1 = sehr gut, 2 = gut, 3 = befriedigend, 4 = ausreichend, 5 = mangelhaft, 6 = ungenügend
 Konferenz vom 22.06.2027
 Süderfehn, den 07.07.2027
 Klassenlehrkraft
@@ -79,19 +104,30 @@ TEST(SchoolReport, WhatIsMissingLeavesADashOrNoLine) {
     ReportInstallation installation;
     installation.Schule = {};
     installation.Schule.Halbjahr = u"1";
-    installation.write({{{}, u"", u" \r\n"}});
+    installation.write({{{}, u"", u" \r\n"}}, u"2a");
     EXPECT_EQ(shown(documentOf(installation).sections.at(0)), R"(–
 Zeugnis
 Schuljahr –, 1. Halbjahr
 –
-Klasse 3a
+Klasse 2a
+Versäumte Unterrichtstage: –, davon unentschuldigt: –
 Arbeitsverhalten
 –
 Sozialverhalten
 –
-Förderunterricht und Arbeitsgemeinschaften
+Interessen und Fertigkeiten
 –
-Besondere Interessen
+Sprechen und Zuhören
+–
+Lesen und mit Texten umgehen
+–
+Schreiben, Texte verfassen
+–
+Zahlen und Operationen
+–
+Größen und Messen
+–
+Raum und Form
 –
 Bemerkungen
 –
