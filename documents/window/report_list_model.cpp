@@ -5,6 +5,8 @@
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
 
+#include <utility>
+
 namespace zeugnis::dokumente {
 
 /// A step of the history. The first redo comes with being pushed.
@@ -153,7 +155,8 @@ void ReportListModel::apply(const std::vector<Zellwert>& values) {
 bool ReportListModel::save() {
     try {
         ListenstandSchreiben(m_verzeichnis, m_stand, m_eintraege);
-        m_saved = true;
+        if (!std::exchange(m_saved, true))
+            emit notice({});
     } catch (const Laufzeitfehler& failure) {
         m_saved = false;
         emit notice(QStringLiteral("Die letzte Änderung ist noch nicht gespeichert. ") +

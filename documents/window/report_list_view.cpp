@@ -155,9 +155,10 @@ void ReportListView::keyPressEvent(QKeyEvent* event) {
         clearCells();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         step(0, isBackwards ? -1 : 1);
-    else if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)
-        event->setAccepted(!event->modifiers().testFlag(Qt::ControlModifier) &&
-                           step(isBackwards ? -1 : 1, 0));
+    else if (endsEditor && event->modifiers().testFlag(Qt::ControlModifier))
+        QAbstractScrollArea::focusNextPrevChild(!isBackwards);
+    else if (endsEditor)
+        event->setAccepted(step(isBackwards ? -1 : 1, 0));
     else
         QTableView::keyPressEvent(event);
 }

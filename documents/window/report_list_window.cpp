@@ -151,7 +151,6 @@ void ReportListWindow::addShortcuts() {
     for (const QKeyCombination keys : {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z})
         on(QKeySequence(keys), [this] { m_model.redo(); });
     on(QKeySequence::Close, [this] { close(); });
-    on(QKeySequence(Qt::Key_Escape), [this] { close(); });
 }
 
 void ReportListWindow::showState() {

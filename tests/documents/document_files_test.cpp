@@ -1,4 +1,5 @@
 #include "documents/app/document_files.h"
+#include "documents/app/document_keys.h"
 #include "tests/documents/report_installation.h"
 #include "tests/support/failure_of.h"
 
@@ -54,6 +55,20 @@ TEST_F(DocumentFiles, NamesWhatThereIsNotYet) {
     EXPECT_NE(sentence.find(u"„KlListe.doc“"), Text::npos);
     EXPECT_EQ(failureOf([&] { open(u"3aFotoliste32.doc"); }), "file-not-found");
     EXPECT_EQ(failureOf([&] { open(u"Anderswo\\a.doc"); }), "path-not-found");
+}
+
+TEST_F(DocumentFiles, ShowsEachInTheWindowThatBelongsToIt) {
+    Arbeitsverzeichnis verzeichnis(installation.path());
+    const auto fenster = [&](const Text& dokument, const Text& makro = {}) {
+        return FensterFuer(verzeichnis, {.Dokument = dokument, .Makro = makro});
+    };
+    EXPECT_EQ(fenster(u"ZeugnisseSchreiben.doc", u"zeugnisseschreiben"), Fensterart::Zeugnisse);
+    EXPECT_EQ(fenster(u"3aZeugnisse32.doc"), Fensterart::Zeugnisse);
+    EXPECT_EQ(fenster(u"3aZEUGNISLISTE32.DOC"), Fensterart::Zeugnisliste);
+    EXPECT_EQ(fenster(u"ZeugnislisteNeu.doc", u"ZeugnislisteNeu"), Fensterart::ZeugnislisteNeu);
+    EXPECT_EQ(fenster(u"4aZeugnisliste42.doc"), Fensterart::Vorschau);
+    installation.remove(u"Daten/Namen.Txt");
+    EXPECT_EQ(fenster(u"3aZeugnisse32.doc"), Fensterart::Vorschau);
 }
 
 TEST_F(DocumentFiles, ShowsAnEditedDocumentAfreshOrSaysThatItCannot) {

@@ -90,6 +90,41 @@ TEST_F(PreviewWindowTest, SaysThatTheDocumentWasEditedMeanwhile) {
     EXPECT_TRUE(hint->text().contains(QStringLiteral("Stand davor")));
 }
 
+TEST_F(PreviewWindowTest, AFindingLeadsToThePageWithItsSection) {
+    const auto finding = [](int place, const Text& name, TextView section) {
+        return Befund{.Platz = place, .Kind = name, .Abschnitt = section, .Satz = u"Satz."};
+    };
+    window->showChecks([&] {
+        return std::vector{finding(AlleKinder, u"", u""), finding(2, u"Kim Çelik", u"Bemerkungen"),
+                           finding(0, u"Kim Ahlers", u"Arbeitsverhalten"),
+                           // As in a document without bookmarks: found by its name.
+                           finding(9, u"Kim Çelik", u"")};
+    });
+    auto* list = window->findChild<ChecksPanel*>()->findChild<QListWidget*>();
+    ASSERT_EQ(list->count(), 4);
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral("Kim Çelik\nSatz."));
+    list->setFocus();
+    const int pages[] = {0, 8, 0, 6};
+    for (int row = 0; row < list->count(); ++row) {
+        list->setCurrentRow(row);
+        QTest::keyClick(list, Qt::Key_Return);
+        EXPECT_EQ(view->currentPage(), pages[row]) << row;
+    }
+}
+
+TEST_F(PreviewWindowTest, SaysThatNothingWasNoticedOrNothingCouldBeChecked) {
+    const ChecksPanel fine([] { return std::vector<Befund>(); });
+    EXPECT_TRUE(fine.findChild<QLabel*>(QStringLiteral("leise"))
+                    ->text()
+                    .startsWith(QStringLiteral("Es ist nichts aufgefallen.")));
+    const ChecksPanel broken([]() -> std::vector<Befund> {
+        throw Laufzeitfehler(Fehlerart::EndOfFile, u"Es fehlt etwas.");
+    });
+    EXPECT_TRUE(broken.findChild<QLabel*>(QStringLiteral("leise"))
+                    ->text()
+                    .contains(QStringLiteral("nicht geprüft werden. Es fehlt etwas.")));
+}
+
 TEST_F(PreviewWindowTest, CanBeUsedByKeyboardAndScreenReader) {
     for (const QWidget* widget : window->findChildren<QWidget*>()) {
         if (widget->focusPolicy() == Qt::NoFocus || widget->isHidden())

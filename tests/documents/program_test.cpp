@@ -1,3 +1,4 @@
+#include "platform/plain_machine.h"
 #include "tests/documents/report_installation.h"
 
 #include <gtest/gtest.h>
@@ -55,6 +56,22 @@ TEST_F(Program, WritesTheReportsWithoutADisplay) {
     EXPECT_EQ(writeReports().exitCode, 0);
     EXPECT_EQ(installation.read(Doc).substr(0, 6), u"{\\rtf1");
     EXPECT_EQ(installation.read(Pdf).substr(0, 5), u"%PDF-");
+}
+
+TEST_F(Program, BeginsTheListAnewAndKeepsTheFormerOne) {
+    const Text former = u"1,\"3a\",\"Öz\",\"Azra\",5,0,1,1,1,1,1,1,1,1,1,1\r\n";
+    installation.write(u"3aZeugnisliste32.txt", former);
+    EXPECT_EQ(
+        run(installation, {QStringLiteral("ZeugnislisteNeu.doc"),
+                           QStringLiteral("/mZeugnislisteNeu"), QStringLiteral("--no-window")})
+            .exitCode,
+        0);
+    EXPECT_EQ(installation.read(u"3aZeugnisliste32.txt"),
+              u"1,\"3a\",\"Öz\",\"Azra\",-1,-1,-1,-1,-1,-1,-1,-1,-1,-1,-1,-1\r\n");
+    EXPECT_EQ(installation.read(u"3aZeugnisliste32 vom " + SystemCalendar().today() + u".txt"),
+              former);
+    EXPECT_EQ(installation.read(u"3aZeugnisliste32.doc").substr(0, 6), u"{\\rtf1");
+    EXPECT_EQ(installation.read(u"3aZeugnisliste32.pdf").substr(0, 5), u"%PDF-");
 }
 
 TEST_F(Program, SaysThatTheSchoolDataAreMissing) {
