@@ -156,7 +156,9 @@ void ReportListView::keyPressEvent(QKeyEvent* event) {
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         step(0, isBackwards ? -1 : 1);
     else if (endsEditor && event->modifiers().testFlag(Qt::ControlModifier))
-        QAbstractScrollArea::focusNextPrevChild(!isBackwards);
+        // The nearer one would come back here as a Tab.
+        QAbstractScrollArea::focusNextPrevChild(
+            !isBackwards); // NOLINT(bugprone-parent-virtual-call)
     else if (endsEditor)
         event->setAccepted(step(isBackwards ? -1 : 1, 0));
     else
