@@ -157,8 +157,8 @@ void ReportListView::keyPressEvent(QKeyEvent* event) {
         step(0, isBackwards ? -1 : 1);
     else if (endsEditor && event->modifiers().testFlag(Qt::ControlModifier))
         // The nearer one would come back here as a Tab.
-        QAbstractScrollArea::focusNextPrevChild(
-            !isBackwards); // NOLINT(bugprone-parent-virtual-call)
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        QAbstractScrollArea::focusNextPrevChild(!isBackwards);
     else if (endsEditor)
         event->setAccepted(step(isBackwards ? -1 : 1, 0));
     else

@@ -206,8 +206,16 @@ bool ReportListWindow::writeDocument() {
     }
 }
 
+// What is being typed belongs to the list. False if it was refused; then its sentence is shown.
+bool ReportListWindow::takeTyped() {
+    showCell();
+    m_view->setFocus();
+    return m_refusal->isHidden();
+}
+
 void ReportListWindow::print() {
-    m_view->setFocus(); // what is being typed belongs to it
+    if (!takeTyped())
+        return;
     if (IstBearbeitet(m_model.folder(), m_model.state()) &&
         QMessageBox::question(
             this, QStringLiteral("Drucken"),
@@ -225,7 +233,10 @@ void ReportListWindow::print() {
 
 // The document is left as new as the table, since it is what opens where Word is installed.
 void ReportListWindow::closeEvent(QCloseEvent* event) {
-    m_view->setFocus();
+    if (!takeTyped()) {
+        event->ignore();
+        return;
+    }
     const bool saved = m_model.isSaved() || m_model.save();
     if (!saved &&
         QMessageBox::question(this, windowTitle(),

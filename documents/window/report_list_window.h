@@ -38,6 +38,7 @@ class ReportListWindow : public QWidget {
     void showCell();
     void showRefusal(const QString& sentence);
     void showNotice(const QString& sentence);
+    bool takeTyped();
     void print();
     bool writeDocument();
 

@@ -19,6 +19,7 @@ class ReportList : public testing::Test {
 
     void kinder(const std::vector<Schueler>& namen, const Text& klasse = u"3a") {
         std::vector<test::Zeugniskind> alle;
+        alle.reserve(namen.size());
         for (const Schueler& name : namen)
             alle.push_back({.Kind = name, .AV = {}, .SV = {}});
         installation.write(alle, klasse);

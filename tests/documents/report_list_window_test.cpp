@@ -122,6 +122,15 @@ TEST_F(ReportListWindowTest, RefusesWhatCannotBeAndStaysThere) {
     EXPECT_EQ(cells(3), ". . 4|. . .|");
 }
 
+TEST_F(ReportListWindowTest, ClosingTakesWhatIsBeingTypedUnlessItIsRefused) {
+    keys("201");
+    EXPECT_FALSE(window->close());
+    EXPECT_FALSE(refusal->isHidden());
+    keys("20");
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(file().substr(0, 26), u"1,\"3a\",\"Ahlers\",\"Kim\",20,-");
+}
+
 TEST_F(ReportListWindowTest, CopiesPastesAndClearsBlocks) {
     QApplication::clipboard()->setText(QStringLiteral("4\t1\t2\n5\t0\t3\n"));
     press(Qt::Key_V, Qt::ControlModifier);
