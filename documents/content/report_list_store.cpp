@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <map>
 #include <system_error>
 
 namespace zeugnis::dokumente {
@@ -60,20 +62,18 @@ bool istSchaden(const Laufzeitfehler& failure) {
            Schadensarten.end();
 }
 
-// A damaged list may hold entries too.
-bool hatEintraege(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& stamm) {
-    const Text datei = Listenstamm(stamm) + Text(Endung);
+bool hatEintraege(const Arbeitsverzeichnis& verzeichnis, TextView datei, int jahrgang,
+                  bool beiSchaden) {
     if (!vorhanden(verzeichnis, datei))
         return false;
     try {
-        const std::vector<Listenzeile> zeilen =
-            ListenzeilenLesen(verzeichnis, datei, stamm.Jahrgang);
+        const std::vector<Listenzeile> zeilen = ListenzeilenLesen(verzeichnis, datei, jahrgang);
         return std::any_of(zeilen.begin(), zeilen.end(),
                            [](const Listenzeile& zeile) { return !zeile.Werte.istLeer(); });
     } catch (const Laufzeitfehler& failure) {
         if (!istSchaden(failure))
             throw;
-        return true;
+        return beiSchaden;
     }
 }
 
@@ -139,7 +139,9 @@ Listenstand ZeugnislisteOeffnen(Arbeitsverzeichnis& verzeichnis, const Text& heu
 Listenstand ZeugnislisteNeuBeginnen(Arbeitsverzeichnis& verzeichnis, const Text& heute) {
     Listenstand stand{
         .Stamm = StammdatenLesen(verzeichnis), .Liste = {}, .Bytes = {}, .Hinweis = {}};
-    if (hatEintraege(verzeichnis, stand.Stamm)) {
+    // A damaged list may hold entries too.
+    const Text datei = Listenstamm(stand.Stamm) + Text(Endung);
+    if (hatEintraege(verzeichnis, datei, stand.Stamm.Jahrgang, true)) {
         const Text kopie = kopieAnlegen(verzeichnis, Listenstamm(stand.Stamm), heute);
         stand.Hinweis = u"Die Stammdaten wurden gespeichert, deshalb beginnt die Liste neu. Die "
                         u"bisherigen Einträge stehen in der Kopie „" +
@@ -161,21 +163,21 @@ void ListenstandSchreiben(const Arbeitsverzeichnis& verzeichnis, Listenstand& st
     stand.Bytes = inhaltVon(verzeichnis, Listenstamm(stand.Stamm) + Text(Endung));
 }
 
-Text LetzteKopie(const Arbeitsverzeichnis& verzeichnis, const Text& stamm) {
-    Text letzte;
-    Text alter;
+Text LetzteKopie(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten) {
+    const Text stamm = Listenstamm(daten);
+    std::map<Text, Text, std::greater<>> kopien;
     std::error_code ignored;
     for (fs::directory_iterator entry(verzeichnis.aktuell(), ignored), end;
          !ignored && entry != end; entry.increment(ignored)) {
         const std::u8string utf8 = entry->path().filename().u8string();
         const Text name = textFromUtf8(std::string(utf8.begin(), utf8.end()));
-        const Text schluessel = altersschluessel(stamm, name);
-        if (schluessel > alter) {
-            alter = schluessel;
-            letzte = name;
-        }
+        if (const Text schluessel = altersschluessel(stamm, name); !schluessel.empty())
+            kopien[schluessel] = name;
     }
-    return letzte;
+    for (const auto& [schluessel, name] : kopien)
+        if (hatEintraege(verzeichnis, name, daten.Jahrgang, false))
+            return name;
+    return {};
 }
 
 } // namespace zeugnis::dokumente

@@ -28,7 +28,7 @@ bool IstAktuell(Arbeitsverzeichnis& verzeichnis, const Listenstand& stand);
 void ListenstandSchreiben(const Arbeitsverzeichnis& verzeichnis, Listenstand& stand,
                           const Schuelertabelle<Eintrag>& eintraege);
 
-/// The youngest dated copy of the list, or an empty name.
-Text LetzteKopie(const Arbeitsverzeichnis& verzeichnis, const Text& stamm);
+/// The youngest dated copy of the list that can be read and holds entries, or an empty name.
+Text LetzteKopie(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten);
 
 } // namespace zeugnis::dokumente

@@ -204,17 +204,25 @@ void ReportListModel::take(Listenstand stand) {
     emit changed();
 }
 
+Text ReportListModel::lastCopy() const {
+    try {
+        return LetzteKopie(m_verzeichnis, m_stand.Stamm);
+    } catch (const Laufzeitfehler&) {
+        return {}; // what cannot be read cannot be offered
+    }
+}
+
 bool ReportListModel::canTakeOver() const {
     for (const Eintrag& eintrag : m_eintraege)
         if (!eintrag.istLeer())
             return false;
-    return !LetzteKopie(m_verzeichnis, Listenstamm(m_stand.Stamm)).empty();
+    return !lastCopy().empty();
 }
 
 void ReportListModel::takeOver() {
     if (!refresh())
         return;
-    const Text kopie = LetzteKopie(m_verzeichnis, Listenstamm(m_stand.Stamm));
+    const Text kopie = lastCopy();
     try {
         const Zeugnisliste alte = Zuordnen(
             ListenzeilenLesen(m_verzeichnis, kopie, m_stand.Stamm.Jahrgang), m_stand.Stamm.Liste);

@@ -39,6 +39,7 @@ class ReportListModel : public QAbstractTableModel {
     void takeOver();
     /// Whether there is one, and nothing has been entered yet.
     [[nodiscard]] bool canTakeOver() const;
+    [[nodiscard]] Text lastCopy() const;
 
     /// Tries again to write what could not be written. True if everything is in the file.
     bool save();

@@ -76,7 +76,7 @@ QString ReportListWindow::openingNotice() const {
     if (!stand.Hinweis.empty() || !m_model.canTakeOver())
         return qString(stand.Hinweis);
     return QStringLiteral("Die Liste ist noch leer. Frühere Einträge stehen in der Kopie „%1“.")
-        .arg(qString(LetzteKopie(m_model.folder(), Listenstamm(stand.Stamm))));
+        .arg(qString(m_model.lastCopy()));
 }
 
 QWidget* ReportListWindow::actionRow() {

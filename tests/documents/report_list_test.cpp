@@ -33,6 +33,8 @@ class ReportList : public testing::Test {
         ListenstandSchreiben(verzeichnis, stand, eintraege);
     }
 
+    Text letzteKopie() { return LetzteKopie(verzeichnis, StammdatenLesen(verzeichnis)); }
+
     Listenstand oeffnen() { return ZeugnislisteOeffnen(verzeichnis, Heute); }
 
     test::ReportInstallation installation;
@@ -71,6 +73,7 @@ TEST_F(ReportList, DamageIsNamedAndPutAsideAndNeverTaken) {
         {u"1,\"3a\",\"Öz\",\"Zoé\",12,0,1,1,1", "end-of-file"},
         {u"1,\"3a\",\"Öz", "end-of-file"},
     };
+    const Text kopie = u"3aZeugnisliste32 vom 01.07.2027.txt";
     for (const auto& fall : faelle) {
         installation.write(Datei, fall.Zeilen);
         EXPECT_EQ(test::failureOf([&] { ListenzeilenLesen(verzeichnis, Datei, 3); }), fall.Fehler)
@@ -78,8 +81,8 @@ TEST_F(ReportList, DamageIsNamedAndPutAsideAndNeverTaken) {
         const Listenstand stand = oeffnen();
         EXPECT_TRUE(stand.Liste.istLeer());
         EXPECT_NE(stand.Hinweis.find(u"beschädigt"), Text::npos);
-        const Text kopie = LetzteKopie(verzeichnis, u"3aZeugnisliste32");
         EXPECT_EQ(installation.read(kopie), fall.Zeilen);
+        installation.remove(kopie);
     }
 }
 
@@ -132,20 +135,24 @@ TEST_F(ReportList, KeepsWhatBelongsToNoChildAnyMore) {
 
 TEST_F(ReportList, BeginsAnewWithACopyOfWhatWasEntered) {
     ZeugnislisteNeuBeginnen(verzeichnis, Heute);
-    EXPECT_EQ(LetzteKopie(verzeichnis, u"3aZeugnisliste32"), u"");
+    EXPECT_EQ(letzteKopie(), u"");
     const Text kopien[] = {u"3aZeugnisliste32 vom 01.07.2027.txt",
                            u"3aZeugnisliste32 vom 01.07.2027-2.txt"};
     for (int i = 0; i < 2; ++i) {
         eintragen(1, SpalteTage, 7 + i);
         EXPECT_TRUE(ZeugnislisteNeuBeginnen(verzeichnis, Heute).Liste.istLeer());
-        EXPECT_EQ(LetzteKopie(verzeichnis, u"3aZeugnisliste32"), kopien[i]);
+        EXPECT_EQ(letzteKopie(), kopien[i]);
         EXPECT_TRUE(oeffnen().Liste.istLeer());
     }
     for (int i = 0; i < 2; ++i)
         EXPECT_EQ(ListenzeilenLesen(verzeichnis, kopien[i], 3).at(1).Werte.Werte[SpalteTage],
                   7 + i);
-    installation.write(u"3aZeugnisliste32 vom 31.12.2026-9.txt", u"");
-    EXPECT_EQ(LetzteKopie(verzeichnis, u"3aZeugnisliste32"), kopien[1]);
+    // Neither an older nor an empty nor a damaged one is offered.
+    const Text alt = installation.read(kopien[0]);
+    installation.write(u"3aZeugnisliste32 vom 31.12.2026-9.txt", alt);
+    installation.write(u"3aZeugnisliste32 vom 02.07.2027.txt", u"");
+    installation.write(u"3aZeugnisliste32 vom 03.07.2027.txt", alt.substr(0, 20));
+    EXPECT_EQ(letzteKopie(), kopien[1]);
 }
 
 TEST_F(ReportList, TakesAChangeAsAWholeOrNotAtAll) {
