@@ -1,5 +1,6 @@
 #include "documents/app/document_keys.h"
 #include "documents/app/report_list_files.h"
+#include "documents/app/review_document.h"
 #include "documents/app/word_processor.h"
 #include "documents/pdf/qt_text.h"
 #include "documents/window/preview_window.h"
@@ -10,6 +11,7 @@
 #include "platform/machine.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMessageBox>
 #include <QTemporaryDir>
 
@@ -23,37 +25,62 @@ using namespace zeugnis::dokumente;
 
 constexpr TextView OhneFenster = u"--no-window";
 
-int ohneFenster(const std::vector<Text>& argumente) {
+int ohneFenster(const Aufruf& aufruf) {
+    if (IstAnzeigetext(aufruf))
+        AnzeigetextVerweigern();
     Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
-    DokumentBereitstellen(verzeichnis, AufrufLesen(argumente));
+    DokumentBereitstellen(verzeichnis, aufruf);
     return 0;
 }
 
-Anzeige mitFortschrittSuchen(const Dokumentdateien& dateien, const QTemporaryDir& ordner) {
-    return withProgress(QStringLiteral("Das Dokument wird vorbereitet …"), nullptr, [&] {
-        return AnzeigeFinden(dateien, [&](const std::filesystem::path& dokument) {
-            return inPdfUmwandeln(dokument, ordner.path().toStdU16String());
+Dokumentdateien mitFortschrittSchreiben(const Aufruf& aufruf, const std::filesystem::path& ordner) {
+    const auto schreibe = QStringLiteral("Das Dokument wird geschrieben …");
+    if (!IstAnzeigetext(aufruf))
+        return withProgress(schreibe, nullptr, [&](const std::stop_token& abbruch) {
+            Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
+            return DokumentBereitstellen(verzeichnis, aufruf, abbruch);
         });
+    const Text text = fromQString(QGuiApplication::clipboard()->text());
+    return withProgress(schreibe, nullptr, [&](const std::stop_token& abbruch) {
+        return AnzeigetextSchreiben(ordner, text, abbruch);
     });
+}
+
+Anzeige mitFortschrittSuchen(const Dokumentdateien& dateien, const std::filesystem::path& ordner) {
+    return withProgress(QStringLiteral("Das Dokument wird vorbereitet …"), nullptr,
+                        [&](const std::stop_token& abbruch) {
+                            return AnzeigeFinden(
+                                dateien,
+                                [&](const std::filesystem::path& dokument) {
+                                    return inPdfUmwandeln(dokument, ordner, abbruch);
+                                },
+                                abbruch);
+                        });
 }
 
 using Fenster = std::unique_ptr<QWidget>;
 
 std::unique_ptr<PreviewWindow> vorschau(const Dokumentdateien& dateien,
-                                        const QTemporaryDir& ordner) {
-    return std::make_unique<PreviewWindow>(
-        [&ordner, dateien] { return mitFortschrittSuchen(dateien, ordner); });
+                                        const std::filesystem::path& umwandlungen,
+                                        const Text& hinweis = {}) {
+    return std::make_unique<PreviewWindow>([=] {
+        Anzeige anzeige = mitFortschrittSuchen(dateien, umwandlungen);
+        if (anzeige.Hinweis.empty())
+            anzeige.Hinweis = hinweis;
+        return anzeige;
+    });
 }
 
 Fenster listenfenster(const Arbeitsverzeichnis& programmordner, bool neu,
-                      const QTemporaryDir& ordner) {
-    Listenstand stand = withProgress(QStringLiteral("Die Liste wird geöffnet …"), nullptr, [&] {
-        Arbeitsverzeichnis verzeichnis = programmordner;
-        return ListeBereitstellen(verzeichnis, neu);
-    });
+                      const std::filesystem::path& umwandlungen) {
+    Listenstand stand = withProgress(QStringLiteral("Die Liste wird geöffnet …"), nullptr,
+                                     [&](const std::stop_token&) {
+                                         Arbeitsverzeichnis verzeichnis = programmordner;
+                                         return ListeBereitstellen(verzeichnis, neu);
+                                     });
     return std::make_unique<ReportListWindow>(
-        programmordner, std::move(stand), [&ordner](const Dokumentdateien& dateien) {
-            PreviewWindow* druck = vorschau(dateien, ordner).release();
+        programmordner, std::move(stand), [umwandlungen](const Dokumentdateien& dateien) {
+            PreviewWindow* druck = vorschau(dateien, umwandlungen).release();
             druck->setAttribute(Qt::WA_DeleteOnClose);
             druck->show();
         });
@@ -63,32 +90,35 @@ std::vector<Befund> gepruefteKlasse(Arbeitsverzeichnis verzeichnis) {
     return ZeugnissePruefen(ZeugnisdatenLesen(verzeichnis), PlatzhalterLesen(verzeichnis));
 }
 
-Fenster dokumentfenster(const Arbeitsverzeichnis& programmordner, const Aufruf& aufruf,
-                        bool sindZeugnisse, const QTemporaryDir& ordner) {
-    const Dokumentdateien dateien =
-        withProgress(QStringLiteral("Das Dokument wird geschrieben …"), nullptr, [&] {
-            Arbeitsverzeichnis verzeichnis = programmordner;
-            return DokumentBereitstellen(verzeichnis, aufruf);
-        });
-    std::unique_ptr<PreviewWindow> fenster = vorschau(dateien, ordner);
-    if (sindZeugnisse)
-        fenster->showChecks([&] { return gepruefteKlasse(programmordner); });
-    return fenster;
-}
-
-int mitFenster(const std::vector<Text>& argumente) {
-    const Aufruf aufruf = AufrufLesen(argumente);
-    Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
-    const Fensterart art = FensterFuer(verzeichnis, aufruf);
-    const bool neu = art == Fensterart::ZeugnislisteNeu;
-    const QTemporaryDir ordner;
-    const Fenster fenster =
-        neu || art == Fensterart::Zeugnisliste
-            ? listenfenster(verzeichnis, neu, ordner)
-            : dokumentfenster(verzeichnis, aufruf, art == Fensterart::Zeugnisse, ordner);
+int zeigen(const Fenster& fenster) {
     fenster->show();
     QApplication::setQuitOnLastWindowClosed(true);
     return QApplication::exec();
+}
+
+// The text of the review lies in a folder of its own, which stays if it is being edited.
+int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufruf, Fensterart art,
+                   const std::filesystem::path& umwandlungen) {
+    QTemporaryDir texte;
+    const Dokumentdateien dateien = mitFortschrittSchreiben(aufruf, texte.path().toStdU16String());
+    std::unique_ptr<PreviewWindow> fenster =
+        vorschau(dateien, umwandlungen, IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : Text());
+    if (art == Fensterart::Zeugnisse)
+        fenster->showChecks([&] { return gepruefteKlasse(programmordner); });
+    const int ende = zeigen(std::move(fenster));
+    texte.setAutoRemove(!IstAnzeigetext(aufruf) || !WirdBearbeitet(dateien));
+    return ende;
+}
+
+int mitFenster(const Aufruf& aufruf) {
+    Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
+    const Fensterart art = FensterFuer(verzeichnis, aufruf);
+    const QTemporaryDir ordner;
+    const std::filesystem::path umwandlungen = ordner.path().toStdU16String();
+    const bool neu = art == Fensterart::ZeugnislisteNeu;
+    if (neu || art == Fensterart::Zeugnisliste)
+        return zeigen(listenfenster(verzeichnis, neu, umwandlungen));
+    return dokumentZeigen(verzeichnis, aufruf, art, umwandlungen);
 }
 
 } // namespace
@@ -113,7 +143,8 @@ int main(int argc, char** argv) {
         application = std::move(widgets);
     }
     try {
-        return stumm ? ohneFenster(argumente) : mitFenster(argumente);
+        const Aufruf aufruf = AufrufLesen(argumente);
+        return stumm ? ohneFenster(aufruf) : mitFenster(aufruf);
     } catch (const Laufzeitfehler& failure) {
         if (stumm)
             std::cerr << failure.what() << '\n';

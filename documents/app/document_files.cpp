@@ -6,6 +6,7 @@
 #include "platform/failure.h"
 #include "platform/whole_file.h"
 
+#include <fstream>
 #include <system_error>
 
 namespace zeugnis::dokumente {
@@ -35,10 +36,56 @@ Dokumentdateien dateienZu(const Arbeitsverzeichnis& verzeichnis, const Text& sta
             .Pdf = verzeichnis.pfad(stamm + u".pdf")};
 }
 
-Dokumentdateien schreiben(Arbeitsverzeichnis& verzeichnis, const Schluessel& schluessel) {
+Dokumentdateien schreiben(Arbeitsverzeichnis& verzeichnis, const Schluessel& schluessel,
+                          const std::stop_token& abbruch) {
     const Text stamm = schluessel.Stamm(verzeichnis);
-    return DokumentSchreiben(verzeichnis, schluessel.Inhalt(verzeichnis), stamm);
+    return DokumentSchreiben(verzeichnis, schluessel.Inhalt(verzeichnis), stamm, abbruch);
 }
+
+void abbruchPruefen(const std::stop_token& abbruch) {
+    if (abbruch.stop_requested())
+        throw Laufzeitfehler(Fehlerart::InvalidCall,
+                             u"Das Schreiben wurde abgebrochen. Alle Dateien sind, wie sie waren.");
+}
+
+struct Vorstand {
+    std::optional<std::string> Inhalt; ///< nothing if there was no such file
+    fs::file_time_type Zeit;
+};
+
+Vorstand vorstandLesen(const Arbeitsverzeichnis& verzeichnis, const Text& name) {
+    const fs::path pfad = verzeichnis.pfad(name);
+    if (!vorhanden(pfad))
+        return {};
+    return {.Inhalt = readWholeFile(verzeichnis, name), .Zeit = fs::last_write_time(pfad)};
+}
+
+// Puts a written file back as it was, unless what comes after it succeeds too.
+class Ruecknahme {
+  public:
+    Ruecknahme(fs::path pfad, Vorstand vorher)
+        : m_pfad(std::move(pfad)), m_vorher(std::move(vorher)) {}
+    ~Ruecknahme() {
+        std::error_code ignored;
+        if (m_gelungen)
+            return;
+        if (!m_vorher.Inhalt) {
+            fs::remove(m_pfad, ignored);
+            return;
+        }
+        std::ofstream(m_pfad, std::ios::binary) << *m_vorher.Inhalt;
+        fs::last_write_time(m_pfad, m_vorher.Zeit, ignored);
+    }
+    Ruecknahme(const Ruecknahme&) = delete;
+    Ruecknahme& operator=(const Ruecknahme&) = delete;
+
+    void gelungen() { m_gelungen = true; }
+
+  private:
+    fs::path m_pfad;
+    Vorstand m_vorher;
+    bool m_gelungen = false;
+};
 
 [[noreturn]] void fehlt(const Text& name, TextView warum) {
     throw Laufzeitfehler(Fehlerart::FileNotFound, u"Das Dokument „" + name + u"“ " + Text(warum));
@@ -47,21 +94,27 @@ Dokumentdateien schreiben(Arbeitsverzeichnis& verzeichnis, const Schluessel& sch
 } // namespace
 
 Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& dokument,
-                                  const Text& stamm) {
+                                  const Text& stamm, const std::stop_token& abbruch) {
     const LaidDocument gesetzt = layOut(dokument);
+    abbruchPruefen(abbruch);
     const std::string rtf = rtfFromDocument(dokument, gesetzt.pagesPerSection());
     const std::string pdf = pdfFromLayout(gesetzt);
+    abbruchPruefen(abbruch);
+    Vorstand vorher = vorstandLesen(verzeichnis, stamm + u".doc");
     writeWholeFile(verzeichnis, stamm + u".doc", rtf);
+    Ruecknahme doc(verzeichnis.pfad(stamm + u".doc"), std::move(vorher));
     writeWholeFile(verzeichnis, stamm + u".pdf", pdf);
+    doc.gelungen();
     return dateienZu(verzeichnis, stamm);
 }
 
-Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Aufruf& aufruf) {
+Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Aufruf& aufruf,
+                                      const std::stop_token& abbruch) {
     if (!aufruf.Makro.empty()) {
         const Schluessel* schluessel = SchluesselFinden(aufruf.Dokument, aufruf.Makro);
         if (schluessel == nullptr)
             fehlt(aufruf.Dokument, u"kann dieses Programm noch nicht schreiben.");
-        return schreiben(verzeichnis, *schluessel);
+        return schreiben(verzeichnis, *schluessel, abbruch);
     }
     Dokumentdateien dateien = dateienZu(verzeichnis, stammVon(aufruf.Dokument));
     if (vorhanden(dateien.Doc) || vorhanden(dateien.Pdf))
@@ -69,10 +122,11 @@ Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Auf
     const Schluessel* schluessel = SchluesselDesErgebnisses(verzeichnis, aufruf.Dokument);
     if (schluessel == nullptr)
         fehlt(dateien.Name, u"gibt es nicht oder noch nicht.");
-    return schreiben(verzeichnis, *schluessel);
+    return schreiben(verzeichnis, *schluessel, abbruch);
 }
 
-Anzeige AnzeigeFinden(const Dokumentdateien& dateien, const Umwandler& umwandeln) {
+Anzeige AnzeigeFinden(const Dokumentdateien& dateien, const Umwandler& umwandeln,
+                      const std::stop_token& abbruch) {
     const bool hatPdf = vorhanden(dateien.Pdf);
     if (hatPdf && (!vorhanden(dateien.Doc) || !juenger(dateien.Doc, dateien.Pdf)))
         return {.Dateien = dateien, .Pdf = dateien.Pdf, .Hinweis = {}};
@@ -81,13 +135,18 @@ Anzeige AnzeigeFinden(const Dokumentdateien& dateien, const Umwandler& umwandeln
                 .Pdf = *frisch,
                 .Hinweis = u"Das Dokument wurde in einer Textverarbeitung geändert. Sie sehen den "
                            u"geänderten Stand."};
+    if (!hatPdf && abbruch.stop_requested())
+        fehlt(dateien.Name, u"kann hier nicht gezeigt werden: Die Umwandlung wurde abgebrochen.");
     if (!hatPdf)
         fehlt(dateien.Name, u"kann hier nicht gezeigt werden: Die PDF-Datei daneben fehlt. Öffnen "
                             u"Sie es in einer Textverarbeitung.");
+    const TextView warum = abbruch.stop_requested()
+                               ? TextView(u"Die Umwandlung wurde abgebrochen")
+                               : u"Das Dokument wurde in einer Textverarbeitung geändert";
     return {.Dateien = dateien,
             .Pdf = dateien.Pdf,
-            .Hinweis = u"Das Dokument wurde in einer Textverarbeitung geändert. Hier sehen Sie den "
-                       u"Stand davor. Den neuen Stand zeigt und druckt die Textverarbeitung."};
+            .Hinweis = Text(warum) + u". Hier sehen Sie den Stand davor. Den neuen Stand zeigt und "
+                                     u"druckt die Textverarbeitung."};
 }
 
 } // namespace zeugnis::dokumente

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <stop_token>
 
 /// The two files of a document: .doc for word processors, and .pdf beside it to show and print.
 namespace zeugnis::dokumente {
@@ -17,14 +18,16 @@ struct Dokumentdateien {
 };
 
 /// Writes both, first the .doc: a .doc that is younger than its .pdf has been edited since. Fails
-/// as writeWholeFile does. `stamm` may name a folder.
+/// as writeWholeFile does, and with invalid-call if it is told to stop; the former files are then
+/// as they were. `stamm` may name a folder.
 Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& dokument,
-                                  const Text& stamm);
+                                  const Text& stamm, const std::stop_token& abbruch = {});
 
 /// Makes what a macro makes, or finds what is to be opened; the class document is only made if it
 /// is not there. Fails with file-not-found if there is no such document, and as its readers and
 /// writers do.
-Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Aufruf& aufruf);
+Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Aufruf& aufruf,
+                                      const std::stop_token& abbruch = {});
 
 /// What the window shows.
 struct Anzeige {
@@ -37,7 +40,9 @@ struct Anzeige {
 using Umwandler = std::function<std::optional<std::filesystem::path>(const std::filesystem::path&)>;
 
 /// The .pdf beside the .doc, or a fresh one if the .doc has been edited since. Fails with
-/// file-not-found if there is none and none can be made.
-Anzeige AnzeigeFinden(const Dokumentdateien& dateien, const Umwandler& umwandeln);
+/// file-not-found if there is none and none can be made. `abbruch` tells whether it was the user
+/// who stopped the conversion.
+Anzeige AnzeigeFinden(const Dokumentdateien& dateien, const Umwandler& umwandeln,
+                      const std::stop_token& abbruch = {});
 
 } // namespace zeugnis::dokumente

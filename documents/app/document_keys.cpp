@@ -1,5 +1,6 @@
 #include "documents/app/document_keys.h"
 
+#include "documents/app/list_keys.h"
 #include "documents/app/report_list_files.h"
 #include "documents/content/school_report.h"
 #include "platform/failure.h"
@@ -48,8 +49,12 @@ constexpr std::array<Schluessel, 3> AlleSchluessel = {{
 
 template <typename Passt>
 const Schluessel* ersterDer(Passt passt) {
-    const auto* const gefunden = std::find_if(AlleSchluessel.begin(), AlleSchluessel.end(), passt);
-    return gefunden == AlleSchluessel.end() ? nullptr : gefunden;
+    for (const std::span<const Schluessel> gruppe :
+         {std::span<const Schluessel>(AlleSchluessel), Listenschluessel()})
+        if (const auto gefunden = std::find_if(gruppe.begin(), gruppe.end(), passt);
+            gefunden != gruppe.end())
+            return &*gefunden;
+    return nullptr;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <stop_token>
 
 class QString;
 
@@ -12,8 +13,10 @@ namespace zeugnis::dokumente {
 bool inTextverarbeitungOeffnen(const std::filesystem::path& dokument);
 
 /// Makes a .pdf of the document in `ordner` with LibreOffice. Takes seconds. Nothing if that is
-/// not there or does not succeed. May run in a thread of its own.
+/// not there, does not succeed or is told to stop; then it is ended at once. May run in a thread of
+/// its own.
 std::optional<std::filesystem::path> inPdfUmwandeln(const std::filesystem::path& dokument,
-                                                    const std::filesystem::path& ordner);
+                                                    const std::filesystem::path& ordner,
+                                                    const std::stop_token& abbruch = {});
 
 } // namespace zeugnis::dokumente

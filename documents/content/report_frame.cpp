@@ -40,31 +40,39 @@ Text Kindname(const Schueler& kind) {
     return oderStrich(verbunden(printable(kind.Vorname), u" ", printable(kind.Nachname)));
 }
 
-std::vector<Block> Zeugniskopf(const Stammdaten& stamm, const Schueler& kind) {
+std::vector<Block> Schulkopf(const Stammdaten& stamm, TextView titel) {
     const Schuldaten& schule = stamm.Schule;
     std::vector<Block> kopf;
     kopf.emplace_back(paragraph(StyleId::Schulname, oderStrich(schule.Schulname)));
     for (const Text& angabe : {schule.Schulzusatz, schule.Schulanschrift})
         if (Text sauber = printable(angabe); !sauber.empty())
             kopf.emplace_back(paragraph(StyleId::Schulangabe, std::move(sauber)));
-    kopf.emplace_back(paragraph(StyleId::Titel, u"Zeugnis"));
+    kopf.emplace_back(paragraph(StyleId::Titel, Text(titel)));
     kopf.emplace_back(paragraph(StyleId::Zeitraum, u"Schuljahr " + oderStrich(schule.Schuljahr) +
                                                        u", " + stamm.Halbjahr + u". Halbjahr"));
+    return kopf;
+}
+
+std::vector<Block> Zeugniskopf(const Stammdaten& stamm, const Schueler& kind, TextView titel) {
+    std::vector<Block> kopf = Schulkopf(stamm, titel);
     kopf.emplace_back(paragraph(StyleId::Kindname, Kindname(kind)));
     kopf.emplace_back(paragraph(StyleId::Kindangabe,
                                 verbunden(geburt(kind), u"\n", u"Klasse " + stamm.Liste.Klasse)));
     return kopf;
 }
 
+Text OrtUndDatum(const Schuldaten& schule) {
+    return oderStrich(schule.Ausgabeort) + u", den " + oderStrich(schule.Ausgabedatum);
+}
+
 Table Zeugnisschluss(const Schuldaten& schule) {
     const auto angabe = StyleId::Schlussangabe;
     const auto linie = StyleId::Unterschrift;
-    const Text ort = oderStrich(schule.Ausgabeort) + u", den " + oderStrich(schule.Ausgabedatum);
     Table schluss{.columns = {9, 4, 9}, .rows = {}};
     schluss.rows.push_back({
         zelle({{angabe, u""},
                {angabe, u"Konferenz vom " + oderStrich(schule.Konferenzdatum)},
-               {angabe, ort},
+               {angabe, OrtUndDatum(schule)},
                {linie, u"Klassenlehrkraft"},
                {StyleId::Gesehen, u"Gesehen:"},
                {linie, u"Erziehungsberechtigte/r"}}),

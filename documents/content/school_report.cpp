@@ -2,31 +2,14 @@
 
 #include "documents/content/report_frame.h"
 #include "documents/content/report_grades.h"
+#include "documents/content/report_sections.h"
 #include "documents/content/wording.h"
 #include "platform/failure.h"
 
-#include <array>
 #include <span>
 
 namespace zeugnis::dokumente {
 namespace {
-
-// The sections of a report between its head and its end, in their order.
-constexpr std::array<TextView, Bereiche12> Ueberschriften12 = {
-    u"Interessen und Fertigkeiten",
-    u"Sprechen und Zuhören",
-    u"Lesen und mit Texten umgehen",
-    u"Schreiben, Texte verfassen",
-    u"Zahlen und Operationen",
-    u"Größen und Messen",
-    u"Raum und Form",
-    u"Bemerkungen",
-};
-constexpr std::array<TextView, Bereiche34> Ueberschriften34 = {
-    u"Förderunterricht und Arbeitsgemeinschaften",
-    u"Besondere Interessen",
-    u"Bemerkungen",
-};
 
 constexpr size_t Verhaltensabschnitte = 2; // behind them come the grades
 
@@ -65,9 +48,7 @@ std::vector<Abschnittstext> AbschnitteVon(const Zeugnisdaten& daten, int platz) 
         {u"Arbeitsverhalten", daten.AVSV.AV.Texte[platz]},
         {u"Sozialverhalten", daten.AVSV.SV.Texte[platz]},
     };
-    const std::span<const TextView> ueberschriften =
-        HatNoten(daten.Stamm.Jahrgang) ? std::span<const TextView>(Ueberschriften34)
-                                       : Ueberschriften12;
+    const std::span<const TextView> ueberschriften = Bereichsueberschriften(daten.Stamm.Jahrgang);
     for (size_t i = 0; i < ueberschriften.size(); ++i)
         abschnitte.push_back({ueberschriften[i], daten.Bereiche.at(i)[platz]});
     return abschnitte;

@@ -3,6 +3,7 @@
 #include "documents/model/styles.h"
 #include "platform/text.h"
 
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -24,8 +25,16 @@ struct Paragraph {
     bool startsPage = false;
 };
 
+struct Image {
+    std::string png;
+    Twips width = 0; ///< not more than that of the text
+    Twips height = 0;
+    Text description; ///< for those who cannot see it
+};
+
 struct Cell {
     std::vector<Paragraph> paragraphs;
+    std::optional<Image> image = {}; ///< below the paragraphs
 };
 
 /// A row is never divided between pages.
@@ -36,13 +45,9 @@ struct Table {
     std::vector<int> columns; ///< widths in relation to each other
     std::vector<Row> rows;    ///< each with as many cells as there are columns
     bool grid = false;        ///< lines around all cells, and room inside them
-};
-
-struct Image {
-    std::string png;
-    Twips width = 0; ///< not more than that of the text
-    Twips height = 0;
-    Text description; ///< for those who cannot see it
+    bool ruled = false;       ///< a line below each row, to write on
+    bool headRow = false;     ///< the first row stands on top of every page
+    Twips rowHeight = 0;      ///< at least; what stands in such a row stands in its middle
 };
 
 using Block = std::variant<Paragraph, Table, Image>;

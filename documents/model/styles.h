@@ -40,6 +40,12 @@ enum class StyleId {
     Fusszeile,
     Listentitel,
     Listenangabe,
+    Listenkopf,
+    Listenzeile,
+    Listenzahl,
+    Formularangabe,
+    Eintragsname,
+    Eintragsbereich,
     Hilfetitel,
     Hilfekapitel,
     Hilfeabschnitt,
@@ -92,7 +98,8 @@ inline constexpr Twips RuleDistance = 60; ///< between a rule and its text
 inline constexpr Twips BarWidth = 45;     ///< of a rule to the left
 inline constexpr Twips BarDistance = 160;
 inline constexpr std::uint32_t BarColour = 0x1F6F6B;
-inline constexpr Twips CellPadding = 80; ///< in a table with a grid, to the left and right
+inline constexpr Twips CellPadding = 80;    ///< in a table with a grid, to the left and right
+inline constexpr Twips PicturePadding = 60; ///< above and below a picture in a cell
 
 /// Calibri and Carlito have the same metrics; which of them is there depends on the machine.
 inline constexpr TextView FontName = u"Calibri";

@@ -19,6 +19,15 @@ struct LaidCell {
     }
 };
 
+LaidStrip padded(const LaidStrip& picture) {
+    LaidStrip laid;
+    laid.strip.height = picture.strip.height + 2 * PicturePadding;
+    laid.paint = [paint = picture.paint](QPainter& painter, QPoint corner) {
+        paint(painter, corner + QPoint(0, PicturePadding));
+    };
+    return laid;
+}
+
 LaidCell layCell(const Cell& cell, Twips left, Twips width) {
     LaidCell laid;
     laid.left = left;
@@ -26,11 +35,18 @@ LaidCell layCell(const Cell& cell, Twips left, Twips width) {
     for (const Paragraph& paragraph : cell.paragraphs)
         for (LaidStrip& strip : layParagraph(paragraph, width))
             laid.strips.push_back(std::move(strip));
+    if (cell.image)
+        laid.strips.push_back(padded(layImage(*cell.image, width)));
     Twips endless = 0;
     for (const LaidStrip& one : laid.strips)
         endless += one.strip.spaceBefore + one.strip.height + one.strip.spaceAfter;
     laid.places = paginate(laid.strips, endless);
     return laid;
+}
+
+void drawRuling(QPainter& painter, const QRect& row) {
+    painter.fillRect(row.left(), row.top() + row.height() - RuleWidth, row.width(), RuleWidth,
+                     QColor::fromRgb(0xFF000000U | RuleColour));
 }
 
 void drawGrid(QPainter& painter, const QRect& row, const std::vector<Twips>& edges) {
@@ -43,25 +59,31 @@ void drawGrid(QPainter& painter, const QRect& row, const std::vector<Twips>& edg
     }
 }
 
-LaidStrip layRow(const Row& row, const std::vector<Twips>& edges, bool grid) {
-    const Twips padding = grid ? CellPadding : 0;
+LaidStrip layRow(const Table& table, const Row& row, const std::vector<Twips>& edges) {
+    const Twips padding = table.grid ? CellPadding : 0;
     std::vector<LaidCell> cells;
-    Twips height = 0;
+    Twips height = table.rowHeight;
     Twips left = 0;
     for (size_t column = 0; column < row.size(); ++column) {
         const Twips width = edges.at(column) - left - 2 * padding;
         cells.push_back(layCell(row[column], left + padding, width));
-        height = std::max(height, cells.back().height());
+        height = std::max(height, cells.back().height() + (table.grid ? RuleWidth : 0));
         left = edges[column];
     }
     LaidStrip laid;
     laid.strip.height = height;
-    laid.paint = [=, cells = std::move(cells)](QPainter& painter, QPoint corner) {
-        for (const LaidCell& cell : cells)
+    laid.paint = [=, cells = std::move(cells), grid = table.grid, ruled = table.ruled,
+                  inTheMiddle = table.rowHeight > 0](QPainter& painter, QPoint corner) {
+        for (const LaidCell& cell : cells) {
+            const Twips above = inTheMiddle ? (height - cell.height()) / 2 : 0;
             for (size_t i = 0; i < cell.strips.size(); ++i)
-                cell.strips[i].paint(painter, corner + QPoint(cell.left, cell.places[i].y));
+                cell.strips[i].paint(painter, corner + QPoint(cell.left, above + cell.places[i].y));
+        }
+        const QRect area(corner, QSize(edges.back(), height));
         if (grid)
-            drawGrid(painter, QRect(corner, QSize(edges.back(), height)), edges);
+            drawGrid(painter, area, edges);
+        else if (ruled)
+            drawRuling(painter, area);
     };
     return laid;
 }
@@ -95,8 +117,15 @@ std::vector<Place> paginate(const std::vector<LaidStrip>& laid, Twips pageHeight
 std::vector<LaidStrip> layTable(const Table& table, Twips width) {
     const std::vector<Twips> edges = columnEdges(table, width);
     std::vector<LaidStrip> strips;
-    for (const Row& row : table.rows)
-        strips.push_back(layRow(row, edges, table.grid));
+    for (const Row& row : table.rows) {
+        strips.push_back(layRow(table, row, edges));
+        if (table.headRow && strips.size() > 1) {
+            strips.back().strip.headAbove = strips.front().strip.height;
+            strips.back().paintHead = strips.front().paint;
+        }
+    }
+    if (table.headRow && strips.size() > 1)
+        strips[1].strip.mayBreakBefore = false;
     return strips;
 }
 

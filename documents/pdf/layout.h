@@ -17,6 +17,8 @@ struct LaidStrip {
     std::function<void(QPainter&, QPoint)> paint;
     /// What the bookmark to this place is called; empty for none.
     Text bookmark = {};
+    /// Draws what is repeated above it on a new page; only where the strip asks for that.
+    std::function<void(QPainter&, QPoint)> paintHead = {};
 };
 
 std::vector<LaidStrip> layParagraph(const Paragraph& paragraph, Twips width);

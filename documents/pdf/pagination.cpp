@@ -5,7 +5,7 @@ namespace {
 
 Twips topOf(const std::vector<Strip>& strips, size_t index, size_t first, Twips bottomBefore) {
     if (index == first)
-        return 0;
+        return strips[index].headAbove;
     return bottomBefore + strips[index - 1].spaceAfter + strips[index].spaceBefore;
 }
 

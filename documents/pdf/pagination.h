@@ -13,6 +13,7 @@ struct Strip {
     Twips spaceAfter = 0;  ///< not at the bottom of a page
     bool mayBreakBefore = true;
     bool startsPage = false;
+    Twips headAbove = 0; ///< what is repeated above it if it comes first on a page
 };
 
 struct Place {

@@ -44,6 +44,9 @@ class SectionPainter {
                 beginPage();
             }
             const QPoint corner(page::Left, page::Top + place.y);
+            const bool isFirst = i == 0 || section.places[i - 1].page != place.page;
+            if (isFirst && strip.paintHead)
+                strip.paintHead(m_painter, QPoint(page::Left, page::Top));
             strip.paint(m_painter, corner);
             if (!strip.bookmark.empty())
                 m_bookmarks.push_back(

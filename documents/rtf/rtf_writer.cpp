@@ -46,6 +46,14 @@ std::string opening(const Paragraph& paragraph, const char* place) {
     return rtf + " ";
 }
 
+std::string picture(const Image& image) {
+    return "{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv " + rtfText(image.description) +
+           "}}}\\pngblip" + rtfNumber("\\picw", hundredthsOfMillimetres(image.width)) +
+           rtfNumber("\\pich", hundredthsOfMillimetres(image.height)) +
+           rtfNumber("\\picwgoal", image.width) + rtfNumber("\\pichgoal", image.height) + "\n" +
+           hexadecimal(image.png) + "}";
+}
+
 std::string cellContent(const Cell& cell) {
     std::string rtf;
     for (const Paragraph& paragraph : cell.paragraphs) {
@@ -53,6 +61,11 @@ std::string cellContent(const Cell& cell) {
             rtf += "\\par\n";
         rtf += opening(paragraph, "\\intbl") + content(paragraph);
     }
+    // The small font keeps the line no higher than the picture.
+    if (cell.image)
+        rtf += (rtf.empty() ? "" : "\\par\n") +
+               rtfNumber("\\pard\\plain\\intbl\\qc\\sl0\\fs2\\sb", PicturePadding) +
+               rtfNumber("\\sa", PicturePadding) + " " + picture(*cell.image);
     return (rtf.empty() ? "\\pard\\plain\\intbl " : rtf) + "\\cell\n";
 }
 
@@ -61,11 +74,19 @@ std::string cellEdge(const Table& table, Twips edge) {
     if (table.grid)
         for (const char* side : {"\\clbrdrt", "\\clbrdrl", "\\clbrdrb", "\\clbrdrr"})
             rtf += side + rtfLine(RuleWidth, RuleColour);
+    else if (table.ruled)
+        rtf += "\\clbrdrb" + rtfLine(RuleWidth, RuleColour);
+    if (table.rowHeight > 0)
+        rtf += "\\clvertalc";
     return rtf + rtfNumber("\\cellx", edge);
 }
 
 std::string rowFromTable(const Table& table, const Row& row) {
     std::string rtf = rtfNumber("\\trowd\\trleft0\\trkeep\\trgaph", table.grid ? CellPadding : 0);
+    if (table.rowHeight > 0)
+        rtf += rtfNumber("\\trrh", table.rowHeight);
+    if (table.headRow && &row == &table.rows.front())
+        rtf += "\\trhdr";
     for (const Twips edge : columnEdges(table, page::TextWidth))
         rtf += cellEdge(table, edge);
     rtf += "\n";
@@ -95,13 +116,8 @@ struct BlockToRtf {
 
     // With an exact line height a picture would be cut off.
     Piece operator()(const Image& image) const {
-        return {"\\pard\\plain" + rtfProperties(styleOf(StyleId::Bildzeile)) +
-                    "\\sl0 {\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv " +
-                    rtfText(image.description) + "}}}\\pngblip" +
-                    rtfNumber("\\picw", hundredthsOfMillimetres(image.width)) +
-                    rtfNumber("\\pich", hundredthsOfMillimetres(image.height)) +
-                    rtfNumber("\\picwgoal", image.width) + rtfNumber("\\pichgoal", image.height) +
-                    "\n" + hexadecimal(image.png) + "}",
+        return {"\\pard\\plain" + rtfProperties(styleOf(StyleId::Bildzeile)) + "\\sl0 " +
+                    picture(image),
                 true};
     }
 };

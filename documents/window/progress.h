@@ -5,15 +5,20 @@
 #include <QTimer>
 #include <chrono>
 #include <future>
+#include <stop_token>
 
 namespace zeugnis::dokumente {
 
 /// Runs `work` in a thread of its own and returns what it returns, or fails as it fails. The
-/// windows stay alive meanwhile; after half a second `text` says what is being done.
+/// windows stay alive meanwhile; after half a second `text` says what is being done. The token that
+/// `work` takes says that the user does not want to wait any longer; it then has to return or fail
+/// soon.
 template <typename Work>
 auto withProgress(const QString& text, QWidget* parent, Work work) {
-    auto result = std::async(std::launch::async, std::move(work));
-    QProgressDialog dialog(text, QString(), 0, 0, parent);
+    std::stop_source abbruch;
+    auto result = std::async(std::launch::async, std::move(work), abbruch.get_token());
+    QProgressDialog dialog(text, QStringLiteral("&Abbrechen"), 0, 0, parent);
+    QObject::connect(&dialog, &QProgressDialog::canceled, &dialog, [&] { abbruch.request_stop(); });
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.setMinimumDuration(500);
     dialog.setValue(0);

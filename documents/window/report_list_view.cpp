@@ -179,6 +179,7 @@ bool ReportListView::edit(const QModelIndex& index, EditTrigger trigger, QEvent*
 
 void ReportListView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    setFocus(); // an editor that closes while the window is not active leaves it to a neighbour
     if (m_wasRefused)
         return;
     if (hint == QAbstractItemDelegate::EditNextItem)

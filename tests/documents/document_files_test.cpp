@@ -51,7 +51,7 @@ TEST_F(DocumentFiles, FindsAHelpTextInItsFolder) {
 }
 
 TEST_F(DocumentFiles, NamesWhatThereIsNotYet) {
-    const Text sentence = test::failureSentenceOf([&] { open(u"KlListe.doc", u"Klassenliste"); });
+    const Text sentence = test::failureSentenceOf([&] { open(u"KlListe.doc", u"Liste"); });
     EXPECT_NE(sentence.find(u"„KlListe.doc“"), Text::npos);
     EXPECT_EQ(failureOf([&] { open(u"3aFotoliste32.doc"); }), "file-not-found");
     EXPECT_EQ(failureOf([&] { open(u"Anderswo\\a.doc"); }), "path-not-found");
@@ -71,6 +71,59 @@ TEST_F(DocumentFiles, ShowsEachInTheWindowThatBelongsToIt) {
     EXPECT_EQ(fenster(u"3aZeugnisse32.doc"), Fensterart::Vorschau);
 }
 
+TEST_F(DocumentFiles, KeepsBothOldFilesIfOneCannotBeWritten) {
+    const auto fails = [&](TextView name) {
+        const Text sentence =
+            test::failureSentenceOf([&] { open(u"KlListe.doc", u"Klassenliste"); });
+        EXPECT_NE(sentence.find(Text(u"„") + Text(name) + u"“"), Text::npos)
+            << utf8FromText(sentence);
+    };
+    installation.write(u"3aKlassenliste32.doc", u"alt");
+    const fs::path doc = installation.path() / "3aKlassenliste32.doc";
+    const fs::path pdf = installation.path() / "3aKlassenliste32.pdf";
+    const auto time = fs::last_write_time(doc);
+    fs::create_directory(pdf);
+    fails(u"3aKlassenliste32.pdf");
+    fs::remove(pdf);
+    fs::create_symlink("/dev/full", pdf);
+    fails(u"3aKlassenliste32.pdf");
+    EXPECT_EQ(installation.read(u"3aKlassenliste32.doc"), u"alt");
+    EXPECT_EQ(fs::last_write_time(doc), time);
+
+    installation.remove(u"3aKlassenliste32.doc");
+    fails(u"3aKlassenliste32.pdf");
+    EXPECT_FALSE(fs::exists(doc)) << "a .doc alone would pass for an edited one";
+    fs::create_directory(doc);
+    fails(u"3aKlassenliste32.doc");
+    EXPECT_TRUE(fs::is_directory(doc));
+}
+
+TEST_F(DocumentFiles, WritesNothingOnceItIsToldToStop) {
+    std::stop_source stop;
+    stop.request_stop();
+    Arbeitsverzeichnis verzeichnis(installation.path());
+    EXPECT_EQ(failureOf([&] {
+                  DokumentBereitstellen(verzeichnis,
+                                        {.Dokument = u"3aKlassenliste32.doc", .Makro = {}},
+                                        stop.get_token());
+              }),
+              "invalid-call");
+    EXPECT_FALSE(installation.has(u"3aKlassenliste32.doc"));
+}
+
+TEST_F(DocumentFiles, MakesNoListOfNobodyButTheEmptyForm) {
+    installation.write({{{}, u"", u""}});
+    for (const auto& key : {std::pair{u"ZeugnisseAnlagen.doc", u"ZeugnisseAnlagen"},
+                            {u"KlListe.doc", u"Klassenliste"},
+                            {u"StListe.doc", u"Strichliste"}})
+        EXPECT_EQ(failureOf([&] { open(key.first, key.second); }), "invalid-call");
+    EXPECT_EQ(open(u"Leerformular.doc", u"Leerformular").Name, u"3aLeerformular32.doc");
+    installation.write(u"Daten/Namen.Txt", u"");
+    const Text sentence =
+        test::failureSentenceOf([&] { open(u"Leerformular.doc", u"Leerformular"); });
+    EXPECT_NE(sentence.find(u"noch keine Klasse"), Text::npos);
+}
+
 TEST_F(DocumentFiles, ShowsAnEditedDocumentAfreshOrSaysThatItCannot) {
     const Dokumentdateien files = open(u"3aZeugnisse32.doc");
     installation.makeYounger("3aZeugnisse32.doc", "3aZeugnisse32.pdf");
@@ -82,6 +135,11 @@ TEST_F(DocumentFiles, ShowsAnEditedDocumentAfreshOrSaysThatItCannot) {
         return std::optional(fs::path("neu.pdf"));
     });
     EXPECT_EQ(fresh.Pdf, "neu.pdf");
+
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_NE(AnzeigeFinden(files, cannotConvert, stop.get_token()).Hinweis.find(u"abgebrochen"),
+              Text::npos);
 
     fs::remove(files.Pdf);
     EXPECT_EQ(failureOf([&] { AnzeigeFinden(files, cannotConvert); }), "file-not-found");

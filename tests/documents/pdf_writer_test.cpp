@@ -63,6 +63,23 @@ TEST(PdfLayout, WhatIsKeptTakesItsParagraphAlongAsAWhole) {
         EXPECT_EQ(pageOf(blocks, line), 1) << line;
 }
 
+TEST(PdfLayout, TheHeadOfATableStandsOnEveryPage) {
+    Table table{.columns = {1}, .rows = {}, .grid = true, .headRow = true, .rowHeight = 400};
+    for (int row = 0; row <= 2 * (page::TextHeight / 400 - 1); ++row)
+        table.rows.push_back(
+            {{.paragraphs = {paragraph(StyleId::Listenzeile, row == 0 ? u"Kopf" : u"Zeile")}}});
+    const LaidDocument laid = layOut({.title = u"", .sections = {sectionOf({table})}});
+    EXPECT_EQ(laid.pagesPerSection(), std::vector{2});
+
+    const test::TemporaryFolder folder;
+    std::ofstream(folder.path() / "a.pdf", std::ios::binary) << pdfFromLayout(laid);
+    for (const int page : {0, 1})
+        EXPECT_TRUE(PdfPages(folder.path() / "a.pdf")
+                        .text(page)
+                        .simplified()
+                        .startsWith(QStringLiteral("Kopf Zeile")));
+}
+
 TEST(PdfLayout, EverySectionBeginsOnANewPageAndCountsItsOwn) {
     Document document;
     document.title = u"Größe";

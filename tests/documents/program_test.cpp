@@ -93,6 +93,14 @@ TEST_F(Program, LeavesTheOldFilesWholeIfItCannotWrite) {
     expectFailure("Unter diesem Namen liegt ein Ordner");
 }
 
+TEST_F(Program, SaysThatThereIsNoClipboardWithoutAWindow) {
+    const Outcome outcome =
+        run(installation, {QStringLiteral("daten\\worddaten\\Anzeigetext.doc"),
+                           QStringLiteral("/mAnzeigetext"), QStringLiteral("--no-window")});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_NE(outcome.errors.find("Zwischenablage"), std::string::npos) << outcome.errors;
+}
+
 TEST_F(Program, SaysThatADocumentDoesNotExist) {
     const Outcome outcome =
         run(installation, {QStringLiteral("Texte\\Hilfe1.doc"), QStringLiteral("--no-window")});
