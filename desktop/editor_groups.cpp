@@ -110,6 +110,7 @@ std::vector<EditorPage> pagesOf(GSAenderung12& screen) {
     constexpr std::array<char16_t, GSAenderung12::Seitenzahl> Mnemonics = {u'I', u'Z', u'L', u'c',
                                                                            u'O', u'G', u'R', u'm'};
     std::vector<EditorPage> pages;
+    pages.reserve(GSAenderung12::Seitenzahl);
     for (int i = 0; i < GSAenderung12::Seitenzahl; ++i) {
         pages.push_back({screen.Command1(GSAenderung12::ErsteSeite + i),
                          Mnemonics.at(static_cast<size_t>(i)),
@@ -125,6 +126,7 @@ std::vector<EditorPage> pagesOf(GSAenderung12& screen) {
 std::vector<EditorPage> pagesOf(GSAenderung34& screen) {
     constexpr std::array<char16_t, GSAenderung34::Seitenzahl> Mnemonics = {u'F', u'I', u'm'};
     std::vector<EditorPage> pages;
+    pages.reserve(GSAenderung34::Seitenzahl);
     for (int i = 0; i < GSAenderung34::Seitenzahl; ++i)
         pages.push_back(
             {screen.Command2(i), Mnemonics.at(static_cast<size_t>(i)), screen.rahmen(i), {}, {}});

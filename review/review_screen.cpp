@@ -173,9 +173,11 @@ Text GsAnzeige::KlassenTextBilden() const {
                 continue;
             if (abschnitt.Box != 0)
                 klasse += ende;
-            klasse += (abschnitt.Box == Interessen ? m_ueberschriftInteressen
-                                                   : Text(abschnitt.Ueberschrift)) +
-                      ende + Texte[abschnitt.Box][platz] + ende;
+            klasse += abschnitt.Box == Interessen ? TextView(m_ueberschriftInteressen)
+                                                  : abschnitt.Ueberschrift;
+            klasse += ende;
+            klasse += Texte[abschnitt.Box][platz];
+            klasse += ende;
         }
         klasse += trennlinie() + ende;
     }
