@@ -121,6 +121,14 @@ int mitFenster(const Aufruf& aufruf) {
     return dokumentZeigen(verzeichnis, aufruf, art, umwandlungen);
 }
 
+int gescheitert(const Text& satz, bool stumm) {
+    if (stumm)
+        std::cerr << utf8FromText(satz) << '\n';
+    else
+        QMessageBox::warning(nullptr, qString(Programmtitel), qString(satz));
+    return 1;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -146,10 +154,9 @@ int main(int argc, char** argv) {
         const Aufruf aufruf = AufrufLesen(argumente);
         return stumm ? ohneFenster(aufruf) : mitFenster(aufruf);
     } catch (const Laufzeitfehler& failure) {
-        if (stumm)
-            std::cerr << failure.what() << '\n';
-        else
-            QMessageBox::warning(nullptr, qString(Programmtitel), qString(failure.sentence()));
-        return 1;
+        return gescheitert(failure.sentence(), stumm);
+    } catch (const std::exception& failure) {
+        return gescheitert(
+            u"Das Dokument kann nicht gezeigt werden: " + textFromUtf8(failure.what()), stumm);
     }
 }

@@ -113,7 +113,7 @@ Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Auf
     if (!aufruf.Makro.empty()) {
         const Schluessel* schluessel = SchluesselFinden(aufruf.Dokument, aufruf.Makro);
         if (schluessel == nullptr)
-            fehlt(aufruf.Dokument, u"kann dieses Programm noch nicht schreiben.");
+            fehlt(aufruf.Dokument, u"kann dieses Programm nicht schreiben.");
         return schreiben(verzeichnis, *schluessel, abbruch);
     }
     Dokumentdateien dateien = dateienZu(verzeichnis, stammVon(aufruf.Dokument));
