@@ -62,6 +62,10 @@ EditorViewAVSV::EditorViewAVSV(GSAVSVAenderung& screen, WindowHost& host, QWidge
                                       .HidePlaceholders = {m_editor.Command8(1), u'v'},
                                       .Save = {m_editor.Command5, u't'},
                                       .Leave = {m_editor.Command6, u'B'}}));
+    bind()
+        .widgetOf(m_editor.Command6)
+        ->setToolTip(tr("Fragt, ob gespeichert werden soll. Die sichtbare Kategorie wird dabei nur "
+                        "mit der Taste daneben ganz gespeichert."));
     warnBeforeClosing(editorparts::lostByClosing());
     resize(1220, 760);
 }

@@ -83,6 +83,13 @@ QWidget* EditorViewYears::loadRow(const Parts& parts) {
         info->setText(text + QStringLiteral(", ") + qString(boxes(1).text()));
     });
     row->addWidget(info);
+    auto* beside =
+        new QLabel(tr("Standard geladen: Speichern ändert die aktuellen Texte nicht."), area);
+    beside->setObjectName(QStringLiteral("lock"));
+    bind().follow(
+        [beside, &editor = parts.Editor] { beside->setVisible(editor.SpeichertDaneben()); });
+    row->addSpacing(12);
+    row->addWidget(beside);
     row->addStretch();
     row->addLayout(editorparts::loading(bind(), parts.Load));
     return area;
@@ -161,7 +168,12 @@ QLayout* EditorViewYears::boxRow(const Bausteineditor& editor, const BoxGroup& g
                                                 : tr("%1, Text %2").arg(group.heading).arg(number));
     if (red) {
         widget->setProperty("preset", true);
-        widget->setToolTip(tr("Diesen Text setzt das Programm von selbst ein."));
+        widget->setToolTip(
+            box.Locked ? tr("Diesen Text setzt das Programm von selbst ein.")
+            : editor.WirdVerworfen(box)
+                ? tr("Diesen Text setzt das Programm davor. Änderungen werden nicht gespeichert.")
+                : tr("Diesen Text setzt das Programm von selbst ein. Änderungen werden "
+                     "gespeichert."));
     }
     bind().follow([mark, &box] { mark->setVisible(box.Visible); });
     row->addWidget(mark);

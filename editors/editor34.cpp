@@ -58,6 +58,11 @@ void GSAenderung34::Command7_Click(int Index) {
         programm(), {Command7, farbe(editorfarben::Aktiv), farbe(editorfarben::Ruhend)}, Index);
 }
 
+bool GSAenderung34::SpeichertDaneben() const {
+    return !Dateinamen.empty() &&
+           Dateinamen.front() != Dateiname(moduldateien().front(), Jahrgangsziffer);
+}
+
 // The files that were loaded are written: after the Standard wording, those with "Standard" in
 // their names, in Daten. The entry screen does not read these.
 void GSAenderung34::Command5_Click() {

@@ -44,6 +44,7 @@ class GSAenderung34 final : public Bausteineditor {
     /// The frame of page 0 to 2.
     [[nodiscard]] Frame& rahmen(int seite);
     [[nodiscard]] const ControlArray<TextBox>& textfeld(int nummer) const override;
+    [[nodiscard]] bool SpeichertDaneben() const override;
 
   private:
     void EntwurfSetzen();

@@ -9,7 +9,6 @@
 #include "shell/file_catalogue.h"
 #include "shell/screen_names.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace zeugnis {
@@ -35,13 +34,23 @@ void Bausteineditor::FelderVerbinden(int erstes, int letztes) {
         });
 }
 
+const Feldreihe* Bausteineditor::roteReihe(const TextBox& feld) const {
+    for (const Feldreihe& reihe : Felder()) {
+        const int stelle = *feld.index() - reihe.Ab;
+        if (reihe.Rot && stelle >= 0 && stelle < reihe.Anzahl &&
+            &textfeld(reihe.Textfeld)(*feld.index()) == &feld)
+            return &reihe;
+    }
+    return nullptr;
+}
+
 bool Bausteineditor::IstRot(const TextBox& feld) const {
-    return feld.Locked ||
-           std::any_of(Felder().begin(), Felder().end(), [&](const Feldreihe& reihe) {
-               const int stelle = *feld.index() - reihe.Ab;
-               return reihe.Rot && stelle >= 0 && stelle < reihe.Anzahl &&
-                      &textfeld(reihe.Textfeld)(*feld.index()) == &feld;
-           });
+    return feld.Locked || roteReihe(feld) != nullptr;
+}
+
+bool Bausteineditor::WirdVerworfen(const TextBox& feld) const {
+    const Feldreihe* reihe = roteReihe(feld);
+    return reihe != nullptr && m_regeln.Dateien[static_cast<size_t>(reihe->Datei)].Geschrieben == 0;
 }
 
 void Bausteineditor::StammdatenLesen(const ControlArray<TextBox>& info) {

@@ -54,8 +54,12 @@ class Bausteineditor : public Screen {
     [[nodiscard]] std::span<const Feldreihe> Felder() const { return m_regeln.Felder; }
     /// The text array of this number.
     [[nodiscard]] virtual const ControlArray<TextBox>& textfeld(int nummer) const = 0;
-    /// Whether a box shows what the program sets by itself.
+    /// Whether a box shows what the program sets by itself, and whether a save drops what is typed
+    /// there.
     [[nodiscard]] bool IstRot(const TextBox& feld) const;
+    [[nodiscard]] bool WirdVerworfen(const TextBox& feld) const;
+    /// Whether a save now would leave the current modules as they are.
+    [[nodiscard]] virtual bool SpeichertDaneben() const { return false; }
 
   protected:
     /// What one editor says and does its own way.
@@ -103,6 +107,7 @@ class Bausteineditor : public Screen {
     template <typename Action>
     void jedesFeld(Action action);
     [[nodiscard]] bool gehoertDazu(const Moduldatei& datei) const;
+    [[nodiscard]] const Feldreihe* roteReihe(const TextBox& feld) const;
 
     Regeln m_regeln;
     std::vector<Bausteintabelle> m_tabellen;

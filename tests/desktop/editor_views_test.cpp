@@ -16,6 +16,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <algorithm>
+
 namespace zeugnis::test {
 namespace {
 
@@ -69,6 +71,26 @@ TEST_F(EditorViewsTest, AModuleIsAsHighAsItsTextAndStaysOneParagraph) {
     QTest::keyClick(box, Qt::Key_Return);
     EXPECT_EQ(editor.Text2(2).text().find(u'\r'), Text::npos);
     EXPECT_EQ(machine.programm.focus(), &editor.Text2(3));
+}
+
+TEST_F(EditorViewsTest, SaysThatASaveOfTheStandardLeavesTheCurrentModules) {
+    const auto warned = [] {
+        const auto all = QApplication::allWidgets();
+        return std::any_of(all.begin(), all.end(), [](QWidget* one) {
+            auto* label = qobject_cast<QLabel*>(one);
+            return label != nullptr && label->isVisible() &&
+                   label->text().startsWith(QStringLiteral("Standard geladen"));
+        });
+    };
+    for (const int load : {1, 0}) {
+        openEditor(5);
+        auto& editor = screen<GSAenderung34>(bildschirme::GSAenderung34);
+        EXPECT_FALSE(warned());
+        click(editor.Command1(load));
+        EXPECT_EQ(warned(), load == 0);
+        machine.dialogs.answers.push_back(Antwort::Nein);
+        click(editor.Command6);
+    }
 }
 
 TEST_F(EditorViewsTest, TheTitleTakesADoubleClickWithTheMouse) {
