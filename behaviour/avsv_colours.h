@@ -7,15 +7,9 @@ namespace zeugnis {
 
 /// The colour table of the entry screen. 0 to 4 are also the colours of the lines.
 inline const Tabelle<Farbwert, 11>& FarbtafelAVSV() {
-    static const Tabelle<Farbwert, 11> Farbtafel = [] {
-        Tabelle<Farbwert, 11> farben;
-        int eintrag = 0;
-        for (const Farbwert farbe :
-             {0xFFFFFFU, 0x80FF80U, 0xC0FFC0U, 0xC0E0FFU, 0xC0C0FFU, 0xC0C0C0U, 0x00FFFFU,
-              0x0000FFU, 0xC0FFFFU, 0xFFFFC0U, 0xC0FFFFU})
-            farben[eintrag++] = farbe;
-        return farben;
-    }();
+    static const Tabelle<Farbwert, 11> Farbtafel({0xFFFFFF, 0x80FF80, 0xC0FFC0, 0xC0E0FF, 0xC0C0FF,
+                                                  0xC0C0C0, 0x00FFFF, 0x0000FF, 0xC0FFFF, 0xFFFFC0,
+                                                  0xC0FFFF});
     return Farbtafel;
 }
 

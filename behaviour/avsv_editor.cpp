@@ -2,6 +2,7 @@
 
 #include "controls/program.h"
 #include "shell/editor_common.h"
+#include "shell/entry_common.h"
 #include "shell/file_catalogue.h"
 #include "shell/screen_names.h"
 #include "shell/word_launch.h"
@@ -142,20 +143,12 @@ void GSAVSVAenderung::Command8_Click(int Index) {
     if (Index == 2)
         WordStarten(programm(), word::Hilfe(8));
     else
-        EinfuegungenSchalten(Index);
-}
-
-void GSAVSVAenderung::EinfuegungenSchalten(int index) {
-    Command8(index).BackColor = farbe(editorfarben::Ruhend);
-    Command8(index).Enabled = false;
-    Command8(1 - index).BackColor = farbe(editorfarben::Aktiv);
-    Command8(1 - index).Enabled = true;
-    if (index == 0) {
-        programm().zeigen(bildschirme::Einfuegungen);
-    } else {
-        programm().entladen(bildschirme::Einfuegungen);
-        programm().machine().clipboard.clear();
-    }
+        EinfuegungenSchalten(programm(),
+                             {.Tasten = Command8,
+                              .Aktiv = farbe(editorfarben::Aktiv),
+                              .Ruhend = farbe(editorfarben::Ruhend),
+                              .Entladen = true},
+                             Index);
 }
 
 void GSAVSVAenderung::Command5_Click() {

@@ -68,7 +68,6 @@ class GSAVSVAenderung : public Screen {
     void EingabenUebernehmen();
     void FarbenUebernehmen();
     void FormulierungenSchreiben();
-    void EinfuegungenSchalten(int index);
 
     [[nodiscard]] Bausteine& bausteine() {
         return Bereich == Abschnitt::SV ? FormulierungenSV : FormulierungenAV;

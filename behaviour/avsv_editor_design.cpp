@@ -3,6 +3,7 @@
 #include "behaviour/avsv_editor.h"
 #include "shell/editor_common.h"
 #include "shell/screen_names.h"
+#include "shell/text_input.h"
 
 namespace zeugnis {
 namespace {

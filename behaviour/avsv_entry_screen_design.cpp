@@ -50,10 +50,7 @@ void GsArbeitsverhalten::HandlerVerbinden() {
     Text1.on(&Control::onClick, this, &Diese::Text1_Click);
     Text1.on(&Control::onDblClick, this, &Diese::Text1_DblClick);
     Text1.on(&Control::onLostFocus, this, &Diese::Text1_LostFocus);
-    Text1.each([this](TextBox& feld) {
-        feld.onKeyPress = [this](char16_t& taste) { AnfuehrungszeichenTaste(programm(), taste); };
-        feld.onChange = [this, &feld] { AnfuehrungszeichenAenderung(programm(), feld); };
-    });
+    Text1.each([](TextBox& feld) { AnfuehrungszeichenFernhalten(feld); });
 }
 
 } // namespace zeugnis

@@ -105,12 +105,17 @@ void Binder::add(Control& control, QWidget& widget, std::function<void()> refres
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn)
-        if (const auto found = m_controls.find(watched); found != m_controls.end())
-            m_host.focusArrived(*found->second);
-    if (event->type() == QEvent::MouseButtonDblClick && qobject_cast<QLabel*>(watched) != nullptr)
-        if (const auto found = m_controls.find(watched); found != m_controls.end())
-            m_host.run([&] { user::doubleClick(*found->second); });
+    const bool arrives = event->type() == QEvent::FocusIn;
+    const bool isSecondClick =
+        event->type() == QEvent::MouseButtonDblClick && qobject_cast<QLabel*>(watched) != nullptr;
+    if (arrives || isSecondClick)
+        if (const auto found = m_controls.find(watched); found != m_controls.end()) {
+            Control& control = *found->second;
+            if (arrives)
+                m_host.focusArrived(control);
+            else
+                m_host.run([&] { user::doubleClick(control); });
+        }
     return QObject::eventFilter(watched, event);
 }
 

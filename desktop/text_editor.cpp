@@ -105,7 +105,9 @@ int TextEditor::textHeight() const {
 }
 
 void TextEditor::growIfNeeded() {
-    if (m_lines == Lines::Grows && std::exchange(m_grownTo, textHeight()) != textHeight())
+    if (m_lines != Lines::Grows)
+        return;
+    if (const int height = textHeight(); std::exchange(m_grownTo, height) != height)
         updateGeometry();
 }
 

@@ -66,25 +66,11 @@ void GSAenderung12::Command2_Click(int Index) {
 void GSAenderung12::Command5_Click() {
     if (Geladen)
         SpeichernBestaetigen();
-    if (!SpeichernJa)
-        return;
-    FesteDateienSchreiben();
-    Gespeichert = true;
+    SpeichernWennJa();
 }
 
 // Whatever has been loaded, the current files are written.
-void GSAenderung12::FesteDateienSchreiben() {
-    std::vector<Text> namen;
-    for (const Moduldatei& datei : moduldateien())
-        namen.push_back(Dateiname(datei, Jahrgangsziffer));
-    TexteSchreiben(namen);
-}
-
-void GSAenderung12::Command6_Click() {
-    if (!Gespeichert && Geladen && SpeichernVorEnde())
-        FesteDateienSchreiben();
-    Schliessen();
-}
+std::vector<Text> GSAenderung12::Zieldateien() const { return AktuelleDateien(Jahrgangsziffer); }
 
 void GSAenderung12::Command8_Click() { WordStarten(programm(), word::Hilfe(6)); }
 

@@ -14,7 +14,6 @@ class GSAenderung12 final : public Bausteineditor {
     void Command2_Click(int Index);
     void Command3_Click(int Index);
     void Command5_Click();
-    void Command6_Click();
     void Command8_Click();
     void Label1_DblClick();
 
@@ -54,11 +53,11 @@ class GSAenderung12 final : public Bausteineditor {
     [[nodiscard]] const ControlArray<TextBox>& textfeld(int nummer) const override;
 
   private:
+    [[nodiscard]] std::vector<Text> Zieldateien() const override;
     void EntwurfSetzen();
     void HandlerVerbinden();
     void HinweisNachLaden();
     void HinweisZeigen(int taste);
-    void FesteDateienSchreiben();
     [[nodiscard]] bool istJahr1() const;
 };
 

@@ -58,26 +58,14 @@ void GSAenderung34::Command7_Click(int Index) {
         programm(), {Command7, farbe(editorfarben::Aktiv), farbe(editorfarben::Ruhend)}, Index);
 }
 
-bool GSAenderung34::SpeichertDaneben() const {
-    return !Dateinamen.empty() &&
-           Dateinamen.front() != Dateiname(moduldateien().front(), Jahrgangsziffer);
+void GSAenderung34::Command5_Click() {
+    SpeichernBestaetigen();
+    SpeichernWennJa();
 }
 
 // The files that were loaded are written: after the Standard wording, those with "Standard" in
 // their names, in Daten. The entry screen does not read these.
-void GSAenderung34::Command5_Click() {
-    SpeichernBestaetigen();
-    if (!SpeichernJa)
-        return;
-    TexteSchreiben(Dateinamen);
-    Gespeichert = true;
-}
-
-void GSAenderung34::Command6_Click() {
-    if (!Gespeichert && Geladen && SpeichernVorEnde())
-        TexteSchreiben(Dateinamen);
-    Schliessen();
-}
+std::vector<Text> GSAenderung34::Zieldateien() const { return Dateinamen; }
 
 void GSAenderung34::Command8_Click() { WordStarten(programm(), word::Hilfe(7)); }
 

@@ -13,7 +13,6 @@ class GSAenderung34 final : public Bausteineditor {
     void Command1_Click(int Index);
     void Command2_Click(int Index);
     void Command5_Click();
-    void Command6_Click();
     void Command7_Click(int Index);
     void Command8_Click();
     void Label1_DblClick();
@@ -44,9 +43,9 @@ class GSAenderung34 final : public Bausteineditor {
     /// The frame of page 0 to 2.
     [[nodiscard]] Frame& rahmen(int seite);
     [[nodiscard]] const ControlArray<TextBox>& textfeld(int nummer) const override;
-    [[nodiscard]] bool SpeichertDaneben() const override;
 
   private:
+    [[nodiscard]] std::vector<Text> Zieldateien() const override;
     void EntwurfSetzen();
     void HandlerVerbinden();
     void HinweisZeigen(int seite);

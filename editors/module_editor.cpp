@@ -8,7 +8,9 @@
 #include "shell/editor_common.h"
 #include "shell/file_catalogue.h"
 #include "shell/screen_names.h"
+#include "shell/text_input.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace zeugnis {
@@ -35,7 +37,7 @@ void Bausteineditor::FelderVerbinden(int erstes, int letztes) {
 }
 
 const Feldreihe* Bausteineditor::roteReihe(const TextBox& feld) const {
-    for (const Feldreihe& reihe : Felder()) {
+    for (const Feldreihe& reihe : m_regeln.Felder) {
         const int stelle = *feld.index() - reihe.Ab;
         if (reihe.Rot && stelle >= 0 && stelle < reihe.Anzahl &&
             &textfeld(reihe.Textfeld)(*feld.index()) == &feld)
@@ -64,8 +66,16 @@ void Bausteineditor::StammdatenLesen(const ControlArray<TextBox>& info) {
     info(1).setText(Halbjahr + u". Halbj.");
 }
 
-Text Bausteineditor::Dateiname(const Moduldatei& datei, const Text& jahrgang) {
-    return Text(datei.Stamm) + (datei.JeJahrgang ? jahrgang : Text()) + u".Txt";
+std::vector<Text> Bausteineditor::AktuelleDateien(const Text& jahrgang) const {
+    std::vector<Text> namen;
+    for (const Moduldatei& datei : m_regeln.Dateien)
+        namen.push_back(Text(datei.Stamm) + (datei.JeJahrgang ? jahrgang : Text()) + u".Txt");
+    return namen;
+}
+
+bool Bausteineditor::SpeichertDaneben() const {
+    const std::vector<Text> ziele = Zieldateien();
+    return !ziele.empty() && ziele != AktuelleDateien(Jahrgangsziffer);
 }
 
 bool Bausteineditor::gehoertDazu(const Moduldatei& datei) const {
@@ -80,11 +90,9 @@ bool Bausteineditor::FortfahrenOderSchliessen() {
 }
 
 void Bausteineditor::TexteLesen(bool standard, const Text& jahrgang) {
-    Dateinamen.clear();
-    for (const Moduldatei& datei : m_regeln.Dateien) {
-        const Text name = Dateiname(datei, jahrgang);
-        Dateinamen.push_back(standard ? Standardname(name) : name);
-    }
+    Dateinamen = AktuelleDateien(jahrgang);
+    if (standard)
+        std::transform(Dateinamen.begin(), Dateinamen.end(), Dateinamen.begin(), Standardname);
     const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
     std::optional<Ordnerwechsel> inStandard;
     if (standard)
@@ -123,7 +131,8 @@ void Bausteineditor::TexteUebernehmen() {
     jedesFeld([](const TextBox& feld, Text& zelle) { zelle = feld.text(); });
 }
 
-void Bausteineditor::TexteSchreiben(std::span<const Text> namen) {
+void Bausteineditor::TexteSchreiben() {
+    const std::vector<Text> namen = Zieldateien();
     const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
     for (size_t i = 0; i < m_tabellen.size(); ++i) {
         const Moduldatei& datei = m_regeln.Dateien[i];
@@ -145,8 +154,17 @@ void Bausteineditor::SpeichernBestaetigen() {
     SpeichernJa = SicherheitshalberFragen(programm(), m_regeln.SpeichernFrage);
 }
 
-bool Bausteineditor::SpeichernVorEnde() {
-    return SicherheitshalberFragen(programm(), m_regeln.EndeFrage);
+void Bausteineditor::SpeichernWennJa() {
+    if (!SpeichernJa)
+        return;
+    TexteSchreiben();
+    Gespeichert = true;
+}
+
+void Bausteineditor::Command6_Click() {
+    if (!Gespeichert && Geladen && SicherheitshalberFragen(programm(), m_regeln.EndeFrage))
+        TexteSchreiben();
+    Schliessen();
 }
 
 void Bausteineditor::Schliessen() {

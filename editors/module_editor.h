@@ -50,8 +50,6 @@ class Bausteineditor : public Screen {
     bool SpeichernJa = false; ///< the answer to the question before a save
     Text Passwort;
 
-    /// Which boxes show what, in the order in which they are filled and taken back.
-    [[nodiscard]] std::span<const Feldreihe> Felder() const { return m_regeln.Felder; }
     /// The text array of this number.
     [[nodiscard]] virtual const ControlArray<TextBox>& textfeld(int nummer) const = 0;
     /// Whether a box shows what the program sets by itself, and whether a save drops what is typed
@@ -59,13 +57,16 @@ class Bausteineditor : public Screen {
     [[nodiscard]] bool IstRot(const TextBox& feld) const;
     [[nodiscard]] bool WirdVerworfen(const TextBox& feld) const;
     /// Whether a save now would leave the current modules as they are.
-    [[nodiscard]] virtual bool SpeichertDaneben() const { return false; }
+    [[nodiscard]] bool SpeichertDaneben() const;
+
+    /// Asks before it leaves what has been loaded without a save.
+    void Command6_Click();
 
   protected:
     /// What one editor says and does its own way.
     struct Regeln {
         std::span<const Moduldatei> Dateien;
-        std::span<const Feldreihe> Felder;
+        std::span<const Feldreihe> Felder; ///< in the order of filling and taking back
         std::span<const TextView> StandardZuKopieren;
         TextView SpeichernFrage;
         TextView EndeFrage;
@@ -80,9 +81,6 @@ class Bausteineditor : public Screen {
     /// Reads class, school year and half-year, and shows them in the two boxes.
     void StammdatenLesen(const ControlArray<TextBox>& info);
 
-    /// The name of a file with the year's digit where it has one.
-    [[nodiscard]] static Text Dateiname(const Moduldatei& datei, const Text& jahrgang);
-
     /// Asks whether to go on; on No the screen is gone, with the insertion window, and the caller
     /// must return.
     [[nodiscard]] bool FortfahrenOderSchliessen();
@@ -91,18 +89,21 @@ class Bausteineditor : public Screen {
     void TexteLesen(bool standard, const Text& jahrgang);
     void TexteZeigen();
     void TexteUebernehmen();
-    /// Writes the files under these names, one for each of the table.
-    void TexteSchreiben(std::span<const Text> namen);
 
     void SpeichernBestaetigen();
-    [[nodiscard]] bool SpeichernVorEnde();
-    void Schliessen();
+    /// Writes the files if the answer was Yes.
+    void SpeichernWennJa();
     void StandardFragen();
     void StandardKopieren();
 
-    [[nodiscard]] std::span<const Moduldatei> moduldateien() const { return m_regeln.Dateien; }
+    /// The names under which a save writes, by the table of files.
+    [[nodiscard]] virtual std::vector<Text> Zieldateien() const = 0;
+    /// Those of the current modules.
+    [[nodiscard]] std::vector<Text> AktuelleDateien(const Text& jahrgang) const;
 
   private:
+    void TexteSchreiben();
+    void Schliessen();
     // `action(box, cell)` for all boxes that show one, in the order of the table.
     template <typename Action>
     void jedesFeld(Action action);

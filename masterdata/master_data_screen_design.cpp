@@ -82,22 +82,16 @@ void GsBasis::HandlerVerbinden() {
     Text2.each(verlassen);
     Text3.each(verlassen);
 
-    const auto ohneAnfuehrungszeichen = [this](TextBox& feld) {
-        feld.onChange = [this, &feld] { AnfuehrungszeichenAenderung(programm(), feld); };
-    };
-    Text1.each(ohneAnfuehrungszeichen);
-    Text2.each(ohneAnfuehrungszeichen);
-
-    // Text3 takes pasted quotes as they are.
-    const auto tastenfilter = [this](TextBox& feld) {
-        feld.onKeyPress = [this](char16_t& taste) { AnfuehrungszeichenTaste(programm(), taste); };
-    };
-    Text2.each(tastenfilter);
-    Text3.each(tastenfilter);
+    Text2.each([](TextBox& feld) { AnfuehrungszeichenFernhalten(feld); });
     Text1.each([this](TextBox& feld) {
+        AnfuehrungszeichenFernhalten(feld);
         feld.onKeyPress = [this, index = *feld.index()](char16_t& taste) {
             Text1_KeyPress(index, taste);
         };
+    });
+    // Text3 takes pasted quotes as they are.
+    Text3.each([this](TextBox& feld) {
+        feld.onKeyPress = [this](char16_t& taste) { AnfuehrungszeichenTaste(programm(), taste); };
     });
 }
 

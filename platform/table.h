@@ -12,6 +12,9 @@ namespace zeugnis {
 template <typename T, int N>
 class Tabelle {
   public:
+    Tabelle() = default;
+    explicit Tabelle(const std::array<T, static_cast<size_t>(N)>& rows) : m_rows(rows) {}
+
     T& operator[](int index) { return m_rows[checked(index)]; }
     const T& operator[](int index) const { return m_rows[checked(index)]; }
 

@@ -106,8 +106,6 @@ void GsAnzeige::TexteLesen() {
     }
     Liste = NamenLaden(verzeichnis);
     Jahrgang = numberFromText(Liste.Klasse.substr(0, 1), u"Das erste Zeichen der Klasse");
-    const bool unten = Jahrgang < 3;
-    m_ueberschriftInteressen = unten ? InteressenUnten : InteressenOben;
 
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
     const auto lesen = [&](TextView datei, std::span<const int> boxen) {
@@ -117,16 +115,16 @@ void GsAnzeige::TexteLesen() {
         });
     };
     lesen(dateien::AVSVspeicher, BoxenAVSV);
-    if (unten)
+    if (istUnten())
         lesen(dateien::Speicher12, Boxen12);
     else
         lesen(dateien::Speicher34, Boxen34);
-    Check1(FoerderAG).Visible = !unten;
-    if (unten)
+    Check1(FoerderAG).Visible = !istUnten();
+    if (istUnten())
         return;
     for (int box = 3; box <= 8; ++box)
         Check1(box).Visible = false;
-    Check1(Interessen).Caption = m_ueberschriftInteressen;
+    Check1(Interessen).Caption = InteressenOben;
 }
 
 bool GsAnzeige::etwasGewaehlt() const {
@@ -173,7 +171,7 @@ Text GsAnzeige::KlassenTextBilden() const {
                 continue;
             if (abschnitt.Box != 0)
                 klasse += ende;
-            klasse += abschnitt.Box == Interessen ? TextView(m_ueberschriftInteressen)
+            klasse += abschnitt.Box == Interessen ? (istUnten() ? InteressenUnten : InteressenOben)
                                                   : abschnitt.Ueberschrift;
             klasse += ende;
             klasse += Texte[abschnitt.Box][platz];

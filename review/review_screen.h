@@ -50,8 +50,8 @@ class GsAnzeige : public Screen {
     void KopfSetzen(const Text& klassentext);
     void TextInZwischenablage();
     [[nodiscard]] bool etwasGewaehlt() const;
-
-    Text m_ueberschriftInteressen;
+    /// Years 1 and 2, whose sections differ from those of years 3 and 4.
+    [[nodiscard]] bool istUnten() const { return Jahrgang < 3; }
 };
 
 } // namespace zeugnis

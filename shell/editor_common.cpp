@@ -15,14 +15,8 @@ constexpr TextView Standardpasswort = u"Kuckuckstal";
 } // namespace
 
 const Tabelle<Farbwert, Editorfarben>& FarbtafelEditoren() {
-    static const Tabelle<Farbwert, Editorfarben> Farbtafel = [] {
-        Tabelle<Farbwert, Editorfarben> farben;
-        int eintrag = 0;
-        for (const Farbwert farbe : {0xFFFFFFU, 0x80FF80U, 0xC0FFC0U, 0xC0E0FFU, 0xC0C0FFU,
-                                     0xC0C0C0U, 0x0000FFU, 0x00FFFFU})
-            farben[eintrag++] = farbe;
-        return farben;
-    }();
+    static const Tabelle<Farbwert, Editorfarben> Farbtafel(
+        {0xFFFFFF, 0x80FF80, 0xC0FFC0, 0xC0E0FF, 0xC0C0FF, 0xC0C0C0, 0x0000FF, 0x00FFFF});
     return Farbtafel;
 }
 
@@ -67,17 +61,6 @@ void StandardUeberschreiben(Programm& programm, const Text& passwort,
     const Ordnerwechsel in(programm.verzeichnis(), dateien::Daten);
     for (const TextView datei : namen)
         copyWholeFile(programm.verzeichnis(), datei, Text(dateien::Standard) + Standardname(datei));
-}
-
-void AnfuehrungszeichenFernhalten(TextBox& feld, std::function<void()> danach) {
-    feld.onKeyPress = [&feld](char16_t& taste) {
-        AnfuehrungszeichenTaste(feld.screen().programm(), taste);
-    };
-    feld.onChange = [&feld, danach = std::move(danach)] {
-        AnfuehrungszeichenAenderung(feld.screen().programm(), feld);
-        if (danach)
-            danach();
-    };
 }
 
 void EinfuegungInsFeld(TextBox& feld) {

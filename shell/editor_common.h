@@ -3,7 +3,6 @@
 #include "controls/control.h"
 #include "platform/table.h"
 
-#include <functional>
 #include <span>
 
 namespace zeugnis {
@@ -46,9 +45,6 @@ Text Standardname(TextView datei);
 /// Otherwise nothing happens and nothing is said.
 void StandardUeberschreiben(Programm& programm, const Text& passwort,
                             std::span<const TextView> namen);
-
-/// Keeps double quotes out of a box, typed or not. `danach` runs at the end of each change.
-void AnfuehrungszeichenFernhalten(TextBox& feld, std::function<void()> danach = {});
 
 /// A double click: what is on the clipboard goes behind the word, and placeholders stay as they
 /// are. Nothing happens to a locked box.

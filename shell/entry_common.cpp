@@ -24,7 +24,10 @@ void EinfuegungenSchalten(Programm& programm, const Einfuegetasten& beide, int i
     if (index == 0) {
         programm.zeigen(bildschirme::Einfuegungen);
     } else {
-        programm.verbergen(bildschirme::Einfuegungen);
+        if (beide.Entladen)
+            programm.entladen(bildschirme::Einfuegungen);
+        else
+            programm.verbergen(bildschirme::Einfuegungen);
         programm.machine().clipboard.clear();
     }
 }

@@ -16,12 +16,14 @@ struct Einfuegetasten {
     const ControlArray<Button>& Tasten;
     Farbwert Aktiv;
     Farbwert Ruhend;
+    bool Entladen = false; ///< the window goes with all its state, instead of being hidden
 };
 
 /// After a click into a text: the window may be shown, unless it is.
 void EinfuegungenAnbieten(const Einfuegetasten& beide);
 
-/// After a click on one of the buttons: shows the window, or hides it and empties the clipboard.
+/// After a click on one of the buttons: shows the window, or puts it away and empties the
+/// clipboard.
 void EinfuegungenSchalten(Programm& programm, const Einfuegetasten& beide, int index);
 
 /// Loads a picture of the folder Bild, or the standard one where it cannot be shown.

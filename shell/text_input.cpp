@@ -1,10 +1,12 @@
 #include "shell/text_input.h"
 
 #include "controls/program.h"
+#include "controls/screen.h"
 #include "controls/text_box.h"
 #include "shell/placeholders.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zeugnis {
 namespace {
@@ -37,6 +39,17 @@ void AnfuehrungszeichenAenderung(Programm& programm, TextBox& feld) {
               u"Anführungszeichen, die Sie einfügen wollen, werden zur Programmsteuerung benötigt. "
               u"Sie werden in einfache Zeichen umgewandelt. Benutzen Sie diese doppelt, wenn sie "
               u"unbedingt benötigt werden.");
+}
+
+void AnfuehrungszeichenFernhalten(TextBox& feld, std::function<void()> danach) {
+    feld.onKeyPress = [&feld](char16_t& taste) {
+        AnfuehrungszeichenTaste(feld.screen().programm(), taste);
+    };
+    feld.onChange = [&feld, danach = std::move(danach)] {
+        AnfuehrungszeichenAenderung(feld.screen().programm(), feld);
+        if (danach)
+            danach();
+    };
 }
 
 Text AnfuehrungszeichenErsetzen(Text text, int anzahl) {

@@ -2,6 +2,8 @@
 
 #include "platform/text.h"
 
+#include <functional>
+
 namespace zeugnis {
 
 class Programm;
@@ -12,6 +14,9 @@ struct Textregeln;
 /// for typed keys, one for text that arrives otherwise. Both tell the user.
 void AnfuehrungszeichenTaste(Programm& programm, char16_t& taste);
 void AnfuehrungszeichenAenderung(Programm& programm, TextBox& feld);
+
+/// Connects both to a box. `danach` runs at the end of each change.
+void AnfuehrungszeichenFernhalten(TextBox& feld, std::function<void()> danach = {});
 
 /// The first `anzahl` double quotes become apostrophes, silently.
 Text AnfuehrungszeichenErsetzen(Text text, int anzahl);
