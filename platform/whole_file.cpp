@@ -85,6 +85,10 @@ bool isRegularFile(const fs::path& path) {
 
 } // namespace
 
+bool hasFile(const Arbeitsverzeichnis& directory, TextView name) {
+    return isRegularFile(directory.pfad(name));
+}
+
 std::string readWholeFile(const Arbeitsverzeichnis& directory, TextView name) {
     Content content = readFrom(directory.pfad(name));
     if (content.error != 0)

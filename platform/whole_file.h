@@ -6,6 +6,9 @@
 
 namespace zeugnis {
 
+/// Whether there is such a file; a folder is none.
+bool hasFile(const Arbeitsverzeichnis& directory, TextView name);
+
 /// The bytes of a file. Fails with file-not-found, path-not-found or access-denied.
 std::string readWholeFile(const Arbeitsverzeichnis& directory, TextView name);
 

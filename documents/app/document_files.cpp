@@ -18,22 +18,11 @@ bool vorhanden(const fs::path& pfad) {
     return fs::is_regular_file(pfad, ignored);
 }
 
-bool juenger(const fs::path& pfad, const fs::path& als) {
-    std::error_code ignored;
-    return fs::last_write_time(pfad, ignored) > fs::last_write_time(als, ignored);
-}
-
 Text stammVon(const Text& name) {
     const size_t punkt = name.rfind(u'.');
     const size_t ordner = name.find_last_of(u"\\/");
     const bool hatEndung = punkt != Text::npos && (ordner == Text::npos || punkt > ordner);
     return hatEndung ? name.substr(0, punkt) : name;
-}
-
-Dokumentdateien dateienZu(const Arbeitsverzeichnis& verzeichnis, const Text& stamm) {
-    return {.Name = verzeichnis.anzeigename(stamm + u".doc"),
-            .Doc = verzeichnis.pfad(stamm + u".doc"),
-            .Pdf = verzeichnis.pfad(stamm + u".pdf")};
 }
 
 Dokumentdateien schreiben(Arbeitsverzeichnis& verzeichnis, const Schluessel& schluessel,
@@ -93,6 +82,18 @@ class Ruecknahme {
 
 } // namespace
 
+Dokumentdateien DokumentdateienZu(const Arbeitsverzeichnis& verzeichnis, const Text& stamm) {
+    return {.Name = verzeichnis.anzeigename(stamm + u".doc"),
+            .Doc = verzeichnis.pfad(stamm + u".doc"),
+            .Pdf = verzeichnis.pfad(stamm + u".pdf")};
+}
+
+bool IstBearbeitet(const Dokumentdateien& dateien) {
+    std::error_code ignored;
+    return vorhanden(dateien.Doc) && vorhanden(dateien.Pdf) &&
+           fs::last_write_time(dateien.Doc, ignored) > fs::last_write_time(dateien.Pdf, ignored);
+}
+
 Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& dokument,
                                   const Text& stamm, const std::stop_token& abbruch) {
     const LaidDocument gesetzt = layOut(dokument);
@@ -105,7 +106,7 @@ Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const D
     Ruecknahme doc(verzeichnis.pfad(stamm + u".doc"), std::move(vorher));
     writeWholeFile(verzeichnis, stamm + u".pdf", pdf);
     doc.gelungen();
-    return dateienZu(verzeichnis, stamm);
+    return DokumentdateienZu(verzeichnis, stamm);
 }
 
 Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Aufruf& aufruf,
@@ -116,7 +117,7 @@ Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Auf
             fehlt(aufruf.Dokument, u"kann dieses Programm nicht schreiben.");
         return schreiben(verzeichnis, *schluessel, abbruch);
     }
-    Dokumentdateien dateien = dateienZu(verzeichnis, stammVon(aufruf.Dokument));
+    Dokumentdateien dateien = DokumentdateienZu(verzeichnis, stammVon(aufruf.Dokument));
     if (vorhanden(dateien.Doc) || vorhanden(dateien.Pdf))
         return dateien;
     const Schluessel* schluessel = SchluesselDesErgebnisses(verzeichnis, aufruf.Dokument);
@@ -128,7 +129,7 @@ Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Auf
 Anzeige AnzeigeFinden(const Dokumentdateien& dateien, const Umwandler& umwandeln,
                       const std::stop_token& abbruch) {
     const bool hatPdf = vorhanden(dateien.Pdf);
-    if (hatPdf && (!vorhanden(dateien.Doc) || !juenger(dateien.Doc, dateien.Pdf)))
+    if (hatPdf && !IstBearbeitet(dateien))
         return {.Dateien = dateien, .Pdf = dateien.Pdf, .Hinweis = {}};
     if (std::optional<fs::path> frisch = umwandeln(dateien.Doc))
         return {.Dateien = dateien,

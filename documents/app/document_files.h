@@ -23,6 +23,12 @@ struct Dokumentdateien {
 Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& dokument,
                                   const Text& stamm, const std::stop_token& abbruch = {});
 
+/// Whether both are there and the .doc has been changed by a word processor since.
+bool IstBearbeitet(const Dokumentdateien& dateien);
+
+/// The two files with this name, whether they are there or not. `stamm` may name a folder.
+Dokumentdateien DokumentdateienZu(const Arbeitsverzeichnis& verzeichnis, const Text& stamm);
+
 /// Makes what a macro makes, or finds what is to be opened; the class document is only made if it
 /// is not there. Fails with file-not-found if there is no such document, and as its readers and
 /// writers do.

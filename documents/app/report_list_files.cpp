@@ -27,14 +27,8 @@ Dokumentdateien ListendokumentSchreiben(const Arbeitsverzeichnis& verzeichnis,
     return DokumentSchreiben(verzeichnis, Listendokument(stand), Listenstamm(stand.Stamm));
 }
 
-bool IstBearbeitet(const Arbeitsverzeichnis& verzeichnis, const Listenstand& stand) {
-    const Text stamm = Listenstamm(stand.Stamm);
-    std::error_code failed;
-    const auto doc = fs::last_write_time(verzeichnis.pfad(stamm + u".doc"), failed);
-    if (failed)
-        return false;
-    const auto pdf = fs::last_write_time(verzeichnis.pfad(stamm + u".pdf"), failed);
-    return !failed && doc > pdf;
+Dokumentdateien Listendateien(const Arbeitsverzeichnis& verzeichnis, const Listenstand& stand) {
+    return DokumentdateienZu(verzeichnis, Listenstamm(stand.Stamm));
 }
 
 } // namespace zeugnis::dokumente

@@ -15,7 +15,7 @@ Listenstand ListeBereitstellen(Arbeitsverzeichnis& verzeichnis, bool neu);
 Dokumentdateien ListendokumentSchreiben(const Arbeitsverzeichnis& verzeichnis,
                                         const Listenstand& stand);
 
-/// Whether the .doc has been changed by another program since it was written.
-bool IstBearbeitet(const Arbeitsverzeichnis& verzeichnis, const Listenstand& stand);
+/// The files it is written to, whether they are there or not.
+Dokumentdateien Listendateien(const Arbeitsverzeichnis& verzeichnis, const Listenstand& stand);
 
 } // namespace zeugnis::dokumente

@@ -40,12 +40,15 @@ Stammdaten ListendatenLesen(Arbeitsverzeichnis& verzeichnis) {
 
 Text Klassentitel(TextView art, const Text& klasse) { return Text(art) + u" der Klasse " + klasse; }
 
+Text Zeitraum(const Stammdaten& stamm) {
+    return u"Schuljahr " + oderStrich(stamm.Schule.Schuljahr) + u", " + stamm.Halbjahr +
+           u". Halbjahr";
+}
+
 std::vector<Block> Listenkopf(const Stammdaten& stamm, const Text& titel) {
-    const Text zeitraum =
-        u"Schuljahr " + oderStrich(stamm.Schule.Schuljahr) + u", " + stamm.Halbjahr + u". Halbjahr";
     return {paragraph(StyleId::Listentitel, titel),
             paragraph(StyleId::Listenangabe,
-                      verbunden(printable(stamm.Schule.Schulname), u" · ", zeitraum))};
+                      verbunden(printable(stamm.Schule.Schulname), u" · ", Zeitraum(stamm)))};
 }
 
 Cell Zelle(StyleId stil, Text text) { return {.paragraphs = {paragraph(stil, std::move(text))}}; }

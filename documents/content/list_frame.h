@@ -16,6 +16,9 @@ Stammdaten FormulardatenLesen(Arbeitsverzeichnis& verzeichnis);
 /// The name of a list with its class: "Klassenliste der Klasse 3a".
 Text Klassentitel(TextView art, const Text& klasse);
 
+/// "Schuljahr 2025/26, 1. Halbjahr".
+Text Zeitraum(const Stammdaten& stamm);
+
 /// Title, school and school year.
 std::vector<Block> Listenkopf(const Stammdaten& stamm, const Text& titel);
 

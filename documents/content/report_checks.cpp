@@ -3,12 +3,12 @@
 #include "documents/content/report_frame.h"
 #include "documents/content/wording.h"
 #include "platform/record_reader.h"
+#include "platform/whole_file.h"
 #include "shell/file_catalogue.h"
 
 #include <algorithm>
 #include <array>
 #include <set>
-#include <system_error>
 
 namespace zeugnis::dokumente {
 namespace {
@@ -17,13 +17,25 @@ constexpr TextView Lueckenmarke = u"?????";
 constexpr size_t GleichAb = 60; // shorter texts may well be the same
 constexpr size_t NamenHoechstens = 3;
 
+struct Abschnitt {
+    TextView Ueberschrift;
+    Text Gedruckt; ///< the text as the report shows it
+};
+
+// The sections of each child, the same in the same order.
+using Klassentexte = std::vector<std::vector<Abschnitt>>;
+
 struct Pruefling {
     const Zeugnisdaten& Daten;
+    const Klassentexte& Texte;
     const std::vector<Text>& Platzhalter;
     int Platz;
 
     [[nodiscard]] const Schueler& kind(int platz) const { return Daten.Stamm.Liste.Kinder[platz]; }
     [[nodiscard]] Text name() const { return Kindname(kind(Platz)); }
+    [[nodiscard]] const std::vector<Abschnitt>& abschnitte(int platz) const {
+        return Texte[static_cast<size_t>(platz)];
+    }
     [[nodiscard]] int anzahl() const { return Daten.Stamm.Liste.Schuelerzahl; }
 };
 
@@ -71,10 +83,10 @@ bool hatDoppelpunkt(TextView text) {
 
 void ohneText(const Pruefling& pruefling, Befunde& befunde) {
     std::vector<Text> leere;
-    const std::vector<Abschnittstext> abschnitte = AbschnitteVon(pruefling.Daten, pruefling.Platz);
+    const std::vector<Abschnitt>& abschnitte = pruefling.abschnitte(pruefling.Platz);
     TextView erster;
-    for (const Abschnittstext& abschnitt : abschnitte) {
-        if (!printable(abschnitt.Inhalt).empty())
+    for (const Abschnitt& abschnitt : abschnitte) {
+        if (!abschnitt.Gedruckt.empty())
             continue;
         if (leere.empty())
             erster = abschnitt.Ueberschrift;
@@ -93,11 +105,10 @@ using Abschnittspruefung = Text (*)(const Pruefling& pruefling, const Text& text
 // Runs a check over all sections that have a text.
 template <Abschnittspruefung Pruefung>
 void jeAbschnitt(const Pruefling& pruefling, Befunde& befunde) {
-    for (const Abschnittstext& abschnitt : AbschnitteVon(pruefling.Daten, pruefling.Platz)) {
-        const Text text = printable(abschnitt.Inhalt);
-        if (text.empty())
+    for (const Abschnitt& abschnitt : pruefling.abschnitte(pruefling.Platz)) {
+        if (abschnitt.Gedruckt.empty())
             continue;
-        if (const Text satz = Pruefung(pruefling, text); !satz.empty())
+        if (const Text satz = Pruefung(pruefling, abschnitt.Gedruckt); !satz.empty())
             befunde.push_back({pruefling.Platz, pruefling.name(), abschnitt.Ueberschrift,
                                Text(abschnitt.Ueberschrift) + u": " + satz});
     }
@@ -143,15 +154,14 @@ Text doppelteZeichen(const Pruefling& /*pruefling*/, const Text& text) {
 }
 
 void gleicherText(const Pruefling& pruefling, Befunde& befunde) {
-    const std::vector<Abschnittstext> eigene = AbschnitteVon(pruefling.Daten, pruefling.Platz);
+    const std::vector<Abschnitt>& eigene = pruefling.abschnitte(pruefling.Platz);
     for (size_t i = 0; i < eigene.size(); ++i) {
-        const Text text = printable(eigene[i].Inhalt);
+        const Text& text = eigene[i].Gedruckt;
         if (text.size() <= GleichAb)
             continue;
         std::vector<Text> andere;
         for (int platz = 0; platz < pruefling.anzahl(); ++platz)
-            if (platz != pruefling.Platz &&
-                printable(AbschnitteVon(pruefling.Daten, platz)[i].Inhalt) == text)
+            if (platz != pruefling.Platz && pruefling.abschnitte(platz)[i].Gedruckt == text)
                 andere.push_back(Kindname(pruefling.kind(platz)));
         if (andere.empty())
             continue;
@@ -240,22 +250,31 @@ void listePruefen(const Zeugnisdaten& daten, Befunde& befunde) {
                                    aufgezaehlt(daten.Liste->OhneKind) + u"."});
 }
 
+Klassentexte texteDerKlasse(const Zeugnisdaten& daten) {
+    Klassentexte klasse(static_cast<size_t>(daten.Stamm.Liste.Schuelerzahl));
+    for (size_t platz = 0; platz < klasse.size(); ++platz)
+        for (const Abschnittstext& abschnitt : AbschnitteVon(daten, static_cast<int>(platz)))
+            klasse[platz].push_back({abschnitt.Ueberschrift, printable(abschnitt.Inhalt)});
+    return klasse;
+}
+
 } // namespace
 
 std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten,
                                      const std::vector<Text>& platzhalter) {
     Befunde befunde;
     listePruefen(daten, befunde);
+    const Klassentexte texte = texteDerKlasse(daten);
     for (int platz = 0; platz < daten.Stamm.Liste.Schuelerzahl; ++platz)
         for (const Pruefung pruefung : Pruefungen)
-            pruefung({.Daten = daten, .Platzhalter = platzhalter, .Platz = platz}, befunde);
+            pruefung({.Daten = daten, .Texte = texte, .Platzhalter = platzhalter, .Platz = platz},
+                     befunde);
     return befunde;
 }
 
 std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis) {
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(verzeichnis.pfad(dateien::Platzhalter), ignored))
+    if (!hasFile(verzeichnis, dateien::Platzhalter))
         return {};
     std::vector<Text> marken;
     RecordReader reader(verzeichnis, dateien::Platzhalter);

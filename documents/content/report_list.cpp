@@ -3,10 +3,10 @@
 #include "masterdata/pupil_records.h"
 #include "platform/failure.h"
 #include "platform/record_reader.h"
+#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <set>
-#include <system_error>
 
 namespace zeugnis::dokumente {
 namespace {
@@ -104,8 +104,7 @@ void ZeugnislisteSchreiben(const Arbeitsverzeichnis& verzeichnis, const Stammdat
 std::optional<Zeugnisliste> ZeugnislisteLesen(const Arbeitsverzeichnis& verzeichnis,
                                               const Stammdaten& daten) {
     const Text datei = Listenstamm(daten) + u".txt";
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(verzeichnis.pfad(datei), ignored))
+    if (!hasFile(verzeichnis, datei))
         return std::nullopt;
     return Zuordnen(ListenzeilenLesen(verzeichnis, datei, daten.Jahrgang), daten.Liste);
 }

@@ -1,5 +1,6 @@
 #include "documents/content/report_list_document.h"
 
+#include "documents/content/list_frame.h"
 #include "documents/content/wording.h"
 
 namespace zeugnis::dokumente {
@@ -11,22 +12,20 @@ constexpr int BreiteName = 256;
 constexpr int BreiteSpalte = 52;
 constexpr int BreiteSpalteAllein = 120; // where there are only two
 
-Cell zelle(StyleId stil, Text text) { return {.paragraphs = {paragraph(stil, std::move(text))}}; }
-
 Row kopfzeile(std::span<const Spalte> spalten) {
-    Row zeile = {zelle(StyleId::Notenkopf, u"Nr."), zelle(StyleId::Notenkopf, u"Name")};
+    Row zeile = {Zelle(StyleId::Notenkopf, u"Nr."), Zelle(StyleId::Notenkopf, u"Name")};
     for (const Spalte& spalte : spalten)
-        zeile.push_back(zelle(StyleId::Notenkopf, Text(spalte.Kuerzel)));
+        zeile.push_back(Zelle(StyleId::Notenkopf, Text(spalte.Kuerzel)));
     return zeile;
 }
 
 Row kindzeile(const Stammdaten& daten, int platz, const Eintrag& eintrag) {
     const Schueler& kind = daten.Liste.Kinder[platz];
     const Text name = verbunden(printable(kind.Nachname), u", ", printable(kind.Vorname));
-    Row zeile = {zelle(StyleId::Notenwert, textFromNumber(platz + 1)),
-                 zelle(StyleId::Notenname, oderStrich(name))};
+    Row zeile = {Zelle(StyleId::Notenwert, textFromNumber(platz + 1)),
+                 Zelle(StyleId::Notenname, oderStrich(name))};
     for (size_t i = 0; i < SpaltenFuer(daten.Jahrgang).size(); ++i)
-        zeile.push_back(zelle(StyleId::Notenwert, Zellentext(eintrag.Werte.at(i))));
+        zeile.push_back(Zelle(StyleId::Notenwert, Zellentext(eintrag.Werte.at(i))));
     return zeile;
 }
 
@@ -41,9 +40,7 @@ Text erklaerung(std::span<const Spalte> spalten) {
 
 Document ZeugnislisteBilden(const Stammdaten& daten, const Schuelertabelle<Eintrag>& eintraege) {
     const std::span<const Spalte> spalten = SpaltenFuer(daten.Jahrgang);
-    const Text titel = Text(Listenname(daten.Jahrgang)) + u" der Klasse " + daten.Liste.Klasse;
-    const Text zeit =
-        u"Schuljahr " + oderStrich(daten.Schule.Schuljahr) + u", " + daten.Halbjahr + u". Halbjahr";
+    const Text titel = Klassentitel(Listenname(daten.Jahrgang), daten.Liste.Klasse);
     Table tabelle{
         .columns = {BreiteNummer, BreiteName}, .rows = {kopfzeile(spalten)}, .grid = true};
     tabelle.columns.insert(tabelle.columns.end(), spalten.size(),
@@ -51,13 +48,12 @@ Document ZeugnislisteBilden(const Stammdaten& daten, const Schuelertabelle<Eintr
     for (int platz = 0; platz < daten.Liste.Schuelerzahl; ++platz)
         tabelle.rows.push_back(kindzeile(daten, platz, eintraege[platz]));
 
-    Section seite{.footer = titel, .blocks = {}};
-    seite.blocks.emplace_back(paragraph(StyleId::Listentitel, titel));
-    seite.blocks.emplace_back(paragraph(
-        StyleId::Listenangabe, verbunden(printable(daten.Schule.Schulname), u" · ", zeit)));
-    seite.blocks.emplace_back(std::move(tabelle));
-    seite.blocks.emplace_back(paragraph(StyleId::Notenschluessel, erklaerung(spalten)));
-    return {.title = titel + u", " + zeit, .sections = {std::move(seite)}};
+    std::vector<Block> bloecke = Listenkopf(daten, titel);
+    bloecke.emplace_back(std::move(tabelle));
+    bloecke.emplace_back(paragraph(StyleId::Notenschluessel, erklaerung(spalten)));
+    Document dokument = Einzelliste(titel, std::move(bloecke));
+    dokument.title = titel + u", " + Zeitraum(daten);
+    return dokument;
 }
 
 } // namespace zeugnis::dokumente

@@ -21,13 +21,8 @@ constexpr size_t Datumslaenge = 10;
 constexpr std::array Schadensarten = {Fehlerart::EndOfFile, Fehlerart::IndexOutOfRange,
                                       Fehlerart::TypeMismatch, Fehlerart::Overflow};
 
-bool vorhanden(const Arbeitsverzeichnis& verzeichnis, TextView datei) {
-    std::error_code ignored;
-    return fs::is_regular_file(verzeichnis.pfad(datei), ignored);
-}
-
 std::optional<std::string> inhaltVon(const Arbeitsverzeichnis& verzeichnis, TextView datei) {
-    if (!vorhanden(verzeichnis, datei))
+    if (!hasFile(verzeichnis, datei))
         return std::nullopt;
     return readWholeFile(verzeichnis, datei);
 }
@@ -36,7 +31,7 @@ std::optional<std::string> inhaltVon(const Arbeitsverzeichnis& verzeichnis, Text
 Text kopieAnlegen(const Arbeitsverzeichnis& verzeichnis, const Text& stamm, const Text& heute) {
     const Text anfang = stamm + Text(Kopiewort) + heute;
     Text kopie = anfang + Text(Endung);
-    for (int nummer = 2; vorhanden(verzeichnis, kopie); ++nummer)
+    for (int nummer = 2; hasFile(verzeichnis, kopie); ++nummer)
         kopie = anfang + u"-" + textFromNumber(nummer) + Text(Endung);
     copyWholeFile(verzeichnis, stamm + Text(Endung), kopie);
     return kopie;
@@ -64,7 +59,7 @@ bool istSchaden(const Laufzeitfehler& failure) {
 
 bool hatEintraege(const Arbeitsverzeichnis& verzeichnis, TextView datei, int jahrgang,
                   bool beiSchaden) {
-    if (!vorhanden(verzeichnis, datei))
+    if (!hasFile(verzeichnis, datei))
         return false;
     try {
         const std::vector<Listenzeile> zeilen = ListenzeilenLesen(verzeichnis, datei, jahrgang);

@@ -195,6 +195,11 @@ void ReportListWindow::changeEvent(QEvent* event) {
         m_model.refresh();
 }
 
+// Whether a word processor has changed the document.
+bool ReportListWindow::isEdited() const {
+    return IstBearbeitet(Listendateien(m_model.folder(), m_model.state()));
+}
+
 bool ReportListWindow::writeDocument() {
     try {
         ListendokumentSchreiben(m_model.folder(), m_model.state());
@@ -216,7 +221,7 @@ bool ReportListWindow::takeTyped() {
 void ReportListWindow::print() {
     if (!takeTyped())
         return;
-    if (IstBearbeitet(m_model.folder(), m_model.state()) &&
+    if (isEdited() &&
         QMessageBox::question(
             this, QStringLiteral("Drucken"),
             QStringLiteral("Das Dokument der Liste wurde in einer Textverarbeitung geändert. Soll "
@@ -224,11 +229,7 @@ void ReportListWindow::print() {
         return;
     if (!writeDocument())
         return;
-    const Text stamm = Listenstamm(m_model.state().Stamm);
-    const Arbeitsverzeichnis& ordner = m_model.folder();
-    m_zeigen({.Name = ordner.anzeigename(stamm + u".doc"),
-              .Doc = ordner.pfad(stamm + u".doc"),
-              .Pdf = ordner.pfad(stamm + u".pdf")});
+    m_zeigen(Listendateien(m_model.folder(), m_model.state()));
 }
 
 // The document is left as new as the table, since it is what opens where Word is installed.
@@ -246,7 +247,7 @@ void ReportListWindow::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    if (saved && m_documentIsStale && !IstBearbeitet(m_model.folder(), m_model.state()))
+    if (saved && m_documentIsStale && !isEdited())
         writeDocument();
     QWidget::closeEvent(event);
 }

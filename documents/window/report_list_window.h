@@ -40,6 +40,7 @@ class ReportListWindow : public QWidget {
     void showNotice(const QString& sentence);
     bool takeTyped();
     void print();
+    [[nodiscard]] bool isEdited() const;
     bool writeDocument();
 
     Zeigen m_zeigen;
