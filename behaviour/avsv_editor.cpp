@@ -1,11 +1,12 @@
 #include "behaviour/avsv_editor.h"
 
+#include "common/editor_common.h"
+#include "common/entry_common.h"
+#include "common/screen_names.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "shell/editor_common.h"
-#include "shell/entry_common.h"
-#include "shell/file_catalogue.h"
-#include "shell/screen_names.h"
-#include "shell/word_launch.h"
+#include "files/file_catalogue.h"
+#include "files/module_files.h"
 
 namespace zeugnis {
 namespace {
@@ -43,7 +44,7 @@ void GSAVSVAenderung::load() {
 
 void GSAVSVAenderung::Command1_Click(int Index) {
     if (!FortfahrenFragen(programm())) {
-        programm().entladen(name());
+        programm().unload(name());
         return;
     }
     Command2.Enabled = Command3.Enabled = Text1.Enabled = true;
@@ -53,9 +54,9 @@ void GSAVSVAenderung::Command1_Click(int Index) {
                                ? Text(AktuelleDateien.at(i))
                                : Text(dateien::Standard) + Standardname(AktuelleDateien.at(i));
     FormulierungenAV =
-        FormulierungenLadenAV(programm().verzeichnis(), {Dateinamen[0], Dateinamen[1]});
+        FormulierungenLadenAV(programm().directory(), {Dateinamen[0], Dateinamen[1]});
     FormulierungenSV =
-        FormulierungenLadenSV(programm().verzeichnis(), {Dateinamen[2], Dateinamen[3]});
+        FormulierungenLadenSV(programm().directory(), {Dateinamen[2], Dateinamen[3]});
     Command2_Click();
     Command4(0).BackColor = farbe(editorfarben::Gewaehlt);
     Command1.each([](Button& taste) { taste.Visible = false; });
@@ -167,7 +168,7 @@ void GSAVSVAenderung::FormulierungenSchreiben() {
         Text& zeile = FormulierungenAV.Zeilen[k][k];
         zeile = LeerzeichenBereinigen(zeile);
     }
-    zeugnis::FormulierungenSchreiben(programm().verzeichnis(), FormulierungenAV, FormulierungenSV);
+    zeugnis::FormulierungenSchreiben(programm().directory(), FormulierungenAV, FormulierungenSV);
     Gespeichert = true;
 }
 
@@ -179,9 +180,7 @@ void GSAVSVAenderung::Command6_Click() {
         SicherheitshalberFragen(programm(), u"Sie haben eventuelle Änderungen noch nicht "
                                             u"gespeichert. Wollen Sie noch speichern ?"))
         FormulierungenSchreiben();
-    Programm& laufendes = programm();
-    laufendes.entladen(name());
-    laufendes.entladen(bildschirme::Einfuegungen);
+    MitEinfuegungenVerlassen(*this);
 }
 
 void GSAVSVAenderung::Label1_DblClick() {

@@ -1,9 +1,9 @@
 // What stands on the screen before it loads, its hints, and which routine answers which event.
 
 #include "behaviour/avsv_editor.h"
-#include "shell/editor_common.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
+#include "common/editor_common.h"
+#include "common/screen_names.h"
+#include "common/text_input.h"
 
 namespace zeugnis {
 namespace {

@@ -1,12 +1,12 @@
 #include "behaviour/avsv_entry_screen.h"
 
 #include "behaviour/avsv_colours.h"
+#include "common/entry_common.h"
+#include "common/placeholders.h"
+#include "common/screen_names.h"
+#include "common/text_input.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "shell/entry_common.h"
-#include "shell/placeholders.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
-#include "shell/word_launch.h"
 
 namespace zeugnis {
 namespace {
@@ -24,22 +24,22 @@ void GsArbeitsverhalten::load() {
     Text1.each([](TextBox& feld) { feld.Visible = feld.Enabled = false; });
     Command6.BackColor = farbe(avsvfarben::Neutral);
     NamenEintragen();
-    BausteineAV = TexteLadenAV(programm().verzeichnis());
-    BausteineSV = TexteLadenSV(programm().verzeichnis());
+    BausteineAV = TexteLadenAV(programm().directory());
+    BausteineSV = TexteLadenSV(programm().directory());
     SpeicherEinlesen();
     BildnamenBilden();
     Command5.BackColor = farbe(avsvfarben::Verlassen);
 }
 
 void GsArbeitsverhalten::NamenEintragen() {
-    Liste = NamenLaden(programm().verzeichnis());
+    Liste = NamenLaden(programm().directory());
     for (int i = 0; i < Liste.Schuelerzahl; ++i)
         Combo1.addItem(Liste.Kinder[i].Nachname + u"  " + Liste.Kinder[i].Vorname);
     Label2.Caption = Liste.Klasse;
 }
 
 void GsArbeitsverhalten::SpeicherEinlesen() {
-    if (!SpeicherLaden(programm().verzeichnis(), Liste, Speicher))
+    if (!SpeicherLaden(programm().directory(), Liste, Speicher))
         NamenlisteAbweichend();
 }
 
@@ -52,12 +52,12 @@ void GsArbeitsverhalten::NamenlisteAbweichend() {
          .symbol = Symbol::Stopp});
     if (antwort != Antwort::Ja)
         return;
-    SpeicherNeuAnlegen(programm().verzeichnis(), Liste);
+    SpeicherNeuAnlegen(programm().directory(), Liste);
     SpeicherEinlesen();
 }
 
 void GsArbeitsverhalten::AllesSchreiben() {
-    SpeicherSchreiben(programm().verzeichnis(), Liste, Speicher,
+    SpeicherSchreiben(programm().directory(), Liste, Speicher,
                       programm().machine().calendar.today());
 }
 
@@ -263,10 +263,10 @@ void GsArbeitsverhalten::Command5_Click() {
              .symbol = Symbol::Frage});
     if (antwort == Antwort::Ja)
         AllesSchreiben();
-    Programm& laufendes = programm();
-    if (antwort != Antwort::Abbrechen)
-        laufendes.entladen(name());
-    laufendes.entladen(bildschirme::Einfuegungen);
+    if (antwort == Antwort::Abbrechen)
+        programm().unload(bildschirme::Einfuegungen);
+    else
+        MitEinfuegungenVerlassen(*this);
 }
 
 void GsArbeitsverhalten::Command6_Click() {

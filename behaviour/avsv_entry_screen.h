@@ -2,12 +2,12 @@
 
 #include "behaviour/avsv_modules.h"
 #include "behaviour/avsv_stores.h"
+#include "common/entry_common.h"
 #include "controls/control_array.h"
 #include "controls/list_controls.h"
 #include "controls/screen.h"
 #include "controls/text_box.h"
-#include "masterdata/pupil_list.h"
-#include "shell/entry_common.h"
+#include "files/pupil_list.h"
 
 namespace zeugnis {
 

@@ -2,8 +2,8 @@
 
 #include "behaviour/avsv_colours.h"
 #include "behaviour/avsv_entry_screen.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
+#include "common/screen_names.h"
+#include "common/text_input.h"
 
 namespace zeugnis {
 

@@ -1,8 +1,8 @@
 #include "behaviour/avsv_modules.h"
 
+#include "files/file_catalogue.h"
 #include "platform/record_reader.h"
 #include "platform/record_writer.h"
-#include "shell/file_catalogue.h"
 
 namespace zeugnis {
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/section_stores.h"
 #include "platform/table.h"
 #include "platform/working_directory.h"
 
@@ -13,9 +14,6 @@ enum class Abschnitt { Keiner = 0, AV = 1, SV = 2 };
 
 inline constexpr std::array Abschnitte = {Abschnitt::AV, Abschnitt::SV};
 
-inline constexpr int KategorienAV = 7;
-inline constexpr int KategorienSV = 6;
-inline constexpr int KategorienHoechstens = 7;
 inline constexpr int Zeilenplaetze = 11; ///< lines 0 to 9 are used; line 0 stands for no choice
 
 template <typename T>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "behaviour/avsv_composition.h"
-#include "masterdata/pupil_list.h"
+#include "files/pupil_list.h"
 
 namespace zeugnis {
 

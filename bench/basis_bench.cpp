@@ -1,9 +1,9 @@
 // What a teacher waits for on the master data screen, with a full class of 33.
 
 #include "bench/quiet_machine.h"
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "masterdata/master_data_screen.h"
-#include "shell/screen_names.h"
 #include "tests/support/test_installation.h"
 
 #include <benchmark/benchmark.h>
@@ -29,7 +29,7 @@ class UnlockedBasis {
         for (int i = 1; i <= 25; ++i)
             groups += u"\"Roboter und Programmieren " + textFromNumber(i) + u"\"\r\n";
         m_folder.write(u"Daten/AGListe.txt", groups);
-        m_running.programm.zeigen(bildschirme::GsBasis);
+        m_running.programm.show(bildschirme::GsBasis);
         user::click(screen().Text1(SibankFeld));
         screen().SpeicherLoeschen = true;
     }

@@ -2,11 +2,11 @@
 
 #include "behaviour/avsv_composition.h"
 #include "behaviour/avsv_entry_screen.h"
+#include "common/placeholders.h"
+#include "common/screen_names.h"
 #include "controls/program.h"
 #include "platform/plain_machine.h"
 #include "program/all_screens.h"
-#include "shell/placeholders.h"
-#include "shell/screen_names.h"
 #include "tests/support/test_installation.h"
 
 #include <benchmark/benchmark.h>
@@ -76,11 +76,11 @@ struct FullClass {
         for (int i = 0; i < opened.Liste.Schuelerzahl; ++i)
             opened.Speicher.AV.Texte[i] = opened.Speicher.SV.Texte[i] = text;
         opened.Command4_Click();
-        programm.entladen(bildschirme::GsArbeitsverhalten);
+        programm.unload(bildschirme::GsArbeitsverhalten);
     }
 
     GsArbeitsverhalten& screen() {
-        return dynamic_cast<GsArbeitsverhalten&>(programm.laden(bildschirme::GsArbeitsverhalten));
+        return dynamic_cast<GsArbeitsverhalten&>(programm.load(bildschirme::GsArbeitsverhalten));
     }
 };
 
@@ -89,7 +89,7 @@ void LoadAllFiles(benchmark::State& state) {
     FullClass full;
     for (auto _ : state) {
         benchmark::DoNotOptimize(full.screen().Liste.Schuelerzahl);
-        full.programm.entladen(bildschirme::GsArbeitsverhalten);
+        full.programm.unload(bildschirme::GsArbeitsverhalten);
     }
 }
 BENCHMARK(LoadAllFiles)->Unit(benchmark::kMillisecond);

@@ -1,8 +1,8 @@
 // What a teacher of years 1 and 2 waits for, with a full class of 33 and the delivered modules.
 
 #include "bench/quiet_machine.h"
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
-#include "shell/screen_names.h"
 #include "tests/support/test_installation.h"
 #include "years12/entry_screen.h"
 
@@ -31,11 +31,11 @@ class FullClass {
         for (int child = 0; child < Children; ++child)
             writeAll(child);
         user::click(screen().Command2);
-        m_running.programm.entladen(bildschirme::Kompetenzen);
+        m_running.programm.unload(bildschirme::Kompetenzen);
     }
 
     Kompetenzen& screen() {
-        m_running.programm.zeigen(bildschirme::Kompetenzen);
+        m_running.programm.show(bildschirme::Kompetenzen);
         return dynamic_cast<Kompetenzen&>(*m_running.programm.find(bildschirme::Kompetenzen));
     }
     Kompetenzen& screen(int child, int page) {
@@ -43,7 +43,7 @@ class FullClass {
         user::click(screen().Command1(page));
         return screen();
     }
-    void unload() { m_running.programm.entladen(bildschirme::Kompetenzen); }
+    void unload() { m_running.programm.unload(bildschirme::Kompetenzen); }
 
   private:
     void writeAll(int child) {

@@ -1,8 +1,8 @@
 // What a teacher of years 3 and 4 waits for, with a full class of 33 and the delivered modules.
 
 #include "bench/quiet_machine.h"
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
-#include "shell/screen_names.h"
 #include "tests/support/test_installation.h"
 #include "years34/entry_screen.h"
 
@@ -34,7 +34,7 @@ class FullClass34 {
     }
 
     GSAGFI& screen() {
-        m_running.programm.zeigen(bildschirme::GSAGFI);
+        m_running.programm.show(bildschirme::GSAGFI);
         return dynamic_cast<GSAGFI&>(*m_running.programm.find(bildschirme::GSAGFI));
     }
     GSAGFI& screen(int child, int page) {
@@ -42,7 +42,7 @@ class FullClass34 {
         user::click(screen().Command2(page));
         return screen();
     }
-    void unload() { m_running.programm.entladen(bildschirme::GSAGFI); }
+    void unload() { m_running.programm.unload(bildschirme::GSAGFI); }
 
     /// Everything that can be chosen on all pages, from left to right.
     void writeAll(int child) {

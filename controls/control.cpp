@@ -52,8 +52,8 @@ void OptionButton::setValue(bool value) {
 
 void PictureBox::load(const Text& fileName) {
     Programm& programm = screen().programm();
-    const std::filesystem::path path = programm.verzeichnis().pfad(fileName);
-    const Text shown = programm.verzeichnis().anzeigename(fileName);
+    const std::filesystem::path path = programm.directory().path(fileName);
+    const Text shown = programm.directory().displayName(fileName);
     std::error_code ignored;
     if (!std::filesystem::exists(path, ignored))
         throw Laufzeitfehler(Fehlerart::FileNotFound,

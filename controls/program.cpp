@@ -16,7 +16,7 @@ void Programm::registerScreen(TextView name, Factory factory) {
     m_factories.emplace(name, std::move(factory));
 }
 
-Screen& Programm::laden(TextView name) {
+Screen& Programm::load(TextView name) {
     if (Screen* loaded = find(name))
         return *loaded;
     const auto factory = m_factories.find(name);
@@ -32,8 +32,8 @@ Screen& Programm::laden(TextView name) {
     return screen;
 }
 
-void Programm::zeigen(TextView name) {
-    laden(name);
+void Programm::show(TextView name) {
+    load(name);
     // A screen may unload itself while it loads.
     if (Screen* screen = find(name)) {
         screen->m_shown = true;
@@ -41,7 +41,7 @@ void Programm::zeigen(TextView name) {
     }
 }
 
-void Programm::verbergen(TextView name) {
+void Programm::hide(TextView name) {
     Screen* screen = find(name);
     if (screen == nullptr)
         return;
@@ -50,7 +50,7 @@ void Programm::verbergen(TextView name) {
     screen->m_shown = false;
 }
 
-void Programm::entladen(TextView name) {
+void Programm::unload(TextView name) {
     const auto found = m_loaded.find(name);
     if (found == m_loaded.end())
         return;

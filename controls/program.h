@@ -26,16 +26,16 @@ class Programm {
     void registerScreen(TextView name, Factory factory);
 
     /// Makes the screen and runs its load; nothing if it is loaded.
-    Screen& laden(TextView name);
+    Screen& load(TextView name);
     /// Loads the screen where needed, shows it and brings it to the front.
-    void zeigen(TextView name);
-    void verbergen(TextView name);
+    void show(TextView name);
+    void hide(TextView name);
     /// Drops the screen with all its state, without leave events; nothing if it is not loaded. It
     /// is destroyed when the running handlers have ended, so the caller may be inside it, but must
     /// not go on working on it.
-    void entladen(TextView name);
+    void unload(TextView name);
     /// Ends the program at once: no screen is asked and no further action reaches a control.
-    void beenden() { m_ended = true; }
+    void end() { m_ended = true; }
 
     /// Null if the screen is not loaded.
     [[nodiscard]] Screen* find(TextView name) const;
@@ -47,7 +47,7 @@ class Programm {
     }
     [[nodiscard]] bool ended() const { return m_ended; }
 
-    [[nodiscard]] Arbeitsverzeichnis& verzeichnis() { return m_directory; }
+    [[nodiscard]] Arbeitsverzeichnis& directory() { return m_directory; }
     [[nodiscard]] const Machine& machine() const { return m_machine; }
 
     /// The control that has the focus, or null.

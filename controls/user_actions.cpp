@@ -117,9 +117,9 @@ void close(Screen& screen) {
     Programm& programm = screen.programm();
     const Programm::Task task(programm);
     if (&screen == programm.startScreen())
-        programm.beenden();
+        programm.end();
     else
-        programm.entladen(screen.name());
+        programm.unload(screen.name());
 }
 
 } // namespace zeugnis::user

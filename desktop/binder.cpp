@@ -5,9 +5,9 @@
 #include "controls/text_box.h"
 #include "controls/user_actions.h"
 #include "desktop/picture_view.h"
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
+#include "toolkit/qt_text.h"
 
 #include <QComboBox>
 #include <QEvent>

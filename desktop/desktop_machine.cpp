@@ -1,8 +1,8 @@
 #include "desktop/desktop_machine.h"
 
 #include "desktop/dialog_box.h"
-#include "desktop/qt_text.h"
 #include "platform/code_page.h"
+#include "toolkit/qt_text.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

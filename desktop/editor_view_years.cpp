@@ -1,10 +1,10 @@
 #include "desktop/editor_view_years.h"
 
+#include "common/editor_common.h"
 #include "desktop/editor_parts.h"
 #include "desktop/page_area.h"
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
-#include "shell/editor_common.h"
+#include "toolkit/qt_text.h"
 
 #include <QFrame>
 #include <QGridLayout>

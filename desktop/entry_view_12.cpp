@@ -3,8 +3,8 @@
 #include "desktop/entry_parts.h"
 #include "desktop/page_area.h"
 #include "desktop/picture_view.h"
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "toolkit/qt_text.h"
 
 #include <QComboBox>
 #include <QFrame>

@@ -2,8 +2,8 @@
 
 #include "desktop/entry_parts.h"
 #include "desktop/page_area.h"
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "toolkit/qt_text.h"
 
 #include <QFrame>
 #include <QGridLayout>

@@ -1,8 +1,8 @@
 #include "desktop/entry_view_avsv.h"
 
 #include "desktop/entry_parts.h"
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "toolkit/qt_text.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

@@ -1,17 +1,15 @@
+#include "common/screen_names.h"
 #include "desktop/desktop_machine.h"
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "desktop/word_launcher.h"
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
 #include "program/all_screens.h"
-#include "shell/screen_names.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 #include <filesystem>
 
@@ -19,11 +17,6 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(zeugnis::qString(zeugnis::Programmtitel));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QTranslator german;
-    if (german.load(QStringLiteral("qtbase_de"),
-                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&german);
     zeugnis::theme::apply(application);
 
     zeugnis::DesktopDialogs dialogs;
@@ -40,7 +33,7 @@ int main(int argc, char** argv) {
     dialogs.parent = [&host] { return host.dialogParent(); };
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
-        &host, [&] { host.run([&program] { program.zeigen(zeugnis::bildschirme::GsStart); }); },
+        &host, [&] { host.run([&program] { program.show(zeugnis::bildschirme::GsStart); }); },
         Qt::QueuedConnection);
     return QApplication::exec();
 }

@@ -2,16 +2,16 @@
 //   click SCREEN.CONTROL | select SCREEN.CONTROL ENTRY | picture SCREEN FILE
 // All questions are answered with Yes.
 
+#include "common/screen_names.h"
 #include "controls/list_controls.h"
 #include "controls/user_actions.h"
 #include "desktop/desktop_machine.h"
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
 #include "program/all_screens.h"
-#include "shell/screen_names.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QImage>
@@ -105,7 +105,7 @@ int main(int argc, char** argv) {
                      std::filesystem::current_path());
     BildschirmeAnmelden(program);
     WindowHost host(program);
-    host.run([&] { program.zeigen(bildschirme::GsStart); });
+    host.run([&] { program.show(bildschirme::GsStart); });
     settle();
     try {
         for (std::string line; std::getline(std::cin, line);)

@@ -1,8 +1,8 @@
 #include "desktop/master_data_view.h"
 
-#include "desktop/qt_text.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
+#include "toolkit/qt_text.h"
 
 #include <QFrame>
 #include <QGridLayout>

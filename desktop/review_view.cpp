@@ -1,7 +1,7 @@
 #include "desktop/review_view.h"
 
-#include "desktop/qt_text.h"
 #include "desktop/theme.h"
+#include "toolkit/qt_text.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

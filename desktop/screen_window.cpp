@@ -3,8 +3,8 @@
 #include "controls/program.h"
 #include "controls/user_actions.h"
 #include "desktop/dialog_box.h"
-#include "desktop/qt_text.h"
 #include "desktop/window_host.h"
+#include "toolkit/qt_text.h"
 
 #include <QCloseEvent>
 #include <QScreen>

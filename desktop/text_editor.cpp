@@ -1,9 +1,9 @@
 #include "desktop/text_editor.h"
 
 #include "controls/user_actions.h"
-#include "desktop/qt_text.h"
 #include "desktop/text_line_ends.h"
 #include "desktop/window_host.h"
+#include "toolkit/qt_text.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>

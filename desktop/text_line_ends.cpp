@@ -1,6 +1,6 @@
 #include "desktop/text_line_ends.h"
 
-#include "desktop/qt_text.h"
+#include "toolkit/qt_text.h"
 
 namespace zeugnis {
 namespace {

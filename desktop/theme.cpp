@@ -1,10 +1,7 @@
 #include "desktop/theme.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QPainter>
-#include <QPalette>
-#include <QStyleFactory>
 
 // Resources of a static library are not linked in unless they are asked for, and that outside any
 // namespace.
@@ -20,21 +17,11 @@ QColor unpacked(Farbwert value) {
 }
 
 constexpr const char* StyleSheet = R"(
-QToolTip { padding: 4px 6px; color: #242B33; background: #FFFBEA; border: 1px solid #C9C3B6; }
-QComboBox, QLineEdit {
-    min-height: 30px; padding: 1px 8px; background: white;
+QLineEdit { min-height: 30px; padding: 1px 8px; background: white;
     border: 1px solid #8C867A; border-radius: 6px; }
-QComboBox:focus, QLineEdit:focus { border: 2px solid #1F6F6B; padding: 0 7px; }
-QComboBox::drop-down { width: 28px; border: none; }
-QComboBox::down-arrow { image: none; width: 0; height: 0; margin-right: 10px;
-    border-left: 5px solid #F0EEE9; border-right: 5px solid #F0EEE9; border-top: 6px solid #5F656C; }
+QLineEdit:focus { border: 2px solid #1F6F6B; padding: 0 7px; }
 QComboBox QAbstractItemView { padding: 4px; outline: none; background: white; }
 QComboBox QAbstractItemView::item { min-height: 26px; }
-QListWidget { background: white; border: 1px solid #8C867A; border-radius: 6px; padding: 4px; }
-QListWidget:focus { border: 2px solid #1F6F6B; }
-QListWidget::item { padding: 5px 6px; border-radius: 4px; }
-QListWidget::item:selected { background: #1F6F6B; color: white; }
-QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPlainTextEdit { border: 1px solid #C9C3B6; border-radius: 6px; padding: 4px 2px 4px 6px; }
 QPlainTextEdit:focus { border: 2px solid #1F6F6B; padding: 3px 1px 3px 5px; }
 QPlainTextEdit[oneLine="true"] { padding: 1px 2px; background: white; border-color: #8C867A; }
@@ -52,8 +39,6 @@ QScrollBar::handle:vertical { min-height: 32px; margin: 2px; border-radius: 4px;
     background: rgba(60, 60, 50, 90); }
 QScrollBar::handle:vertical:disabled { background: transparent; }
 QScrollBar::handle:vertical:hover { background: rgba(60, 60, 50, 150); }
-QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QDialog QPushButton { min-height: 28px; min-width: 92px; padding: 0 12px;
     border: 1px solid #8C867A; border-radius: 6px; background: white; }
 QDialog QPushButton:focus { border: 2px solid #1F6F6B; }
@@ -64,26 +49,7 @@ QDialog QPushButton:hover { background: #EAF3F2; }
 
 void apply(QApplication& application) {
     initResources();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-
-    QFont font(QStringList{QStringLiteral("Open Sans"), QStringLiteral("Segoe UI"),
-                           QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")},
-               11);
-    QApplication::setFont(font);
-
-    QPalette palette;
-    palette.setColor(QPalette::Window, Background);
-    palette.setColor(QPalette::WindowText, Ink);
-    palette.setColor(QPalette::Base, Surface);
-    palette.setColor(QPalette::Text, Ink);
-    palette.setColor(QPalette::Button, Surface);
-    palette.setColor(QPalette::ButtonText, Ink);
-    palette.setColor(QPalette::Highlight, Accent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, InkDisabled);
-    QApplication::setPalette(palette);
-    application.setStyleSheet(QString::fromLatin1(StyleSheet));
+    look::apply(application, QString::fromLatin1(StyleSheet));
 }
 
 QFont scaledFont(double factor, QFont::Weight weight) {

@@ -2,10 +2,10 @@
 
 #include "controls/user_actions.h"
 #include "desktop/dialog_box.h"
-#include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "desktop/views.h"
 #include "platform/failure.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QScopedValueRollback>

@@ -1,8 +1,8 @@
 #include "desktop/word_launcher.h"
 
-#include "desktop/qt_text.h"
 #include "platform/failure.h"
 #include "platform/working_directory.h"
+#include "toolkit/qt_text.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -22,7 +22,7 @@ QString foundProgram(const QString& name) {
 bool documentExists(const QString& name, const std::filesystem::path& programFolder) {
     try {
         std::error_code ignored;
-        return std::filesystem::exists(Arbeitsverzeichnis(programFolder).pfad(fromQString(name)),
+        return std::filesystem::exists(Arbeitsverzeichnis(programFolder).path(fromQString(name)),
                                        ignored);
     } catch (const Laufzeitfehler&) {
         return false; // its folder is missing

@@ -2,13 +2,13 @@
 #include "documents/app/report_list_files.h"
 #include "documents/app/review_document.h"
 #include "documents/app/word_processor.h"
-#include "documents/pdf/qt_text.h"
 #include "documents/window/preview_window.h"
 #include "documents/window/progress.h"
 #include "documents/window/report_list_window.h"
 #include "documents/window/theme.h"
 #include "platform/failure.h"
 #include "platform/machine.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QClipboard>

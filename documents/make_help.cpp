@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     try {
         const Arbeitsverzeichnis quelle(argv[1]);
         const Arbeitsverzeichnis ziel(argv[2]);
-        for (const auto& datei : std::filesystem::directory_iterator(quelle.aktuell()))
+        for (const auto& datei : std::filesystem::directory_iterator(quelle.current()))
             if (datei.path().extension() == ".txt")
                 hilfeSchreiben(quelle, ziel, datei.path().stem().string());
         return 0;

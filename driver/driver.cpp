@@ -1,12 +1,12 @@
 #include "driver/driver.h"
 
+#include "common/screen_names.h"
 #include "controls/list_controls.h"
 #include "controls/text_box.h"
 #include "controls/user_actions.h"
 #include "driver/properties.h"
 #include "platform/failure.h"
 #include "program/all_screens.h"
-#include "shell/screen_names.h"
 
 #include <algorithm>
 #include <limits>
@@ -123,7 +123,7 @@ void Driver::start(const Words&) {
             Machine{m_dialogs, m_clipboard, *m_calendar, m_pictures, m_launcher}, m_folder);
         BildschirmeAnmelden(*m_program);
     }
-    m_program->zeigen(bildschirme::GsStart);
+    m_program->show(bildschirme::GsStart);
 }
 
 void Driver::click(const Words& words) {

@@ -1,10 +1,10 @@
 #include "editors/editor12.h"
 
+#include "common/editor_common.h"
+#include "common/entry_common.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "masterdata/school_data.h"
-#include "shell/editor_common.h"
-#include "shell/entry_common.h"
-#include "shell/word_launch.h"
+#include "files/school_data.h"
 
 namespace zeugnis {
 namespace {

@@ -1,26 +1,22 @@
 // The tables of the screen: its files, which box shows which cell, its hints; what stands on it
 // before it loads, and which routine answers which event.
 
+#include "common/editor_common.h"
+#include "common/screen_names.h"
 #include "editors/editor12.h"
-#include "masterdata/school_data.h"
-#include "shell/editor_common.h"
-#include "shell/screen_names.h"
+#include "files/school_data.h"
+#include "files/section_stores.h"
 
 namespace zeugnis {
 namespace {
 
 enum Datei { Interessen, Sprechen, Lesen, Schreiben, Mathe, Bemerkungen, Versetzung, Zwischen };
 
-constexpr std::array<Moduldatei, 8> Dateien = {{
-    {u"Interessen12", 1, 21, 16},
-    {u"Sprechen", 3, 11, 4, true},
-    {u"Lesen", 6, 11, 7, true},
-    {u"Schreiben", 6, 11, 6, true},
-    {u"Mathe", 18, 11, 6, true},
-    {u"Bemerkungen", 3, 11, 8, true},
-    {u"Versetzung", 1, 11, 4, true},
-    {u"Zwischentexte", 1, 26, 0},
-}};
+constexpr auto Dateien = std::to_array<Moduldatei>(
+    {moduldateien::Interessen12, moduldateien::Sprechen, moduldateien::Lesen,
+     moduldateien::Schreiben, moduldateien::Mathe, moduldateien::Bemerkungen12,
+     moduldateien::Versetzung12, moduldateien::Zwischentexte});
+static_assert(Dateien.size() == Zwischen + 1);
 
 bool imJahr2(const Bausteineditor& editor) { return IstZahl(editor.Jahrgangsziffer, 2); }
 bool nichtImJahr2(const Bausteineditor& editor) { return !imJahr2(editor); }
@@ -111,12 +107,12 @@ struct Seite {
 };
 constexpr std::array<Seite, GSAenderung12::Seitenzahl> Seiten = {{
     {u"Interessen", u"Interessen, Fähigkeiten, Fertigkeiten", false},
-    {u"Deutsch Sprechen und Zuhören", u"Sprechen und Zuhören", false},
-    {u"Deutsch Lesen Texte", u"Lesen und mit Texten umgehen", false},
-    {u"Deutsch Schreiben Texte", u"Schreiben, Texte verfassen"},
-    {u"Mathe Zahlen Operationen", u"Zahlen und Operationen"},
-    {u"Mathe Größen Messen", u"Größen und Messen"},
-    {u"Mathe  Raum Form", u"Raum und Form"},
+    {u"Deutsch Sprechen und Zuhören", Kompetenzbereiche[0], false},
+    {u"Deutsch Lesen Texte", Kompetenzbereiche[1], false},
+    {u"Deutsch Schreiben Texte", Kompetenzbereiche[2]},
+    {u"Mathe Zahlen Operationen", Kompetenzbereiche[3]},
+    {u"Mathe Größen Messen", Kompetenzbereiche[4]},
+    {u"Mathe  Raum Form", Kompetenzbereiche[5]},
     {u"Bemerkungen", u"Bemerkungen und Versetzung", true, true},
 }};
 

@@ -1,9 +1,9 @@
 #include "editors/editor34.h"
 
+#include "common/editor_common.h"
+#include "common/entry_common.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "shell/editor_common.h"
-#include "shell/entry_common.h"
-#include "shell/word_launch.h"
 
 namespace zeugnis {
 namespace {

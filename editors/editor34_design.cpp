@@ -1,25 +1,21 @@
 // The tables of the screen: its files, which box shows which cell; what stands on it before it
 // loads, and which routine answers which event.
 
+#include "common/editor_common.h"
+#include "common/screen_names.h"
 #include "editors/editor34.h"
-#include "masterdata/school_data.h"
-#include "shell/editor_common.h"
-#include "shell/screen_names.h"
+#include "files/school_data.h"
 
 namespace zeugnis {
 namespace {
 
 enum Datei { Foerder, Zensur, Interessen, Versetzung3, Versetzung4, Bemerkungen, AG };
 
-constexpr std::array<Moduldatei, 7> Dateien = {{
-    {u"Förder34", 1, 9, 8},
-    {u"Zensurabweichung", 1, 8, 6},
-    {u"Interessen34", 1, 16, 14},
-    {u"Versetzung3", 2, 5, 5, false, 3},
-    {u"Versetzung4", 2, 5, 5, false, 4},
-    {u"Bemerkungen34", 4, 9, 5},
-    {u"AG", 1, 3, 2},
-}};
+constexpr auto Dateien = std::to_array<Moduldatei>(
+    {moduldateien::Foerder34, moduldateien::Zensurabweichung, moduldateien::Interessen34,
+     moduldateien::Versetzung3, moduldateien::Versetzung4, moduldateien::Bemerkungen34,
+     moduldateien::AG});
+static_assert(Dateien.size() == AG + 1);
 
 bool imHalbjahr1(const Bausteineditor& editor) { return IstZahl(editor.Halbjahr, 1); }
 bool imHalbjahr2(const Bausteineditor& editor) { return IstZahl(editor.Halbjahr, 2); }

@@ -1,14 +1,12 @@
 #include "editors/module_editor.h"
 
+#include "common/editor_common.h"
+#include "common/entry_common.h"
+#include "common/text_input.h"
 #include "controls/program.h"
-#include "masterdata/pupil_list.h"
-#include "masterdata/school_data.h"
-#include "platform/record_reader.h"
-#include "platform/record_writer.h"
-#include "shell/editor_common.h"
-#include "shell/file_catalogue.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
+#include "files/file_catalogue.h"
+#include "files/pupil_list.h"
+#include "files/school_data.h"
 
 #include <algorithm>
 #include <optional>
@@ -24,7 +22,7 @@ Bausteineditor::Bausteineditor(Programm& programm, TextView name, TextView title
                                const Regeln& regeln)
     : Screen(programm, name, title), m_regeln(regeln) {
     for (const Moduldatei& datei : regeln.Dateien)
-        m_tabellen.emplace_back(datei.Spalten, datei.Zeilen);
+        m_tabellen.emplace_back(datei.Spalten, datei.ZeilenImEditor);
 }
 
 void Bausteineditor::FelderVerbinden(int erstes, int letztes) {
@@ -56,9 +54,9 @@ bool Bausteineditor::WirdVerworfen(const TextBox& feld) const {
 }
 
 void Bausteineditor::StammdatenLesen(const ControlArray<TextBox>& info) {
-    Klasse = NamenLaden(programm().verzeichnis()).Klasse;
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
-    const Schuldaten schule = BasisdatenLesen(programm().verzeichnis(), GeleseneBasisfelder);
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
+    Klasse = KlasseLesen(programm().directory());
+    const Schuldaten schule = BasisdatenLesen(programm().directory(), GeleseneBasisfelder);
     Schuljahr = schule.Schuljahr;
     Halbjahr = schule.Halbjahr;
     Jahrgangsziffer = Klasse.substr(0, 1);
@@ -69,7 +67,7 @@ void Bausteineditor::StammdatenLesen(const ControlArray<TextBox>& info) {
 std::vector<Text> Bausteineditor::AktuelleDateien(const Text& jahrgang) const {
     std::vector<Text> namen;
     for (const Moduldatei& datei : m_regeln.Dateien)
-        namen.push_back(Text(datei.Stamm) + (datei.JeJahrgang ? jahrgang : Text()) + u".Txt");
+        namen.push_back(Modulname(datei, jahrgang));
     return namen;
 }
 
@@ -85,7 +83,7 @@ bool Bausteineditor::gehoertDazu(const Moduldatei& datei) const {
 bool Bausteineditor::FortfahrenOderSchliessen() {
     const bool weiter = FortfahrenFragen(programm());
     if (!weiter)
-        Schliessen();
+        MitEinfuegungenVerlassen(*this);
     return weiter;
 }
 
@@ -93,19 +91,15 @@ void Bausteineditor::TexteLesen(bool standard, const Text& jahrgang) {
     Dateinamen = AktuelleDateien(jahrgang);
     if (standard)
         std::transform(Dateinamen.begin(), Dateinamen.end(), Dateinamen.begin(), Standardname);
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
     std::optional<Ordnerwechsel> inStandard;
     if (standard)
-        inStandard.emplace(programm().verzeichnis(), dateien::Standard);
+        inStandard.emplace(programm().directory(), dateien::Standard);
     for (size_t i = 0; i < m_tabellen.size(); ++i) {
         const Moduldatei& datei = m_regeln.Dateien[i];
-        if (!gehoertDazu(datei))
-            continue;
-        readNumberedRecords(programm().verzeichnis(), Dateinamen[i], datei.Zeilen,
-                            [&](RecordReader& reader, int zeile, int) {
-                                for (int spalte = 1; spalte <= datei.Spalten; ++spalte)
-                                    m_tabellen[i](spalte, zeile) = reader.text();
-                            });
+        if (gehoertDazu(datei))
+            ModuldateiLesen(programm().directory(), Dateinamen[i], datei, datei.ZeilenImEditor,
+                            m_tabellen[i]);
     }
 }
 
@@ -133,20 +127,11 @@ void Bausteineditor::TexteUebernehmen() {
 
 void Bausteineditor::TexteSchreiben() {
     const std::vector<Text> namen = Zieldateien();
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
     for (size_t i = 0; i < m_tabellen.size(); ++i) {
         const Moduldatei& datei = m_regeln.Dateien[i];
-        if (datei.Geschrieben == 0 || !gehoertDazu(datei))
-            continue;
-        RecordWriter writer(programm().verzeichnis(), namen[i]);
-        for (int zeile = 0; zeile < datei.Geschrieben; ++zeile) {
-            writer.begin();
-            writer.add(zeile + 1);
-            for (int spalte = 1; spalte <= datei.Spalten; ++spalte)
-                writer.add(m_tabellen[i](spalte, zeile));
-            writer.end();
-        }
-        writer.close();
+        if (datei.Geschrieben != 0 && gehoertDazu(datei))
+            ModuldateiSchreiben(programm().directory(), namen[i], datei, m_tabellen[i]);
     }
 }
 
@@ -164,13 +149,7 @@ void Bausteineditor::SpeichernWennJa() {
 void Bausteineditor::Command6_Click() {
     if (!Gespeichert && Geladen && SicherheitshalberFragen(programm(), m_regeln.EndeFrage))
         TexteSchreiben();
-    Schliessen();
-}
-
-void Bausteineditor::Schliessen() {
-    Programm& laufendes = programm();
-    laufendes.entladen(name());
-    laufendes.entladen(bildschirme::Einfuegungen);
+    MitEinfuegungenVerlassen(*this);
 }
 
 void Bausteineditor::StandardFragen() { StandardUeberschreibenFragen(programm(), Passwort); }

@@ -3,23 +3,13 @@
 #include "controls/control_array.h"
 #include "controls/screen.h"
 #include "controls/text_box.h"
-#include "shell/module_table.h"
+#include "files/module_files.h"
 
 #include <array>
 #include <span>
 #include <vector>
 
 namespace zeugnis {
-
-/// A module file as an editor reads and writes it.
-struct Moduldatei {
-    TextView Stamm;
-    int Spalten;             ///< texts of a record, behind its running number
-    int Zeilen;              ///< rows that there is room for; a record behind them fails
-    int Geschrieben;         ///< rows that a save writes; 0 if the file is only read
-    bool JeJahrgang = false; ///< the year's digit stands behind the stem
-    int NurJahrgang = 0;     ///< the year that alone reads and writes the file; 0 for all
-};
 
 class Bausteineditor;
 
@@ -103,7 +93,6 @@ class Bausteineditor : public Screen {
 
   private:
     void TexteSchreiben();
-    void Schliessen();
     // `action(box, cell)` for all boxes that show one, in the order of the table.
     template <typename Action>
     void jedesFeld(Action action);

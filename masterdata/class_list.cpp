@@ -1,20 +1,10 @@
 #include "masterdata/class_list.h"
 
+#include "files/file_catalogue.h"
 #include "platform/record_reader.h"
-#include "platform/record_writer.h"
-#include "shell/file_catalogue.h"
 
 namespace zeugnis {
 namespace {
-
-void satzSchreiben(RecordWriter& writer, int nummer, const Text& klasse, const Schueler& kind) {
-    writer.begin();
-    writer.add(nummer);
-    writer.add(klasse);
-    for (const Text* feld : FelderVon(kind))
-        writer.add(*feld);
-    writer.end();
-}
 
 int zeilenSchreibenUndLesen(const Arbeitsverzeichnis& verzeichnis, const std::vector<Text>& zeilen,
                             Schuelertabelle<Schueler>& kinder) {
@@ -33,8 +23,7 @@ int zeilenSchreibenUndLesen(const Arbeitsverzeichnis& verzeichnis, const std::ve
 } // namespace
 
 void Klassenliste::NamenLaden(Arbeitsverzeichnis& verzeichnis) {
-    static_cast<Namensliste&>(*this) =
-        zeugnis::NamenLaden(verzeichnis, [this](int nummer) { Nummer[nummer] = nummer; });
+    NamenEinlesen(verzeichnis, *this, [this](int nummer) { Nummer[nummer] = nummer; });
     NummernBilden();
 }
 
@@ -68,7 +57,7 @@ void Klassenliste::BildnamenBilden() {
 void Klassenliste::NamenSchreiben(const Arbeitsverzeichnis& verzeichnis) const {
     RecordWriter writer(verzeichnis, dateien::Namen);
     for (int i = 0; i < Schuelerzahl; ++i)
-        satzSchreiben(writer, Nummer[i + 1], Klasse, Kinder[i]);
+        NamenssatzSchreiben(writer, Nummer[i + 1], Klasse, Kinder[i]);
     writer.close();
 }
 
@@ -82,7 +71,7 @@ void Klassenliste::BildlisteSchreiben(const Arbeitsverzeichnis& verzeichnis) con
 void Klassenliste::LeereListeSchreiben(Arbeitsverzeichnis& verzeichnis) const {
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
     RecordWriter writer(verzeichnis, dateien::Namen);
-    satzSchreiben(writer, 1, Klasse, {});
+    NamenssatzSchreiben(writer, 1, Klasse, {});
     writer.close();
 }
 
@@ -92,7 +81,7 @@ void Klassenliste::OrdnungUebernehmen(Arbeitsverzeichnis& verzeichnis,
     const int anzahl = zeilenSchreibenUndLesen(verzeichnis, zeilen, Kinder);
     RecordWriter writer(verzeichnis, dateien::Namen);
     for (int i = 0; i < anzahl; ++i)
-        satzSchreiben(writer, i + 1, Klasse, Kinder[i]);
+        NamenssatzSchreiben(writer, i + 1, Klasse, Kinder[i]);
     writer.close();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "masterdata/pupil_list.h"
+#include "files/pupil_list.h"
 
 #include <vector>
 
@@ -17,8 +17,9 @@ struct Klassenliste : Namensliste {
     /// By place, from 0: neither deleting nor sorting moves them.
     Schuelertabelle<Text> BildDatei;
 
-    /// Reads Namen.Txt. Fails as the reading of the list does, and with index-out-of-range for any
-    /// number outside 0 to 35: a list of 36 is one too long.
+    /// Reads Namen.Txt; places that no record goes to keep what they hold. Fails as the reading of
+    /// the list does, and with index-out-of-range for any number outside 0 to 35: a list of 36 is
+    /// one too long.
     void NamenLaden(Arbeitsverzeichnis& verzeichnis);
 
     void NummernBilden();

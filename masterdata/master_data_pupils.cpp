@@ -1,10 +1,10 @@
 // What the master data screen does with the class list and the working groups.
 
+#include "common/text_input.h"
 #include "controls/program.h"
 #include "masterdata/master_data_screen.h"
 #include "masterdata/store_reset.h"
 #include "platform/code_page.h"
-#include "shell/text_input.h"
 
 namespace zeugnis {
 namespace {
@@ -21,7 +21,7 @@ size_t platz(const T& control) {
 } // namespace
 
 void GsBasis::NamenLaden() {
-    Liste.NamenLaden(programm().verzeichnis());
+    Liste.NamenLaden(programm().directory());
     for (int i = 1; i <= Liste.Schuelerzahl; ++i)
         Combo1.addItem(Liste.NummerText[i]);
 }
@@ -101,12 +101,12 @@ void GsBasis::Command4_Click(int Index) {
 void GsBasis::ListeNeuBeginnen() {
     Combo1.clear();
     ListeNeuAnlegen();
-    SpeicherLeeren(programm().verzeichnis(), Liste);
+    SpeicherLeeren(programm().directory(), Liste);
     setFocus(Text2(1));
 }
 
 void GsBasis::ListeNeuAnlegen() {
-    Liste.LeereListeSchreiben(programm().verzeichnis());
+    Liste.LeereListeSchreiben(programm().directory());
     NamenLaden();
     AktuellerSchueler = 0;
     SchuelerZeigen();
@@ -122,7 +122,7 @@ void GsBasis::SchuelerLoeschen() {
         Combo1.addItem(Liste.NummerText[i]);
     SchuelerZeigen();
     BasisSpeichern();
-    SpeicherLeeren(programm().verzeichnis(), Liste);
+    SpeicherLeeren(programm().directory(), Liste);
     if (Liste.Schuelerzahl == 0)
         ListeNeuAnlegen();
     ErstenWaehlen();
@@ -138,13 +138,13 @@ void GsBasis::SchuelerHinzufuegen() {
     }
     setFocus(Text2(1));
     BasisSpeichern();
-    SpeicherLeeren(programm().verzeichnis(), Liste);
+    SpeicherLeeren(programm().directory(), Liste);
 }
 
 void GsBasis::SchuelerSortieren() {
     for (int i = 0; i < Liste.Schuelerzahl; ++i)
         List2.addItem(Sortierzeile(Liste.Kinder[i]));
-    Liste.OrdnungUebernehmen(programm().verzeichnis(), List2.entries());
+    Liste.OrdnungUebernehmen(programm().directory(), List2.entries());
     Combo1.clear();
     NamenLaden();
     ErstenWaehlen();

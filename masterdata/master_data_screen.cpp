@@ -1,12 +1,12 @@
 #include "masterdata/master_data_screen.h"
 
+#include "common/text_input.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "masterdata/ag_list.h"
-#include "masterdata/sibank_path.h"
+#include "files/ag_list.h"
+#include "files/file_catalogue.h"
+#include "files/sibank_path.h"
 #include "masterdata/store_reset.h"
-#include "shell/file_catalogue.h"
-#include "shell/text_input.h"
-#include "shell/word_launch.h"
 
 namespace zeugnis {
 namespace {
@@ -56,8 +56,8 @@ const std::array<Schulfeld, 11> Schulfelder = {{
 
 void GsBasis::BasisLaden() {
     {
-        const Arbeitsverzeichnis& verzeichnis = programm().verzeichnis();
-        const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
+        const Arbeitsverzeichnis& verzeichnis = programm().directory();
+        const Ordnerwechsel in(programm().directory(), dateien::Daten);
         Schule = BasisdatenLesen(verzeichnis, BasisdatenFelder);
         SibankPfad = SibankpfadLesen(verzeichnis);
         for (const Text& eintrag : AGListeLesen(verzeichnis))
@@ -138,7 +138,7 @@ void GsBasis::SchuldatenFreigeben() {
     Command3.Enabled = false;
     SpeicherLoeschen = true;
     // The question speaks of the save, yet the contents are gone with the Yes.
-    SpeicherLeeren(programm().verzeichnis(), Liste);
+    SpeicherLeeren(programm().directory(), Liste);
 }
 
 void GsBasis::Command1_Click(int Index) {
@@ -148,18 +148,18 @@ void GsBasis::Command1_Click(int Index) {
     }
     if (!Gespeichert)
         SpeichernNachfragen();
-    programm().beenden();
+    programm().end();
 }
 
 void GsBasis::AllesSpeichern() {
     HalbjahrBerichtigen();
     Liste.BildnamenBilden();
     if (SpeicherLoeschen)
-        SpeicherLeeren(programm().verzeichnis(), Liste);
+        SpeicherLeeren(programm().directory(), Liste);
     BasisSpeichern();
     Gespeichert = true;
     ZeugnislisteStarten();
-    SicherheitLeeren(programm().verzeichnis());
+    SicherheitLeeren(programm().directory());
 }
 
 void GsBasis::HalbjahrBerichtigen() {
@@ -176,8 +176,8 @@ void GsBasis::HalbjahrBerichtigen() {
 
 void GsBasis::BasisSpeichern() {
     Schule.NaechstesSchuljahr = NaechstesSchuljahrNach(Schule.Schuljahr);
-    const Arbeitsverzeichnis& verzeichnis = programm().verzeichnis();
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
+    const Arbeitsverzeichnis& verzeichnis = programm().directory();
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
     BasisdatenSchreiben(verzeichnis, Schule);
     SibankpfadSchreiben(verzeichnis, SibankPfad);
     Liste.NamenSchreiben(verzeichnis);
@@ -201,8 +201,8 @@ void GsBasis::Command7_Click(int Index) {
     const Text& pfad = Standardpfade.at(static_cast<size_t>(Index));
     Text1(SibankFeld).setText(pfad);
     SibankPfad = pfad;
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
-    SibankpfadSchreiben(programm().verzeichnis(), SibankPfad);
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
+    SibankpfadSchreiben(programm().directory(), SibankPfad);
 }
 
 void GsBasis::Command8_Click() { WordStarten(programm(), word::Hilfe(9)); }

@@ -4,8 +4,8 @@
 #include "controls/list_controls.h"
 #include "controls/screen.h"
 #include "controls/text_box.h"
+#include "files/school_data.h"
 #include "masterdata/class_list.h"
-#include "masterdata/school_data.h"
 #include "platform/machine.h"
 
 namespace zeugnis {

@@ -1,8 +1,8 @@
 // What stands on the screen before it loads, and which routine answers which event.
 
+#include "common/screen_names.h"
+#include "common/text_input.h"
 #include "masterdata/master_data_screen.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
 
 namespace zeugnis {
 

@@ -15,7 +15,7 @@ constexpr TextView Separators = u",\r\n";
 } // namespace
 
 RecordReader::RecordReader(const Arbeitsverzeichnis& directory, TextView name)
-    : RecordReader(decodeWindows1252(readWholeFile(directory, name)), directory.anzeigename(name)) {
+    : RecordReader(decodeWindows1252(readWholeFile(directory, name)), directory.displayName(name)) {
 }
 
 RecordReader::RecordReader(Text content, Text shownName)

@@ -8,7 +8,7 @@ namespace zeugnis {
 
 RecordWriter::RecordWriter(const Arbeitsverzeichnis& directory, TextView name)
     : m_directory(directory), m_name(name) {
-    static_cast<void>(m_directory.pfad(m_name));
+    static_cast<void>(m_directory.path(m_name));
 }
 
 RecordWriter::~RecordWriter() {

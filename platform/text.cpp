@@ -86,6 +86,19 @@ int numberFromText(TextView text, TextView what) {
     return value[0] == u'-' ? -number : number;
 }
 
+Text enumerated(std::span<const Text> words) {
+    auto left =
+        std::count_if(words.begin(), words.end(), [](const Text& word) { return !word.empty(); });
+    Text list;
+    for (const Text& word : words) {
+        if (word.empty())
+            continue;
+        --left;
+        list += word + (left == 0 ? u"" : left == 1 ? u" und " : u", ");
+    }
+    return list;
+}
+
 bool sameIgnoringCase(TextView left, TextView right) {
     return std::equal(
         left.begin(), left.end(), right.begin(), right.end(), [](char16_t a, char16_t b) {

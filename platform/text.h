@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,9 @@ Text textFromNumber(int number);
 /// Fails with type-mismatch for anything else and with overflow outside 16 bits;
 /// `what` names the value in the failure's sentence.
 int numberFromText(TextView text, TextView what);
+
+/// "Mats", "Mats und Ida", "Mats, Ida und Zoé"; empty words are left out.
+Text enumerated(std::span<const Text> words);
 
 /// True if both are the same but for the case of Latin letters, umlauts included.
 bool sameIgnoringCase(TextView left, TextView right);

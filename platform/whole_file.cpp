@@ -1,12 +1,11 @@
 #include "platform/whole_file.h"
 
 #include "platform/failure.h"
+#include "platform/path_text.h"
+#include "platform/raw_file.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <cstdio>
-#include <memory>
 #include <optional>
 #include <system_error>
 #include <vector>
@@ -15,67 +14,74 @@ namespace zeugnis {
 namespace fs = std::filesystem;
 namespace {
 
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
+// What stands in the file after a write that failed.
+enum class Aftermath { Untouched, Restored, Lost, Removed };
 
-[[noreturn]] void fail(int error, const Text& shownName, TextView action) {
-    const Text sentence =
-        u"Die Datei „" + shownName + u"“ kann nicht " + Text(action) + u" werden: ";
+TextView aftermathSentence(Aftermath aftermath) {
+    switch (aftermath) {
+    case Aftermath::Untouched:
+        return u" Der bisherige Inhalt ist unverändert.";
+    case Aftermath::Restored:
+        return u" Der bisherige Inhalt wurde wiederhergestellt.";
+    case Aftermath::Lost:
+        return u" Der bisherige Inhalt ließ sich nicht wiederherstellen; prüfen Sie diese Datei.";
+    case Aftermath::Removed:
+        return u" Es wurde keine Datei angelegt.";
+    }
+    return {};
+}
+
+struct Cause {
+    Fehlerart kind;
+    TextView sentence;
+};
+
+Cause causeOf(int error) {
     switch (error) {
     case ENOENT:
-        throw Laufzeitfehler(Fehlerart::FileNotFound, sentence + u"Sie ist nicht vorhanden.");
+        return {Fehlerart::FileNotFound, u"Sie ist nicht vorhanden."};
     case ENOTDIR:
-        throw Laufzeitfehler(Fehlerart::PathNotFound, sentence + u"Der Ordner fehlt.");
+        return {Fehlerart::PathNotFound, u"Der Ordner fehlt."};
     case ENOSPC:
     case EFBIG:
 #ifdef EDQUOT
     case EDQUOT:
 #endif
-        throw Laufzeitfehler(Fehlerart::DiskFull,
-                             sentence + u"Auf dem Datenträger ist kein Platz mehr frei.");
+        return {Fehlerart::DiskFull, u"Auf dem Datenträger ist kein Platz mehr frei."};
     case EISDIR:
-        throw Laufzeitfehler(Fehlerart::AccessDenied,
-                             sentence + u"Unter diesem Namen liegt ein Ordner.");
+        return {Fehlerart::AccessDenied, u"Unter diesem Namen liegt ein Ordner."};
+    case EROFS:
+        return {Fehlerart::AccessDenied, u"Der Datenträger ist schreibgeschützt."};
+    case EACCES:
+    case EPERM:
+    case EBUSY:
+#ifdef ETXTBSY
+    case ETXTBSY:
+#endif
+        return {Fehlerart::AccessDenied,
+                u"Der Zugriff wurde verweigert. Vielleicht ist sie in einem anderen Programm "
+                u"geöffnet, oder der Ordner ist schreibgeschützt."};
+    case EMFILE:
+    case ENFILE:
+        return {Fehlerart::AccessDenied, u"Auf diesem Rechner sind zu viele Dateien geöffnet."};
+    case ENAMETOOLONG:
+        return {Fehlerart::AccessDenied, u"Der Name ist zu lang."};
     default:
-        throw Laufzeitfehler(
-            Fehlerart::AccessDenied,
-            sentence + u"Der Zugriff wurde verweigert. Vielleicht ist sie in einem anderen "
-                       u"Programm geöffnet, oder der Ordner ist schreibgeschützt.");
+        return {Fehlerart::AccessDenied, u"Der Datenträger meldet einen Fehler. Vielleicht ist er "
+                                         u"defekt oder wurde entfernt."};
     }
 }
 
-struct Content {
-    std::string bytes;
-    int error = 0;
-};
-
-Content readFrom(const fs::path& path) {
-    Content content;
-    const File file(std::fopen(path.c_str(), "rb"));
-    if (!file)
-        return {{}, errno};
-    std::array<char, 16384> block{};
-    size_t count = 0;
-    while ((count = std::fread(block.data(), 1, block.size(), file.get())) > 0)
-        content.bytes.append(block.data(), count);
-    if (std::ferror(file.get()) != 0)
-        content.error = errno;
-    return content;
+[[noreturn]] void fail(int error, const Text& shownName, TextView action, TextView after = {}) {
+    const Cause cause = causeOf(error);
+    throw Laufzeitfehler(cause.kind, u"Die Datei „" + shownName + u"“ kann nicht " + Text(action) +
+                                         u" werden: " + Text(cause.sentence) + Text(after));
 }
 
-// 0, or the number of the error. The stream is closed inside, since closing is part of writing.
-int writeTo(const fs::path& path, std::string_view bytes) {
-    File file(std::fopen(path.c_str(), "wb"));
-    if (!file)
-        return errno;
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
-                         std::fflush(file.get()) == 0;
-    int error = written ? 0 : errno;
-    if (std::fclose(file.release()) != 0 && error == 0)
-        error = errno;
-    return error;
+// A second chance for what stood there; the file is there already.
+bool restore(const fs::path& path, std::string_view former) {
+    const raw::Opened opened = raw::openForWriting(path);
+    return opened.error == 0 && raw::replaceContentAndClose(opened.handle, former) == 0;
 }
 
 bool isRegularFile(const fs::path& path) {
@@ -86,29 +92,38 @@ bool isRegularFile(const fs::path& path) {
 } // namespace
 
 bool hasFile(const Arbeitsverzeichnis& directory, TextView name) {
-    return isRegularFile(directory.pfad(name));
+    return isRegularFile(directory.path(name));
 }
 
 std::string readWholeFile(const Arbeitsverzeichnis& directory, TextView name) {
-    Content content = readFrom(directory.pfad(name));
+    raw::Content content = raw::read(directory.path(name));
     if (content.error != 0)
-        fail(content.error, directory.anzeigename(name), u"gelesen");
+        fail(content.error, directory.displayName(name), u"gelesen");
     return std::move(content.bytes);
 }
 
 void writeWholeFile(const Arbeitsverzeichnis& directory, TextView name, std::string_view bytes) {
-    const fs::path path = directory.pfad(name);
+    const fs::path path = directory.path(name);
+    const bool stood = isRegularFile(path);
     std::optional<std::string> former;
-    if (isRegularFile(path))
-        if (Content content = readFrom(path); content.error == 0)
+    if (stood)
+        if (raw::Content content = raw::read(path); content.error == 0)
             former = std::move(content.bytes);
 
-    const int error = writeTo(path, bytes);
-    if (error == 0)
-        return;
-    if (former)
-        writeTo(path, *former);
-    fail(error, directory.anzeigename(name), u"geschrieben");
+    const raw::Opened opened = raw::openForWriting(path);
+    int error = opened.error;
+    Aftermath aftermath = Aftermath::Untouched;
+    if (error == 0) {
+        error = raw::replaceContentAndClose(opened.handle, bytes);
+        if (error == 0)
+            return;
+        if (opened.created)
+            aftermath = raw::remove(path) == 0 ? Aftermath::Removed : Aftermath::Lost;
+        else
+            aftermath = former && restore(path, *former) ? Aftermath::Restored : Aftermath::Lost;
+    }
+    fail(error, directory.displayName(name), u"geschrieben",
+         stood || opened.created ? aftermathSentence(aftermath) : TextView());
 }
 
 void copyWholeFile(const Arbeitsverzeichnis& directory, TextView from, TextView to) {
@@ -118,10 +133,9 @@ void copyWholeFile(const Arbeitsverzeichnis& directory, TextView from, TextView 
 void deleteFilesEndingIn(const Arbeitsverzeichnis& directory, TextView ending) {
     std::error_code ignored;
     std::vector<fs::path> doomed;
-    for (fs::directory_iterator entry(directory.aktuell(), ignored), end; !ignored && entry != end;
+    for (fs::directory_iterator entry(directory.current(), ignored), end; !ignored && entry != end;
          entry.increment(ignored)) {
-        const std::u8string utf8 = entry->path().filename().u8string();
-        const Text name = textFromUtf8(std::string(utf8.begin(), utf8.end()));
+        const Text name = textFromPath(entry->path().filename());
         const size_t stem = name.size() - std::min(name.size(), ending.size());
         if (sameIgnoringCase(TextView(name).substr(stem), ending) && isRegularFile(entry->path()))
             doomed.push_back(entry->path());

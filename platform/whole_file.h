@@ -12,9 +12,10 @@ bool hasFile(const Arbeitsverzeichnis& directory, TextView name);
 /// The bytes of a file. Fails with file-not-found, path-not-found or access-denied.
 std::string readWholeFile(const Arbeitsverzeichnis& directory, TextView name);
 
-/// Puts `bytes` in place of the file's content, in one go and without a temporary file. If the
-/// write fails the former content is put back as far as possible; the failure is then disk-full
-/// or access-denied.
+/// Writes `bytes` over the file's content, then cuts the file to their length and has them put on
+/// the disk; there is no temporary file, and emptying is never the first thing that happens. If
+/// that fails the former content is put back as far as possible and a file that was new is removed
+/// again; the failure, disk-full or access-denied, says which.
 void writeWholeFile(const Arbeitsverzeichnis& directory, TextView name, std::string_view bytes);
 
 /// Copies a file over another. Fails as the two operations above.

@@ -1,6 +1,7 @@
 #include "platform/working_directory.h"
 
 #include "platform/failure.h"
+#include "platform/path_text.h"
 
 #include <optional>
 #include <system_error>
@@ -22,45 +23,59 @@ std::vector<Text> components(TextView name) {
     return parts;
 }
 
-fs::path pathFromText(TextView name) {
-    const std::string utf8 = utf8FromText(name);
-    return fs::path(std::u8string(utf8.begin(), utf8.end()));
+struct Entry {
+    std::optional<fs::path> path = std::nullopt;
+    bool sure =
+        true; ///< without a path: whether there is none, or the folder could not be searched
+};
+
+bool isMissing(const std::error_code& error) {
+    return !error || error == std::errc::no_such_file_or_directory ||
+           error == std::errc::not_a_directory;
 }
 
-Text textFromPath(const fs::path& path) {
-    const std::u8string utf8 = path.u8string();
-    return textFromUtf8(std::string(utf8.begin(), utf8.end()));
-}
-
-std::optional<fs::path> entryIn(const fs::path& folder, TextView name) {
-    std::error_code ignored;
+Entry entryIn(const fs::path& folder, TextView name) {
+    std::error_code failed;
     fs::path exact = folder / pathFromText(name);
-    if (fs::exists(fs::symlink_status(exact, ignored)))
-        return exact;
-    for (fs::directory_iterator entry(folder, ignored), end; !ignored && entry != end;
-         entry.increment(ignored)) {
+    if (fs::exists(fs::symlink_status(exact, failed)))
+        return {std::move(exact)};
+    if (!isMissing(failed))
+        return {.sure = false};
+    fs::directory_iterator entry(folder, failed);
+    for (const fs::directory_iterator end; !failed && entry != end; entry.increment(failed)) {
         if (sameIgnoringCase(textFromPath(entry->path().filename()), name))
-            return entry->path();
+            return {entry->path()};
     }
-    return std::nullopt;
+    return {.sure = isMissing(failed)};
 }
 
-// The folder that a row of names leads to, or nothing if one of them is missing.
-std::optional<fs::path> folderBehind(const fs::path& start, const std::vector<Text>& names,
-                                     size_t count) {
+// The folder that a row of names leads to.
+Entry folderBehind(const fs::path& start, const std::vector<Text>& names, size_t count) {
     fs::path folder = start;
     for (size_t i = 0; i < count; ++i) {
         if (names[i] == u"..") {
             folder = folder.parent_path();
             continue;
         }
-        const std::optional<fs::path> next = entryIn(folder, names[i]);
-        std::error_code ignored;
-        if (!next || !fs::is_directory(*next, ignored))
-            return std::nullopt;
-        folder = *next;
+        const Entry next = entryIn(folder, names[i]);
+        if (!next.path)
+            return next;
+        std::error_code failed;
+        if (!fs::is_directory(*next.path, failed))
+            return {.sure = isMissing(failed)};
+        folder = *next.path;
     }
-    return folder;
+    return {folder};
+}
+
+[[noreturn]] void failWithout(bool sure, const Text& folder) {
+    if (sure)
+        throw Laufzeitfehler(Fehlerart::PathNotFound,
+                             u"Der Ordner " + folder + u" ist nicht vorhanden.");
+    throw Laufzeitfehler(Fehlerart::AccessDenied,
+                         u"Der Ordner " + folder +
+                             u" kann nicht geöffnet werden: Der Zugriff wurde verweigert, oder der "
+                             u"Datenträger meldet einen Fehler.");
 }
 
 } // namespace
@@ -75,28 +90,27 @@ Arbeitsverzeichnis::Arbeitsverzeichnis(const fs::path& programFolder) {
     m_current = m_base;
 }
 
-void Arbeitsverzeichnis::wechseln(TextView folder) {
+void Arbeitsverzeichnis::change(TextView folder) {
     const std::vector<Text> names = components(folder);
-    const std::optional<fs::path> target = folderBehind(m_current, names, names.size());
-    if (!target)
-        throw Laufzeitfehler(Fehlerart::PathNotFound,
-                             u"Der Ordner „" + anzeigename(folder) + u"“ ist nicht vorhanden.");
-    m_current = *target;
+    const Entry target = folderBehind(m_current, names, names.size());
+    if (!target.path)
+        failWithout(target.sure, u"„" + displayName(folder) + u"“");
+    m_current = *target.path;
 }
 
-fs::path Arbeitsverzeichnis::pfad(TextView name) const {
+fs::path Arbeitsverzeichnis::path(TextView name) const {
     const std::vector<Text> names = components(name);
     if (names.empty())
         return m_current;
-    const std::optional<fs::path> folder = folderBehind(m_current, names, names.size() - 1);
-    std::error_code ignored;
-    if (!folder || !fs::is_directory(*folder, ignored))
-        throw Laufzeitfehler(Fehlerart::PathNotFound,
-                             u"Der Ordner zu „" + anzeigename(name) + u"“ ist nicht vorhanden.");
-    return entryIn(*folder, names.back()).value_or(*folder / pathFromText(names.back()));
+    const Entry folder = folderBehind(m_current, names, names.size() - 1);
+    std::error_code failed;
+    if (!folder.path || !fs::is_directory(*folder.path, failed))
+        failWithout(folder.sure && isMissing(failed), u"zu „" + displayName(name) + u"“");
+    return entryIn(*folder.path, names.back())
+        .path.value_or(*folder.path / pathFromText(names.back()));
 }
 
-Text Arbeitsverzeichnis::anzeigename(TextView name) const {
+Text Arbeitsverzeichnis::displayName(TextView name) const {
     Text shown = textFromPath(m_current.lexically_relative(m_base));
     if (shown.empty() || shown == u".")
         shown.clear();

@@ -13,19 +13,19 @@ class Arbeitsverzeichnis {
     /// Starts in the program folder, which must exist.
     explicit Arbeitsverzeichnis(const std::filesystem::path& programFolder);
 
-    /// Fails with path-not-found if the folder does not exist, and then stays where it was.
-    /// "..\" always leads to the folder above.
-    void wechseln(TextView folder);
+    /// Fails with path-not-found if the folder does not exist, with access-denied if that cannot
+    /// be told, and then stays where it was. "..\" always leads to the folder above.
+    void change(TextView folder);
 
     /// The path behind a name. An existing file is found in any case; a new one gets the name as
-    /// it is written. Fails with path-not-found if a folder on the way does not exist.
-    [[nodiscard]] std::filesystem::path pfad(TextView name) const;
+    /// it is written. Fails as change() does if a folder on the way cannot be reached.
+    [[nodiscard]] std::filesystem::path path(TextView name) const;
 
     /// A name as it is shown in a message: with its folder, relative to the program folder.
-    [[nodiscard]] Text anzeigename(TextView name) const;
+    [[nodiscard]] Text displayName(TextView name) const;
 
-    [[nodiscard]] const std::filesystem::path& aktuell() const { return m_current; }
-    [[nodiscard]] const std::filesystem::path& programmordner() const { return m_base; }
+    [[nodiscard]] const std::filesystem::path& current() const { return m_current; }
+    [[nodiscard]] const std::filesystem::path& programFolder() const { return m_base; }
 
   private:
     std::filesystem::path m_base;
@@ -36,10 +36,10 @@ class Arbeitsverzeichnis {
 class Ordnerwechsel {
   public:
     Ordnerwechsel(Arbeitsverzeichnis& directory, TextView folder) : m_directory(directory) {
-        m_directory.wechseln(folder);
+        m_directory.change(folder);
     }
     // The folder above is always there to go to.
-    ~Ordnerwechsel() { m_directory.wechseln(u"..\\"); } // NOLINT(bugprone-exception-escape)
+    ~Ordnerwechsel() { m_directory.change(u"..\\"); } // NOLINT(bugprone-exception-escape)
     Ordnerwechsel(const Ordnerwechsel&) = delete;
     Ordnerwechsel& operator=(const Ordnerwechsel&) = delete;
 

@@ -2,6 +2,7 @@
 
 #include "behaviour/avsv_editor.h"
 #include "behaviour/avsv_entry_screen.h"
+#include "common/screen_names.h"
 #include "controls/program.h"
 #include "editors/editor12.h"
 #include "editors/editor34.h"
@@ -9,7 +10,6 @@
 #include "review/insertion_window.h"
 #include "review/review_screen.h"
 #include "shell/lists.h"
-#include "shell/screen_names.h"
 #include "shell/start_page.h"
 #include "years12/entry_screen.h"
 #include "years34/entry_screen.h"

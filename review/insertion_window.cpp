@@ -1,14 +1,14 @@
 #include "review/insertion_window.h"
 
+#include "common/screen_names.h"
+#include "common/text_input.h"
 #include "controls/program.h"
+#include "files/insertion_files.h"
 #include "platform/code_page.h"
-#include "platform/record_reader.h"
-#include "platform/record_writer.h"
-#include "shell/file_catalogue.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
 
+#include <array>
 #include <span>
+#include <utility>
 
 namespace zeugnis {
 namespace {
@@ -48,10 +48,10 @@ Einfuegungen::Einfuegungen(Programm& programm)
 }
 
 void Einfuegungen::load() {
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
     PlatzhalterLesen();
     Check1.setValue(true);
-    AktivForm = RecordReader(programm().verzeichnis(), dateien::AktivForm).integer();
+    AktivForm = AktivFormLesen(programm().directory());
     if (dientEingabe())
         TexteLesen();
     else if (AktivForm == FuerEditorAVSV || AktivForm == FuerEditorJahrgang)
@@ -64,17 +64,17 @@ void Einfuegungen::load() {
 }
 
 void Einfuegungen::PlatzhalterLesen() {
-    readNumberedRecords(programm().verzeichnis(), dateien::Platzhalter, PlatzhalterTexte.size(),
+    readNumberedRecords(programm().directory(), dateien::Platzhalter, PlatzhalterTexte.size(),
                         [&](RecordReader& reader, int zeile, int) {
-                            PlatzhalterTexte[zeile] = reader.text();
-                            PlatzhalterHinweise[zeile] = reader.text();
+                            Platzhaltersatz satz = PlatzhaltersatzLesen(reader);
+                            PlatzhalterTexte[zeile] = std::move(satz.Platzhalter);
+                            PlatzhalterHinweise[zeile] = std::move(satz.Hinweis);
                         });
 }
 
 void Einfuegungen::TexteLesen() {
-    RecordReader reader(programm().verzeichnis(), dateiFuer(AktivForm));
-    while (!reader.atEnd())
-        List1.addItem(reader.text());
+    for (const Text& text : EinfuegetexteLesen(programm().directory(), dateiFuer(AktivForm)))
+        List1.addItem(text);
     Command1.each([](Button& taste) { taste.Visible = true; });
 }
 
@@ -130,9 +130,9 @@ void Einfuegungen::MarkiertenLoeschen() {
 
 void Einfuegungen::AlleLoeschen() {
     List1.clear();
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
-    RecordWriter writer(programm().verzeichnis(), dateiFuer(AktivForm));
-    writer.record(LeereListe).close();
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
+    EinfuegetexteSchreiben(programm().directory(), dateiFuer(AktivForm),
+                           std::array{Text(LeereListe)});
 }
 
 void Einfuegungen::NeuenEingeben() {
@@ -149,11 +149,8 @@ void Einfuegungen::NeuenEingeben() {
 }
 
 void Einfuegungen::ListeSchreiben() {
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
-    RecordWriter writer(programm().verzeichnis(), dateiFuer(AktivForm));
-    for (const Text& eintrag : List1.entries())
-        writer.record(eintrag);
-    writer.close();
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
+    EinfuegetexteSchreiben(programm().directory(), dateiFuer(AktivForm), List1.entries());
 }
 
 } // namespace zeugnis

@@ -1,10 +1,10 @@
 #include "review/review_screen.h"
 
+#include "common/screen_names.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "masterdata/pupil_records.h"
-#include "shell/file_catalogue.h"
-#include "shell/screen_names.h"
-#include "shell/word_launch.h"
+#include "files/file_catalogue.h"
+#include "files/pupil_records.h"
 
 #include <algorithm>
 #include <array>
@@ -29,7 +29,7 @@ struct Abschnitt {
     TextView Ueberschrift; ///< empty where it goes by year
 };
 // In the order of the text.
-constexpr std::array<Abschnitt, GsAnzeige::Abschnittszahl> Abschnitte = {{
+constexpr std::array<Abschnitt, GsAnzeige::Abschnittszahl> Abschnitte = std::to_array<Abschnitt>({
     {0, u"Arbeitsverhalten:"},
     {1, u"Sozialverhalten:"},
     {Interessen, {}},
@@ -41,12 +41,12 @@ constexpr std::array<Abschnitt, GsAnzeige::Abschnittszahl> Abschnitte = {{
     {8, u"Raum und Form:"},
     {FoerderAG, u"Förder und Arbeitsgemeinschaften:"},
     {9, u"Bemerkungen:"},
-}};
+});
 
 // Which box the texts of a store belong to, in the order of its fields.
-constexpr std::array BoxenAVSV = {0, 1};
-constexpr std::array Boxen12 = {Interessen, 3, 4, 5, 6, 7, 8, 9};
-constexpr std::array Boxen34 = {FoerderAG, Interessen, 9};
+constexpr std::array<int, AbschnitteAVSV> BoxenAVSV = std::to_array({0, 1});
+constexpr std::array<int, Abschnitte12> Boxen12 = std::to_array({Interessen, 3, 4, 5, 6, 7, 8, 9});
+constexpr std::array<int, Abschnitte34> Boxen34 = std::to_array({FoerderAG, Interessen, 9});
 
 Text trennlinie() { return Text(Linienlaenge, u'_'); }
 
@@ -99,7 +99,7 @@ void GsAnzeige::AnzeigeLaden() {
 }
 
 void GsAnzeige::TexteLesen() {
-    Arbeitsverzeichnis& verzeichnis = programm().verzeichnis();
+    Arbeitsverzeichnis& verzeichnis = programm().directory();
     {
         const Ordnerwechsel in(verzeichnis, dateien::Daten);
         Schule = BasisdatenLesen(verzeichnis, GeleseneBasisfelder);
@@ -108,17 +108,18 @@ void GsAnzeige::TexteLesen() {
     Jahrgang = numberFromText(Liste.Klasse.substr(0, 1), u"Das erste Zeichen der Klasse");
 
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
-    const auto lesen = [&](TextView datei, std::span<const int> boxen) {
-        JeSchuelerLesen(verzeichnis, datei, [&](RecordReader& reader, int platz) {
-            for (const int box : boxen)
-                Texte[box][platz] = reader.text();
-        });
+    const auto lesen = [&](const Speicherdatei& datei, std::span<const int> boxen) {
+        JeSchuelerLesen(verzeichnis, datei,
+                        [&](RecordReader& reader, int platz, const Schuelerkopf&) {
+                            for (const int box : boxen)
+                                Texte[box][platz] = reader.text();
+                        });
     };
-    lesen(dateien::AVSVspeicher, BoxenAVSV);
+    lesen(speicherdateien::AVSVTexte, BoxenAVSV);
     if (istUnten())
-        lesen(dateien::Speicher12, Boxen12);
+        lesen(speicherdateien::Texte12, Boxen12);
     else
-        lesen(dateien::Speicher34, Boxen34);
+        lesen(speicherdateien::Texte34, Boxen34);
     Check1(FoerderAG).Visible = !istUnten();
     if (istUnten())
         return;
@@ -146,7 +147,7 @@ void GsAnzeige::Command1_Click(int Index) {
         TextInZwischenablage();
         WordStarten(programm(), Text(word::Anzeigetext));
     } else {
-        programm().entladen(name());
+        programm().unload(name());
     }
 }
 

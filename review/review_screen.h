@@ -3,8 +3,8 @@
 #include "controls/control_array.h"
 #include "controls/screen.h"
 #include "controls/text_box.h"
-#include "masterdata/pupil_list.h"
-#include "masterdata/school_data.h"
+#include "files/pupil_list.h"
+#include "files/school_data.h"
 
 #include <vector>
 

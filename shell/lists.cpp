@@ -1,8 +1,8 @@
 #include "shell/lists.h"
 
+#include "common/screen_names.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "shell/screen_names.h"
-#include "shell/word_launch.h"
 
 #include <array>
 
@@ -38,7 +38,7 @@ Listen::Listen(Programm& programm)
 void Listen::Command1_Click(int Index) {
     const Taste& taste = Listentasten[static_cast<size_t>(Index)];
     if (taste.Befehl.empty())
-        programm().entladen(name());
+        programm().unload(name());
     else
         WordStarten(programm(), Text(taste.Befehl));
 }

@@ -1,12 +1,14 @@
 #include "shell/start_page.h"
 
+#include "common/screen_names.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
+#include "files/file_catalogue.h"
+#include "files/insertion_files.h"
+#include "files/pupil_list.h"
 #include "platform/failure.h"
 #include "platform/record_reader.h"
 #include "platform/record_writer.h"
-#include "shell/file_catalogue.h"
-#include "shell/screen_names.h"
-#include "shell/word_launch.h"
 
 #include <array>
 #include <span>
@@ -123,7 +125,7 @@ void GsStart::HandlerVerbinden() {
 void GsStart::StartseiteLaden() {
     // The design picture; it stays empty if it cannot be shown.
     try {
-        const Ordnerwechsel in(programm().verzeichnis(), dateien::Bild);
+        const Ordnerwechsel in(programm().directory(), dateien::Bild);
         Picture1.load(Text(dateien::Kopfbild1));
     } catch (const Laufzeitfehler&) { // NOLINT(bugprone-empty-catch)
     }
@@ -148,33 +150,28 @@ void GsStart::StartseiteLaden() {
 }
 
 void GsStart::DatenLaden() {
-    Arbeitsverzeichnis& verzeichnis = programm().verzeichnis();
+    Arbeitsverzeichnis& verzeichnis = programm().directory();
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
     Schule = BasisdatenLesen(verzeichnis, BasisdatenFelder);
-    RecordReader namen(verzeichnis, dateien::Namen);
-    while (!namen.atEnd()) {
-        namen.skip(1);
-        Klasse = namen.text();
-        namen.skip(9);
-    }
+    Klasse = KlasseLesen(verzeichnis);
 }
 
 void GsStart::LehrerbildLaden() {
-    Arbeitsverzeichnis& verzeichnis = programm().verzeichnis();
+    Arbeitsverzeichnis& verzeichnis = programm().directory();
     Bildname = Schule.Klassenleitung + u".jpg";
     try {
-        verzeichnis.wechseln(dateien::Bild);
+        verzeichnis.change(dateien::Bild);
         Picture2.load(Bildname);
     } catch (const Laufzeitfehler&) {
         Bildname = dateien::Lehrerbild;
         Picture2.load(Bildname);
     }
-    verzeichnis.wechseln(u"..\\");
+    verzeichnis.change(u"..\\");
 }
 
 void GsStart::BildWechseln() {
     {
-        const Ordnerwechsel in(programm().verzeichnis(), dateien::Bild);
+        const Ordnerwechsel in(programm().directory(), dateien::Bild);
         Picture1.load(Bildname);
     }
     if (Bildname == dateien::Kopfbild1)
@@ -190,28 +187,24 @@ void GsStart::HalbjahrBerichtigen() {
     if (halbjahr != 1 || Jahrgang != 1)
         return;
     Schule.Halbjahr = u"2";
-    BasisdatenSchreiben(programm().verzeichnis(), Schule);
+    BasisdatenSchreiben(programm().directory(), Schule);
 }
 
 void GsStart::Command1_Click(int Index) {
     AktiverKnopf = Index;
-    {
-        RecordWriter aktiv(programm().verzeichnis(),
-                           Text(dateien::Daten) + u"\\" + Text(dateien::AktivForm));
-        aktiv.record(Index).close();
-    }
+    AktivFormSchreiben(programm().directory(), Index);
     if (Index == Programmende) {
-        programm().entladen(bildschirme::Listen);
-        programm().beenden();
+        programm().unload(bildschirme::Listen);
+        programm().end();
         return;
     }
     const Ziel& ziel = Ziele[static_cast<size_t>(Index)];
     for (const TextView bildschirm : Inhaltsbildschirme)
         if (Index < ErsterEditor || !ziel.bleibtGeladen(bildschirm))
-            programm().entladen(bildschirm);
-    programm().zeigen(Jahrgang < 3 ? ziel.Unten : ziel.Oben);
+            programm().unload(bildschirm);
+    programm().show(Jahrgang < 3 ? ziel.Unten : ziel.Oben);
     if (ziel.MitEinfuegungen)
-        programm().laden(bildschirme::Einfuegungen);
+        programm().load(bildschirme::Einfuegungen);
 }
 
 void GsStart::AnsichtZeigen(bool werkzeugkiste) {
@@ -264,7 +257,7 @@ void GsStart::Command6_Click() {
     WordStarten(programm(), word::Klassendokument(Klasse, u"Zeugnisse", Jahrgang, Schule.Halbjahr));
 }
 
-void GsStart::Command7_Click() { programm().zeigen(bildschirme::Listen); }
+void GsStart::Command7_Click() { programm().show(bildschirme::Listen); }
 
 void GsStart::Command8_Click() { WordStarten(programm(), word::Hilfe(1)); }
 

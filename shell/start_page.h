@@ -2,7 +2,7 @@
 
 #include "controls/control_array.h"
 #include "controls/screen.h"
-#include "masterdata/school_data.h"
+#include "files/school_data.h"
 
 namespace zeugnis {
 

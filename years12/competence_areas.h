@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
+#include "files/section_stores.h"
 #include "platform/table.h"
 #include "years12/module_files.h"
 
@@ -36,27 +37,27 @@ struct Bereich {
     bool Getrimmt; ///< the text loses its outer blanks before it is expanded
 };
 
-inline constexpr int Bereichszahl = 8;
+inline constexpr int Bereichszahl = Abschnitte12;
 inline constexpr int SeiteInteressen = 0;
-inline constexpr int SeiteBemerkungen = 7;
+inline constexpr int SeiteBemerkungen = Bereichszahl - 1;
 
-inline constexpr std::array<Bereich, Bereichszahl> Bereiche = {{
+inline constexpr std::array<Bereich, Bereichszahl> Bereiche = std::to_array<Bereich>({
     {u"Interessen, Fähigkeiten, Fertigkeiten", u"Interessen",
      u"Eintragungen für Interessen, Fähigkeiten und Fertigkeiten", 0, 0, 0, false},
-    {u"Sprechen und Zuhören", u"Deutsch Sprechen Zuhören",
+    {Kompetenzbereiche[0], u"Deutsch Sprechen Zuhören",
      u"Eintragungen zu den Kompetenzen Sprechen und Zuhören", 1, 1, 3, false},
-    {u"Lesen und mit Texten umgehen", u"Deutsch Lesen Texte",
+    {Kompetenzbereiche[1], u"Deutsch Lesen Texte",
      u"Eintragungen zu den Kompetenzen Lesen und mit Texten umgehen", 2, 1, 3, true},
-    {u"Schreiben, Texte verfassen", u"Deutsch Schreiben Texte",
+    {Kompetenzbereiche[2], u"Deutsch Schreiben Texte",
      u"Eintragungen zu den Kompetenzen Schreiben und Texte verfassen", 3, 1, 3, false},
-    {u"Zahlen und Operationen", u"Mathe Zahlen Operationen",
+    {Kompetenzbereiche[3], u"Mathe Zahlen Operationen",
      u"Eintragungen zu den Kompetenzen  Zahlen und Operationen", 4, 4, 6, false},
-    {u"Größen und Messen", u"Mathe Größen Messen",
+    {Kompetenzbereiche[4], u"Mathe Größen Messen",
      u"Eintragungen zu den Kompetenzen Größen und Messen", 1, 4, 6, false},
-    {u"Raum und Form", u"Mathe Raum Form", u"Eintragungen zu den Kompetenzen Raum und Form", 2, 4,
-     6, false},
+    {Kompetenzbereiche[5], u"Mathe Raum Form", u"Eintragungen zu den Kompetenzen Raum und Form", 2,
+     4, 6, false},
     {u"Bemerkungen", u"Bemerkungen", u"Eintragungen für die Zeugnisbemerkungen", 7, 7, 7, false},
-}};
+});
 
 constexpr const Bereich& bereich(int nummer) { return Bereiche.at(static_cast<size_t>(nummer)); }
 

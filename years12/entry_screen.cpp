@@ -2,12 +2,12 @@
 
 #include "years12/entry_screen.h"
 
+#include "common/ag_sentence.h"
+#include "common/entry_common.h"
+#include "common/screen_names.h"
+#include "common/text_input.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "shell/ag_sentence.h"
-#include "shell/entry_common.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
-#include "shell/word_launch.h"
 
 #include <algorithm>
 
@@ -32,21 +32,21 @@ void Kompetenzen::load() {
     Command3.BackColor = farbe(farben::Verlassen);
     NamenEintragen();
     Jahrgang = Liste.Klasse.substr(0, 1);
-    Bausteine = BausteineLaden(programm().verzeichnis(), Jahrgang);
-    SpeicherLaden(programm().verzeichnis(), Speicher);
+    Bausteine = BausteineLaden(programm().directory(), Jahrgang);
+    SpeicherLaden(programm().directory(), Speicher);
     TexteAnzeigen();
     Label2.Caption = Liste.Klasse;
 }
 
 void Kompetenzen::NamenEintragen() {
-    Liste = NamenLaden(programm().verzeichnis());
+    Liste = NamenLaden(programm().directory());
     for (int i = 0; i < Liste.Schuelerzahl; ++i)
         Combo1.addItem(Liste.Kinder[i].Nachname + u",  " + Liste.Kinder[i].Vorname);
     AGNamenAnfuehren(Liste);
 }
 
 void Kompetenzen::AlleSpeichern() {
-    SpeicherSchreiben(programm().verzeichnis(), Liste, Speicher,
+    SpeicherSchreiben(programm().directory(), Liste, Speicher,
                       programm().machine().calendar.today());
     Gespeichert = true;
 }
@@ -123,9 +123,7 @@ void Kompetenzen::Command3_Click() {
         Gespeichert = true;
     if (!Gespeichert)
         SpeichernFragen();
-    Programm& laufendes = programm();
-    laufendes.entladen(name());
-    laufendes.entladen(bildschirme::Einfuegungen);
+    MitEinfuegungenVerlassen(*this);
 }
 
 void Kompetenzen::Command4_Click() {

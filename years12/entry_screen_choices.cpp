@@ -1,7 +1,8 @@
 // Choosing, composing and clearing.
 
-#include "shell/ag_sentence.h"
-#include "shell/entry_common.h"
+#include "common/ag_sentence.h"
+#include "common/entry_common.h"
+#include "common/interests_text.h"
 #include "years12/entry_screen.h"
 #include "years12/interests_remarks.h"
 

@@ -1,7 +1,7 @@
 // What stands on the screen before it loads, and which routine answers which event.
 
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
+#include "common/screen_names.h"
+#include "common/text_input.h"
 #include "years12/entry_screen.h"
 
 namespace zeugnis {

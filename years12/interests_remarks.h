@@ -10,9 +10,6 @@ namespace zeugnis::jahrgang12 {
 /// "Lena liest gern." Choice 0 is the one for no entry and gives no sentence.
 Text InteressensatzBilden(const Text& vorname, int wahl, const Text& beschriftung);
 
-/// The interests and, on a new line, the badges.
-Text InteressenVerbinden(const Text& interessensatz, const Text& sporttext);
-
 /// What area 7 is composed of. All but the inscriptions are part texts.
 struct Bemerkungsteile {
     Text AGSatz;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "masterdata/school_data.h"
-#include "platform/text.h"
-#include "platform/working_directory.h"
-#include "shell/module_table.h"
+#include "files/module_files.h"
+#include "files/school_data.h"
 
 #include <array>
 #include <vector>
@@ -23,24 +21,12 @@ enum class Datei {
     Zwischentexte
 };
 
-struct Bausteindatei {
-    TextView Stamm;
-    bool JeJahrgang; ///< the year, 1 or 2, stands behind the stem
-    int Spalten;
-    int Zeilen; ///< rows that there is room for; a record behind them fails
-};
-
-inline constexpr std::array<Bausteindatei, 9> Bausteindateien = {{
-    {u"Interessen12", false, 1, 19},
-    {u"Sprechen", true, 3, 11},
-    {u"Lesen", true, 6, 11},
-    {u"Schreiben", true, 6, 11},
-    {u"Mathe", true, 18, 11},
-    {u"Bemerkungen", true, 3, 11},
-    {u"Versetzung", true, 1, 11},
-    {u"Sportusw", false, 1, 11},
-    {u"Zwischentexte", false, 1, 26},
-}};
+/// By `Datei`.
+inline constexpr auto Bausteindateien = std::to_array<Moduldatei>(
+    {moduldateien::Interessen12, moduldateien::Sprechen, moduldateien::Lesen,
+     moduldateien::Schreiben, moduldateien::Mathe, moduldateien::Bemerkungen12,
+     moduldateien::Versetzung12, moduldateien::Sport12, moduldateien::Zwischentexte});
+static_assert(Bausteindateien.size() == static_cast<size_t>(Datei::Zwischentexte) + 1);
 
 /// The modules of one year, and what the placeholders need of the school data.
 class Bausteine {

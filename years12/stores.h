@@ -1,6 +1,6 @@
 #pragma once
 
-#include "masterdata/pupil_list.h"
+#include "files/pupil_list.h"
 #include "years12/competence_areas.h"
 
 namespace zeugnis::jahrgang12 {

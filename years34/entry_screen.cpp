@@ -1,11 +1,11 @@
 #include "years34/entry_screen.h"
 
+#include "common/ag_sentence.h"
+#include "common/screen_names.h"
+#include "common/text_input.h"
+#include "common/word_launch.h"
 #include "controls/program.h"
-#include "shell/ag_sentence.h"
-#include "shell/file_catalogue.h"
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
-#include "shell/word_launch.h"
+#include "files/file_catalogue.h"
 #include "years34/colours.h"
 
 namespace zeugnis {
@@ -33,18 +33,18 @@ void GSAGFI::load() {
     Label5.Caption = Liste.Klasse;
     Command1(1).BackColor = farben::Verlassen;
     Command1(1).Enabled = true;
-    Bausteine = TextbausteineLaden(programm().verzeichnis(), Jahrgang);
+    Bausteine = TextbausteineLaden(programm().directory(), Jahrgang);
     BeschriftungenSetzen();
-    Speicher = TexteEinlesen(programm().verzeichnis());
+    Speicher = TexteEinlesen(programm().directory());
     Gespeichert = true;
     TexteAnzeigen();
 }
 
 void GSAGFI::NamenEinlesen() {
-    Liste = NamenLaden(programm().verzeichnis());
+    Liste = NamenLaden(programm().directory());
     Letzte = Liste.Schuelerzahl;
-    const Ordnerwechsel in(programm().verzeichnis(), dateien::Daten);
-    Schule = BasisdatenLesen(programm().verzeichnis(), FelderDerSchule);
+    const Ordnerwechsel in(programm().directory(), dateien::Daten);
+    Schule = BasisdatenLesen(programm().directory(), FelderDerSchule);
     for (int i = 0; i < Liste.Schuelerzahl; ++i)
         Combo1.addItem(Liste.Kinder[i].Nachname + u",  " + Liste.Kinder[i].Vorname);
     AGNamenAnfuehren(Liste);
@@ -108,8 +108,7 @@ void GSAGFI::Command1_Click(int Index) {
 }
 
 void GSAGFI::AllesSpeichern() {
-    TexteSpeichern(programm().verzeichnis(), Liste, Speicher,
-                   programm().machine().calendar.today());
+    TexteSpeichern(programm().directory(), Liste, Speicher, programm().machine().calendar.today());
     Gespeichert = true;
 }
 
@@ -128,10 +127,8 @@ void GSAGFI::Beenden() {
     BereichEingabenLeeren();
     SchuelerEingabenLeeren();
     AuswahlFarbenZeigen();
-    Programm& laufendes = programm();
-    laufendes.laden(bildschirme::GsStart);
-    laufendes.entladen(name());
-    laufendes.entladen(bildschirme::Einfuegungen);
+    programm().load(bildschirme::GsStart);
+    MitEinfuegungenVerlassen(*this);
 }
 
 void GSAGFI::EingabeNeu() {

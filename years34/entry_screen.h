@@ -1,12 +1,12 @@
 #pragma once
 
+#include "common/entry_common.h"
 #include "controls/control_array.h"
 #include "controls/list_controls.h"
 #include "controls/screen.h"
 #include "controls/text_box.h"
-#include "masterdata/pupil_list.h"
-#include "masterdata/school_data.h"
-#include "shell/entry_common.h"
+#include "files/pupil_list.h"
+#include "files/school_data.h"
 #include "years34/module_files.h"
 #include "years34/stores.h"
 

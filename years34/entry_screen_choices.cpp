@@ -2,6 +2,7 @@
 
 #include "years34/entry_screen.h"
 
+#include "common/interests_text.h"
 #include "years34/colours.h"
 #include "years34/foerder_ag.h"
 #include "years34/interests_remarks.h"

@@ -1,8 +1,8 @@
 // What stands on the screen before and after it has loaded its modules, and which routine answers
 // which event.
 
-#include "shell/screen_names.h"
-#include "shell/text_input.h"
+#include "common/screen_names.h"
+#include "common/text_input.h"
 #include "years34/entry_screen.h"
 
 namespace zeugnis {

@@ -29,11 +29,6 @@ Text InteressenSatzBilden(const Text& vorname, const Text& interesse) {
     return vorname + u" " + interesse + u".";
 }
 
-Text InteressenVerbinden(const Text& interessenSatz, const Text& sportSatz) {
-    const bool beide = !interessenSatz.empty() && !sportSatz.empty();
-    return interessenSatz + Text(beide ? Zeilenende : u"") + sportSatz;
-}
-
 Text ZensurSatzBilden(const Zensurwahl& wahl, const std::array<Text, Zensuren>& namen,
                       const Text& anfang, const Text& schluss) {
     const auto* zeile = std::find_if(Zensurzeilen.begin(), Zensurzeilen.end(),

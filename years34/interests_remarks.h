@@ -13,9 +13,6 @@ inline constexpr TextView KeinEintrag = u"Kein Eintrag";
 /// "Lena malt gern."
 Text InteressenSatzBilden(const Text& vorname, const Text& interesse);
 
-/// The interests and, on a line of its own, the badges.
-Text InteressenVerbinden(const Text& interessenSatz, const Text& sportSatz);
-
 inline constexpr int Zensuren = 3;
 
 /// Which marks differ, by box.

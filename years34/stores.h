@@ -1,6 +1,7 @@
 #pragma once
 
-#include "masterdata/pupil_list.h"
+#include "files/pupil_list.h"
+#include "files/section_stores.h"
 
 namespace zeugnis::jahrgang34 {
 
@@ -8,7 +9,7 @@ namespace zeugnis::jahrgang34 {
 inline constexpr int SeiteFoerder = 0;
 inline constexpr int SeiteInteressen = 1;
 inline constexpr int SeiteBemerkungen = 2;
-inline constexpr int Seitenzahl = 3;
+inline constexpr int Seitenzahl = Abschnitte34;
 
 template <typename T>
 using Seitentabelle = Tabelle<T, Seitenzahl>;

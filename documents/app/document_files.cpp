@@ -43,7 +43,7 @@ struct Vorstand {
 };
 
 Vorstand vorstandLesen(const Arbeitsverzeichnis& verzeichnis, const Text& name) {
-    const fs::path pfad = verzeichnis.pfad(name);
+    const fs::path pfad = verzeichnis.path(name);
     if (!vorhanden(pfad))
         return {};
     return {.Inhalt = readWholeFile(verzeichnis, name), .Zeit = fs::last_write_time(pfad)};
@@ -83,9 +83,9 @@ class Ruecknahme {
 } // namespace
 
 Dokumentdateien DokumentdateienZu(const Arbeitsverzeichnis& verzeichnis, const Text& stamm) {
-    return {.Name = verzeichnis.anzeigename(stamm + u".doc"),
-            .Doc = verzeichnis.pfad(stamm + u".doc"),
-            .Pdf = verzeichnis.pfad(stamm + u".pdf")};
+    return {.Name = verzeichnis.displayName(stamm + u".doc"),
+            .Doc = verzeichnis.path(stamm + u".doc"),
+            .Pdf = verzeichnis.path(stamm + u".pdf")};
 }
 
 bool IstBearbeitet(const Dokumentdateien& dateien) {
@@ -103,7 +103,7 @@ Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const D
     abbruchPruefen(abbruch);
     Vorstand vorher = vorstandLesen(verzeichnis, stamm + u".doc");
     writeWholeFile(verzeichnis, stamm + u".doc", rtf);
-    Ruecknahme doc(verzeichnis.pfad(stamm + u".doc"), std::move(vorher));
+    Ruecknahme doc(verzeichnis.path(stamm + u".doc"), std::move(vorher));
     writeWholeFile(verzeichnis, stamm + u".pdf", pdf);
     doc.gelungen();
     return DokumentdateienZu(verzeichnis, stamm);

@@ -1,8 +1,8 @@
 #include "documents/app/pupil_picture.h"
 
-#include "documents/pdf/qt_text.h"
+#include "files/file_catalogue.h"
 #include "platform/failure.h"
-#include "shell/file_catalogue.h"
+#include "toolkit/qt_text.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -36,7 +36,7 @@ QImage gelesen(const std::filesystem::path& pfad) {
 std::optional<Image> KinderbildLesen(const Arbeitsverzeichnis& verzeichnis, const Text& datei) {
     std::filesystem::path pfad;
     try {
-        pfad = verzeichnis.pfad(Text(dateien::Bild) + u"\\" + datei);
+        pfad = verzeichnis.path(Text(dateien::Bild) + u"\\" + datei);
     } catch (const Laufzeitfehler&) {
         return std::nullopt; // the folder is missing
     }

@@ -17,7 +17,7 @@ Listenstand ListeBereitstellen(Arbeitsverzeichnis& verzeichnis, bool neu) {
     Listenstand stand =
         neu ? ZeugnislisteNeuBeginnen(verzeichnis, heute) : ZeugnislisteOeffnen(verzeichnis, heute);
     std::error_code ignored;
-    if (neu || !fs::exists(verzeichnis.pfad(Listenstamm(stand.Stamm) + u".doc"), ignored))
+    if (neu || !fs::exists(verzeichnis.path(Listenstamm(stand.Stamm) + u".doc"), ignored))
         ListendokumentSchreiben(verzeichnis, stand);
     return stand;
 }

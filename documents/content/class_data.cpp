@@ -1,9 +1,6 @@
 #include "documents/content/class_data.h"
 
-#include "masterdata/pupil_records.h"
 #include "platform/failure.h"
-#include "platform/record_reader.h"
-#include "shell/file_catalogue.h"
 
 namespace zeugnis::dokumente {
 namespace {
@@ -38,33 +35,37 @@ Text Klassenstamm(const Stammdaten& daten, TextView art) {
     return daten.Liste.Klasse + Text(art) + textFromNumber(daten.Jahrgang) + daten.Halbjahr;
 }
 
-AVSVSpeicher AVSVTexteLesen(Arbeitsverzeichnis& verzeichnis, const Namensliste& liste) {
-    AVSVSpeicher speicher;
-    if (!SpeicherLaden(verzeichnis, liste, speicher))
+Abschnittstexte AVSVTexteLesen(Arbeitsverzeichnis& verzeichnis, const Namensliste& liste) {
+    Abschnittstexte texte(AbschnitteAVSV);
+    const Ordnerwechsel in(verzeichnis, dateien::Daten);
+    const bool stimmt = JeSchuelerAbgleichen(verzeichnis, speicherdateien::AVSVTexte, liste,
+                                             [&](RecordReader& reader, int platz) {
+                                                 for (Schuelertabelle<Text>& abschnitt : texte)
+                                                     abschnitt[platz] = reader.text();
+                                             });
+    if (!stimmt)
         throw fremdeTexte(u"Arbeits- und Sozialverhalten",
                           u" Öffnen Sie im Zeugnisprogramm „Arbeits- und Sozialverhalten "
                           u"erstellen“; dort werden Sie gefragt, wie es weitergehen soll.");
-    return speicher;
+    return texte;
 }
 
-Bereichstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten) {
+Abschnittstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten) {
     const bool istUnten = daten.Jahrgang < 3;
-    Bereichstexte texte(static_cast<size_t>(istUnten ? Bereiche12 : Bereiche34));
+    const Speicherdatei& datei = istUnten ? speicherdateien::Texte12 : speicherdateien::Texte34;
+    Abschnittstexte texte(static_cast<size_t>(datei.Texte));
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
-    RecordReader reader(verzeichnis, istUnten ? dateien::Speicher12 : dateien::Speicher34);
-    for (int platz = 0; !reader.atEnd(); ++platz) {
-        PlatzPruefen(reader, platz);
-        reader.skip(2);
-        const Schueler& kind = daten.Liste.Kinder[platz];
-        // The store itself goes by place alone, so a changed class list would show only here.
-        const bool stimmt = reader.text() == kind.Nachname && reader.text() == kind.Vorname;
-        if (!stimmt)
-            throw fremdeTexte(istUnten ? u"Zeugnis der Jahrgänge 1 und 2"
-                                       : u"Zeugnis der Jahrgänge 3 und 4",
-                              u" Speichern Sie im Zeugnisprogramm die Stammdaten neu.");
-        for (Schuelertabelle<Text>& bereich : texte)
-            bereich[platz] = reader.text();
-    }
+    JeSchuelerLesen(
+        verzeichnis, datei, [&](RecordReader& reader, int platz, const Schuelerkopf& kopf) {
+            const Schueler& kind = daten.Liste.Kinder[platz];
+            // The store itself goes by place alone, so a changed class list would show only here.
+            if (kopf.Nachname != kind.Nachname || kopf.Vorname != kind.Vorname)
+                throw fremdeTexte(istUnten ? u"Zeugnis der Jahrgänge 1 und 2"
+                                           : u"Zeugnis der Jahrgänge 3 und 4",
+                                  u" Speichern Sie im Zeugnisprogramm die Stammdaten neu.");
+            for (Schuelertabelle<Text>& abschnitt : texte)
+                abschnitt[platz] = reader.text();
+        });
     return texte;
 }
 

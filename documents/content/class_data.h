@@ -1,7 +1,7 @@
 #pragma once
 
-#include "behaviour/avsv_stores.h"
-#include "masterdata/school_data.h"
+#include "files/pupil_records.h"
+#include "files/school_data.h"
 
 #include <vector>
 
@@ -22,16 +22,14 @@ Stammdaten StammdatenLesen(Arbeitsverzeichnis& verzeichnis);
 /// The name of a class document without its extension: "3a" + "Zeugnisse" + "3" + "2".
 Text Klassenstamm(const Stammdaten& daten, TextView art);
 
+/// Texts by section, in the order of their store, and by child.
+using Abschnittstexte = std::vector<Schuelertabelle<Text>>;
+
 /// The texts on work and social behaviour. Fails with invalid-call if they are those of another
 /// class list: a child must never get the text of another.
-AVSVSpeicher AVSVTexteLesen(Arbeitsverzeichnis& verzeichnis, const Namensliste& liste);
+Abschnittstexte AVSVTexteLesen(Arbeitsverzeichnis& verzeichnis, const Namensliste& liste);
 
-/// The sections that only one of the two pairs of years has, as its store keeps them.
-inline constexpr int Bereiche12 = 8;
-inline constexpr int Bereiche34 = 3;
-
-/// Their texts by section and child. Fails with invalid-call as AVSVTexteLesen does.
-using Bereichstexte = std::vector<Schuelertabelle<Text>>;
-Bereichstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten);
+/// Those of the sections that only this pair of years has. Fails likewise.
+Abschnittstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten);
 
 } // namespace zeugnis::dokumente

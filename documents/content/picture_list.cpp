@@ -2,9 +2,9 @@
 
 #include "documents/content/list_frame.h"
 #include "documents/content/wording.h"
+#include "files/file_catalogue.h"
 #include "platform/failure.h"
 #include "platform/record_reader.h"
-#include "shell/file_catalogue.h"
 
 #include <array>
 

@@ -2,9 +2,9 @@
 
 #include "documents/content/report_frame.h"
 #include "documents/content/wording.h"
+#include "files/insertion_files.h"
 #include "platform/record_reader.h"
 #include "platform/whole_file.h"
-#include "shell/file_catalogue.h"
 
 #include <algorithm>
 #include <array>
@@ -96,8 +96,8 @@ void ohneText(const Pruefling& pruefling, Befunde& befunde) {
         befunde.push_back(
             {pruefling.Platz, pruefling.name(), erster, u"Es gibt noch keine Texte."});
     else if (!leere.empty())
-        befunde.push_back({pruefling.Platz, pruefling.name(), erster,
-                           u"Ohne Text: " + aufgezaehlt(leere) + u"."});
+        befunde.push_back(
+            {pruefling.Platz, pruefling.name(), erster, u"Ohne Text: " + enumerated(leere) + u"."});
 }
 
 using Abschnittspruefung = Text (*)(const Pruefling& pruefling, const Text& text);
@@ -123,7 +123,7 @@ Text platzhalterImText(const Pruefling& pruefling, const Text& text) {
         return {};
     return (gefunden.size() == 1 ? u"Ein Platzhalter steht noch im Text: "
                                  : u"Platzhalter stehen noch im Text: ") +
-           aufgezaehlt(gefunden) + u".";
+           enumerated(gefunden) + u".";
 }
 
 Text luecke(const Pruefling& /*pruefling*/, const Text& text) {
@@ -143,7 +143,7 @@ Text fremderName(const Pruefling& pruefling, const Text& text) {
     }
     return namen.empty()
                ? Text()
-               : u"Im Text steht der Name eines anderen Kindes: " + aufgezaehlt(namen) + u".";
+               : u"Im Text steht der Name eines anderen Kindes: " + enumerated(namen) + u".";
 }
 
 Text doppelteZeichen(const Pruefling& /*pruefling*/, const Text& text) {
@@ -172,7 +172,7 @@ void gleicherText(const Pruefling& pruefling, Befunde& befunde) {
         }
         befunde.push_back({pruefling.Platz, pruefling.name(), eigene[i].Ueberschrift,
                            Text(eigene[i].Ueberschrift) + u": derselbe Text wie bei " +
-                               aufgezaehlt(andere) + u"."});
+                               enumerated(andere) + u"."});
     }
 }
 
@@ -218,7 +218,7 @@ void noten(const Pruefling& pruefling, Befunde& befunde) {
         befunde.push_back({pruefling.Platz,
                            pruefling.name(),
                            {},
-                           u"Es fehlt die Note in " + aufgezaehlt(faecher) + u"."});
+                           u"Es fehlt die Note in " + enumerated(faecher) + u"."});
 }
 
 using Pruefung = void (*)(const Pruefling& pruefling, Befunde& befunde);
@@ -247,7 +247,7 @@ void listePruefen(const Zeugnisdaten& daten, Befunde& befunde) {
         befunde.push_back({.Satz = u"In der " + name +
                                    u" stehen Einträge, zu denen es kein Kind "
                                    u"gibt: " +
-                                   aufgezaehlt(daten.Liste->OhneKind) + u"."});
+                                   enumerated(daten.Liste->OhneKind) + u"."});
 }
 
 Klassentexte texteDerKlasse(const Zeugnisdaten& daten) {
@@ -280,9 +280,9 @@ std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis) {
     RecordReader reader(verzeichnis, dateien::Platzhalter);
     while (!reader.atEnd()) {
         reader.skip(1);
-        if (const Text marke = reader.text(); marke.starts_with(u'<'))
-            marken.push_back(marke);
-        reader.skip(1);
+        if (const Platzhaltersatz satz = PlatzhaltersatzLesen(reader);
+            satz.Platzhalter.starts_with(u'<'))
+            marken.push_back(satz.Platzhalter);
     }
     return marken;
 }

@@ -1,6 +1,6 @@
 #include "documents/content/report_list.h"
 
-#include "masterdata/pupil_records.h"
+#include "files/pupil_records.h"
 #include "platform/failure.h"
 #include "platform/record_reader.h"
 #include "platform/whole_file.h"

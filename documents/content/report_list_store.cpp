@@ -81,7 +81,7 @@ Text ohneKindSatz(const std::vector<Text>& namen, const Text& kopie) {
     return (namen.size() == 1
                 ? u"Ein Eintrag gehört"
                 : textFromNumber(static_cast<int>(namen.size())) + u" Einträge gehören") +
-           u" zu keinem Kind der Klassenliste mehr: " + aufgezaehlt(namen) +
+           u" zu keinem Kind der Klassenliste mehr: " + enumerated(namen) +
            u". Sie stehen in der Kopie „" + kopie + u"“.";
 }
 
@@ -162,7 +162,7 @@ Text LetzteKopie(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten)
     const Text stamm = Listenstamm(daten);
     std::map<Text, Text, std::greater<>> kopien;
     std::error_code ignored;
-    for (fs::directory_iterator entry(verzeichnis.aktuell(), ignored), end;
+    for (fs::directory_iterator entry(verzeichnis.current(), ignored), end;
          !ignored && entry != end; entry.increment(ignored)) {
         const std::u8string utf8 = entry->path().filename().u8string();
         const Text name = textFromUtf8(std::string(utf8.begin(), utf8.end()));

@@ -9,21 +9,21 @@
 namespace zeugnis::dokumente {
 
 // The sections of a report between its head and its end, in their order.
-inline constexpr std::array<TextView, Bereiche12> Ueberschriften12 = {
+inline constexpr std::array<TextView, Abschnitte12> Ueberschriften12 = std::to_array<TextView>({
     u"Interessen und Fertigkeiten",
-    u"Sprechen und Zuhören",
-    u"Lesen und mit Texten umgehen",
-    u"Schreiben, Texte verfassen",
-    u"Zahlen und Operationen",
-    u"Größen und Messen",
-    u"Raum und Form",
+    Kompetenzbereiche[0],
+    Kompetenzbereiche[1],
+    Kompetenzbereiche[2],
+    Kompetenzbereiche[3],
+    Kompetenzbereiche[4],
+    Kompetenzbereiche[5],
     u"Bemerkungen",
-};
-inline constexpr std::array<TextView, Bereiche34> Ueberschriften34 = {
+});
+inline constexpr std::array<TextView, Abschnitte34> Ueberschriften34 = std::to_array<TextView>({
     u"Förderunterricht und Arbeitsgemeinschaften",
     u"Besondere Interessen",
     u"Bemerkungen",
-};
+});
 
 /// Those of a year, behind work and social behaviour.
 inline std::span<const TextView> Bereichsueberschriften(int jahrgang) {

@@ -11,7 +11,7 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr size_t Verhaltensabschnitte = 2; // behind them come the grades
+constexpr size_t Verhaltensabschnitte = AbschnitteAVSV; // behind them come the grades
 
 void bereichAnfuegen(Section& seiten, const Abschnittstext& abschnitt) {
     seiten.blocks.emplace_back(paragraph(StyleId::Bereich, Text(abschnitt.Ueberschrift)));
@@ -45,8 +45,8 @@ Section zeugnis(const Zeugnisdaten& daten, int platz) {
 
 std::vector<Abschnittstext> AbschnitteVon(const Zeugnisdaten& daten, int platz) {
     std::vector<Abschnittstext> abschnitte = {
-        {u"Arbeitsverhalten", daten.AVSV.AV.Texte[platz]},
-        {u"Sozialverhalten", daten.AVSV.SV.Texte[platz]},
+        {u"Arbeitsverhalten", daten.AVSV.at(0)[platz]},
+        {u"Sozialverhalten", daten.AVSV.at(1)[platz]},
     };
     const std::span<const TextView> ueberschriften = Bereichsueberschriften(daten.Stamm.Jahrgang);
     for (size_t i = 0; i < ueberschriften.size(); ++i)

@@ -8,8 +8,8 @@ namespace zeugnis::dokumente {
 /// All that the reports of a class are made from.
 struct Zeugnisdaten {
     Stammdaten Stamm;
-    AVSVSpeicher AVSV;
-    Bereichstexte Bereiche;                 ///< of the years 1 and 2 or of the years 3 and 4
+    Abschnittstexte AVSV;
+    Abschnittstexte Bereiche;               ///< of the years 1 and 2 or of the years 3 and 4
     std::optional<Zeugnisliste> Liste = {}; ///< absences and grades, if there are any yet
 };
 

@@ -2,8 +2,6 @@
 
 #include "platform/text.h"
 
-#include <vector>
-
 namespace zeugnis::dokumente {
 
 /// The printable form of a text from the files, or a dash where there is none.
@@ -11,8 +9,5 @@ Text oderStrich(const Text& text);
 
 /// Both with something between them; if one is empty, only the other.
 Text verbunden(const Text& links, TextView dazwischen, const Text& rechts);
-
-/// "Mats", "Mats und Ida", "Mats, Ida und Zoé".
-Text aufgezaehlt(const std::vector<Text>& woerter);
 
 } // namespace zeugnis::dokumente

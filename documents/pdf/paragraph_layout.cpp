@@ -1,5 +1,5 @@
 #include "documents/pdf/layout.h"
-#include "documents/pdf/qt_text.h"
+#include "toolkit/qt_text.h"
 
 #include <QFont>
 #include <QPainter>

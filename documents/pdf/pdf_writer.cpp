@@ -1,7 +1,7 @@
 #include "documents/pdf/pdf_writer.h"
 
 #include "documents/pdf/pdf_outline.h"
-#include "documents/pdf/qt_text.h"
+#include "toolkit/qt_text.h"
 
 #include <QBuffer>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "documents/window/checks_panel.h"
 
-#include "documents/pdf/qt_text.h"
 #include "platform/failure.h"
+#include "toolkit/qt_text.h"
 
 #include <QBoxLayout>
 #include <QLabel>

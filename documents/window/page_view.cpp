@@ -160,7 +160,7 @@ void PageView::paintEvent(QPaintEvent* /*event*/) {
         painter.drawRect(area.adjusted(-1, -1, 0, 0));
     }
     if (hasFocus()) {
-        painter.setPen(QPen(theme::Accent, 2));
+        painter.setPen(QPen(look::Accent, 2));
         painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
     }
 }

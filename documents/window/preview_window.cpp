@@ -1,10 +1,10 @@
 #include "documents/window/preview_window.h"
 
 #include "documents/app/word_processor.h"
-#include "documents/pdf/qt_text.h"
 #include "documents/window/print_pages.h"
 #include "platform/failure.h"
 #include "platform/whole_file.h"
+#include "toolkit/qt_text.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

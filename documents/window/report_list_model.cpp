@@ -1,9 +1,9 @@
 #include "documents/window/report_list_model.h"
 
 #include "documents/content/wording.h"
-#include "documents/pdf/qt_text.h"
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
+#include "toolkit/qt_text.h"
 
 #include <utility>
 
@@ -237,7 +237,7 @@ void ReportListModel::takeOver() {
             return;
         const Text ohne = alte.OhneKind.empty()
                               ? Text()
-                              : u" Nicht mehr in der Klasse: " + aufgezaehlt(alte.OhneKind) + u".";
+                              : u" Nicht mehr in der Klasse: " + enumerated(alte.OhneKind) + u".";
         emit notice(QStringLiteral("Die früheren Einträge wurden übernommen.") + qString(ohne));
     } catch (const Laufzeitfehler& failure) {
         emit notice(qString(failure.sentence()));

@@ -1,6 +1,6 @@
 #include "documents/window/report_list_view.h"
 
-#include "documents/pdf/qt_text.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QClipboard>

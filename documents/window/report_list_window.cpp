@@ -1,7 +1,7 @@
 #include "documents/window/report_list_window.h"
 
-#include "documents/pdf/qt_text.h"
 #include "platform/failure.h"
+#include "toolkit/qt_text.h"
 
 #include <QAccessible>
 #include <QBoxLayout>

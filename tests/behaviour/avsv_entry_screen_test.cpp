@@ -1,7 +1,7 @@
 #include "behaviour/avsv_entry_screen.h"
 
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
-#include "shell/screen_names.h"
 #include "tests/support/failure_of.h"
 #include "tests/support/test_programm.h"
 
@@ -16,7 +16,7 @@ class AVSVEntryScreen : public testing::Test {
   protected:
     GsArbeitsverhalten& open() {
         program.emplace(installation);
-        program->programm.zeigen(bildschirme::GsStart);
+        program->programm.show(bildschirme::GsStart);
         return program->open<GsArbeitsverhalten>(bildschirme::GsArbeitsverhalten);
     }
     // Tom Ahlers with one section open.

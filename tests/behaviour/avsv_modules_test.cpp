@@ -25,7 +25,7 @@ TEST_F(AVSVModules, FillLinesNamesAndColoursByTheirNumbers) {
     const Bausteine sv = TexteLadenSV(directory);
     EXPECT_EQ(sv.Zeilen[5][1], u"s51");
     EXPECT_EQ(sv.Kategorienamen[5], u"SV 5");
-    EXPECT_EQ(directory.aktuell(), directory.programmordner());
+    EXPECT_EQ(directory.current(), directory.programFolder());
 }
 
 TEST_F(AVSVModules, LoseOuterBlanksExceptInTheLastSVCategoryAndInNames) {

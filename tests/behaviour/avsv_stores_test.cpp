@@ -103,7 +103,7 @@ TEST_F(AVSVStores, AreWrittenForTheClassListWithACopyOfTheDay) {
     EXPECT_EQ(installation.read(u"Daten/Sicherheit/AVSVspeicher15.03.2027.txt"),
               textsWith(u"zuletzt"));
     EXPECT_EQ(installation.read(u"Daten/Sicherheit/AVSVWahl15.03.2027.txt"), choices);
-    EXPECT_EQ(directory.aktuell(), directory.programmordner());
+    EXPECT_EQ(directory.current(), directory.programFolder());
 }
 
 TEST_F(AVSVStores, AreWrittenBeforeAFailedCopy) {

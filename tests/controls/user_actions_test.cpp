@@ -15,10 +15,10 @@ TEST_F(UserActions, ReachOnlyWhatIsShownVisibleAndEnabledWithAllContainers) {
             EXPECT_FALSE(user::click(box) || user::focus(box) || user::doubleClick(box));
             obstacle->*property = true;
         }
-    programm.verbergen(u"A");
+    programm.hide(u"A");
     EXPECT_FALSE(user::click(box) || user::type(a->Text1(0), u"x") || user::pick(a->List1, 0));
     EXPECT_EQ(happened(), Log{});
-    programm.zeigen(u"A");
+    programm.show(u"A");
     EXPECT_TRUE(user::click(box));
     EXPECT_EQ(happened(), Log{"A.Check1 Click"});
 }
@@ -66,7 +66,7 @@ TEST_F(UserActions, MessageBoxLeavesTheFocus) {
 TEST_F(UserActions, BlurAndHidingTheScreenLeaveTheBox) {
     TestScreen& b = open(u"B");
     for (const std::function<void()>& leaving : std::initializer_list<std::function<void()>>{
-             [&] { user::blur(*a); }, [&] { programm.verbergen(u"A"); },
+             [&] { user::blur(*a); }, [&] { programm.hide(u"A"); },
              [&] { user::focus(b.Text1(0)); }}) {
         user::focus(a->Text1(0));
         happened();
@@ -74,7 +74,7 @@ TEST_F(UserActions, BlurAndHidingTheScreenLeaveTheBox) {
         EXPECT_EQ(happened(), Log{});
         leaving();
         EXPECT_EQ(happened(), Log{"A.Text1(0) LostFocus"});
-        programm.zeigen(u"A");
+        programm.show(u"A");
     }
 }
 

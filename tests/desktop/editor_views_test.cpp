@@ -1,11 +1,11 @@
 #include "behaviour/avsv_editor.h"
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "desktop/text_editor.h"
 #include "desktop/window_host.h"
 #include "editors/editor34.h"
 #include "review/insertion_window.h"
 #include "review/review_screen.h"
-#include "shell/screen_names.h"
 #include "shell/start_page.h"
 #include "tests/desktop/settle_layouts.h"
 #include "tests/support/test_programm.h"
@@ -27,7 +27,7 @@ class EditorViewsTest : public testing::Test {
     EditorViewsTest() {
         std::filesystem::copy(std::filesystem::path(ZEUGNIS_SOURCE_FOLDER) / "install",
                               installation.path(), std::filesystem::copy_options::recursive);
-        host.run([this] { machine.programm.zeigen(bildschirme::GsStart); });
+        host.run([this] { machine.programm.show(bildschirme::GsStart); });
         host.run([this] { user::click(screen<GsStart>(bildschirme::GsStart).Command2); });
     }
 

@@ -1,8 +1,8 @@
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "desktop/choice_row.h"
 #include "desktop/page_area.h"
 #include "desktop/window_host.h"
-#include "shell/screen_names.h"
 #include "tests/desktop/settle_layouts.h"
 #include "tests/support/test_programm.h"
 #include "years12/entry_screen.h"
@@ -24,8 +24,8 @@ class EntryView12Test : public testing::Test {
             names.replace(at, 4, u"\"2b\"");
         installation.write(u"Daten/Namen.Txt", names);
         host.run([this] {
-            machine.programm.zeigen(bildschirme::GsStart);
-            machine.programm.zeigen(bildschirme::Kompetenzen);
+            machine.programm.show(bildschirme::GsStart);
+            machine.programm.show(bildschirme::Kompetenzen);
         });
         screen = dynamic_cast<Kompetenzen*>(machine.programm.find(bildschirme::Kompetenzen));
         host.run([this] { user::pick(screen->Combo1, 0); });

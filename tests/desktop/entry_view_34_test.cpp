@@ -1,7 +1,7 @@
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "desktop/choice_row.h"
 #include "desktop/window_host.h"
-#include "shell/screen_names.h"
 #include "tests/desktop/settle_layouts.h"
 #include "tests/support/test_programm.h"
 #include "years34/entry_screen.h"
@@ -20,8 +20,8 @@ class EntryView34Test : public testing::Test {
         std::filesystem::copy(std::filesystem::path(ZEUGNIS_SOURCE_FOLDER) / "install",
                               installation.path(), std::filesystem::copy_options::recursive);
         host.run([this] {
-            machine.programm.zeigen(bildschirme::GsStart);
-            machine.programm.zeigen(bildschirme::GSAGFI);
+            machine.programm.show(bildschirme::GsStart);
+            machine.programm.show(bildschirme::GSAGFI);
         });
         screen = dynamic_cast<GSAGFI*>(machine.programm.find(bildschirme::GSAGFI));
         host.run([this] { user::pick(screen->Combo1, 0); });

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "behaviour/avsv_entry_screen.h"
+#include "common/screen_names.h"
 #include "desktop/choice_row.h"
-#include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "desktop/text_editor.h"
 #include "desktop/window_host.h"
-#include "shell/screen_names.h"
 #include "tests/support/test_programm.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -20,8 +20,8 @@ class EntryWindowTest : public testing::Test {
   protected:
     EntryWindowTest() : machine(installation), host(machine.programm) {
         host.run([this] {
-            machine.programm.zeigen(bildschirme::GsStart);
-            machine.programm.zeigen(bildschirme::GsArbeitsverhalten);
+            machine.programm.show(bildschirme::GsStart);
+            machine.programm.show(bildschirme::GsArbeitsverhalten);
         });
         screen = dynamic_cast<GsArbeitsverhalten*>(
             machine.programm.find(bildschirme::GsArbeitsverhalten));

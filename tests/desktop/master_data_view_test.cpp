@@ -1,9 +1,9 @@
 #include "desktop/master_data_view.h"
 
-#include "desktop/qt_text.h"
 #include "desktop/text_editor.h"
 #include "desktop/window_host.h"
 #include "tests/masterdata/master_data_test.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -23,8 +23,8 @@ class MasterDataViewTest : public MasterDataTest {
         machine->dialogs.answers = {Antwort::Ja};
         host = std::make_unique<WindowHost>(machine->programm);
         host->run([this] {
-            machine->programm.zeigen(bildschirme::GsStart);
-            machine->programm.zeigen(bildschirme::GsBasis);
+            machine->programm.show(bildschirme::GsStart);
+            machine->programm.show(bildschirme::GsBasis);
         });
         screen = dynamic_cast<GsBasis*>(machine->programm.find(bildschirme::GsBasis));
         for (QWidget* one : QApplication::topLevelWidgets())

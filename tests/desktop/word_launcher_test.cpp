@@ -1,8 +1,8 @@
 #include "desktop/word_launcher.h"
 
-#include "desktop/qt_text.h"
 #include "tests/support/failure_of.h"
 #include "tests/support/test_installation.h"
+#include "toolkit/qt_text.h"
 
 #include <QElapsedTimer>
 #include <QTest>

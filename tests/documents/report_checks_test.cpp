@@ -16,15 +16,16 @@ Zeugnisdaten tadellos() {
     Zeugnisdaten daten;
     daten.Stamm.Jahrgang = 3;
     daten.Stamm.Liste.Klasse = u"3a";
-    daten.Bereiche.resize(Bereiche34);
+    daten.AVSV.resize(AbschnitteAVSV);
+    daten.Bereiche.resize(Abschnitte34);
     daten.Liste.emplace();
     const char* namen[] = {"Anna Sophie", "Ben", "Anna", "Ben"};
     for (int platz = 0; platz < 4; ++platz) {
         daten.Stamm.Liste.Kinder[platz].Vorname = vonUtf8(namen[platz]);
         daten.Stamm.Liste.Kinder[platz].Nachname = u"Nr" + textFromNumber(platz + 1);
         const Text text = vonUtf8(namen[platz]) + u" liest. Gut.";
-        daten.AVSV.AV.Texte[platz] = text;
-        daten.AVSV.SV.Texte[platz] = text;
+        daten.AVSV[0][platz] = text;
+        daten.AVSV[1][platz] = text;
         for (Schuelertabelle<Text>& bereich : daten.Bereiche)
             bereich[platz] = text;
         daten.Liste->Eintraege[platz].Werte.fill(1);
@@ -62,16 +63,16 @@ TEST(ReportChecks, FindsWhatIsWrongInATextAndNothingElse) {
     };
     for (const auto& fall : faelle) {
         Zeugnisdaten daten = tadellos();
-        daten.AVSV.SV.Texte[1] = vonUtf8(fall.Text);
+        daten.AVSV[1][1] = vonUtf8(fall.Text);
         EXPECT_EQ(befunde(daten), fall.Befund.empty() ? "" : "1 " + fall.Befund + "\n");
     }
 }
 
 TEST(ReportChecks, AChildsOwnNameIsNoneOfAnother) {
     Zeugnisdaten daten = tadellos();
-    daten.AVSV.AV.Texte[0] = u"Anna Sophie liest. Anna Sophies Heft ist ordentlich.";
+    daten.AVSV[0][0] = u"Anna Sophie liest. Anna Sophies Heft ist ordentlich.";
     EXPECT_EQ(befunde(daten), "");
-    daten.AVSV.AV.Texte[0] = u"Anna liest.";
+    daten.AVSV[0][0] = u"Anna liest.";
     EXPECT_EQ(befunde(daten),
               "0 Arbeitsverhalten: Im Text steht der Name eines anderen Kindes: Anna.\n");
 }

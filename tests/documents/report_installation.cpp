@@ -1,8 +1,8 @@
 #include "tests/documents/report_installation.h"
 
-#include "masterdata/pupil_records.h"
+#include "files/file_catalogue.h"
+#include "files/pupil_records.h"
 #include "platform/record_writer.h"
-#include "shell/file_catalogue.h"
 
 namespace zeugnis::test {
 namespace fs = std::filesystem;

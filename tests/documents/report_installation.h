@@ -1,7 +1,7 @@
 #pragma once
 
 #include "behaviour/avsv_stores.h"
-#include "masterdata/school_data.h"
+#include "files/school_data.h"
 #include "tests/support/test_installation.h"
 
 namespace zeugnis::test {

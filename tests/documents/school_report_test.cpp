@@ -1,5 +1,5 @@
+#include "common/word_launch.h"
 #include "documents/content/school_report.h"
-#include "shell/word_launch.h"
 #include "tests/documents/report_installation.h"
 #include "tests/support/failure_of.h"
 

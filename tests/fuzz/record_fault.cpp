@@ -1,12 +1,12 @@
 #include "tests/fuzz/record_fault.h"
 
 #include "behaviour/avsv_stores.h"
+#include "files/file_catalogue.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/record_reader.h"
 #include "platform/record_writer.h"
 #include "platform/whole_file.h"
-#include "shell/file_catalogue.h"
 #include "tests/support/test_installation.h"
 
 #include <algorithm>
@@ -49,7 +49,7 @@ std::string loadFault(Arbeitsverzeichnis& directory, TextView file, std::string_
         if (failure.sentence().empty())
             return "a failure without a sentence";
     }
-    return directory.aktuell() == directory.programmordner() ? "" : "left in another folder";
+    return directory.current() == directory.programFolder() ? "" : "left in another folder";
 }
 
 } // namespace

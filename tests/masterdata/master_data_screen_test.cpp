@@ -24,8 +24,8 @@ TEST_F(MasterDataScreen, KeepsWhatWasSavedForTheNextStart) {
               std::vector<Text>{u"Winword.exe ZeugnislisteNeu.doc /mZeugnislisteNeu"});
     EXPECT_FALSE(installation.has(u"Daten/Sicherheit/AVSVspeicher01.01.2027.TXT"));
     EXPECT_TRUE(installation.has(u"Daten/Sicherheit/Notiz.doc"));
-    EXPECT_EQ(machine->programm.verzeichnis().aktuell(),
-              machine->programm.verzeichnis().programmordner());
+    EXPECT_EQ(machine->programm.directory().current(),
+              machine->programm.directory().programFolder());
     user::click(screen.Command1(1));
     EXPECT_TRUE(machine->programm.ended());
 
@@ -207,7 +207,7 @@ TEST_F(MasterDataScreen, EndsTooHighWithoutTheFolderOfTheCopies) {
     GsBasis& screen = unlocked(1);
     installation.remove(u"Daten/Sicherheit");
     user::click(screen.Command1(0));
-    EXPECT_EQ(machine->programm.verzeichnis().aktuell(), installation.path().parent_path());
+    EXPECT_EQ(machine->programm.directory().current(), installation.path().parent_path());
     EXPECT_FALSE(installation.has(u"Daten/Namen.Txt"));
 }
 

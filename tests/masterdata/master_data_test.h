@@ -1,8 +1,8 @@
 #pragma once
 
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "masterdata/master_data_screen.h"
-#include "shell/screen_names.h"
 #include "tests/support/failure_of.h"
 #include "tests/support/test_programm.h"
 

@@ -23,45 +23,45 @@ TEST_F(WorkingDirectory, FindsFilesWithoutRegardToCaseAndSlashes) {
     for (const TextView name :
          {u"Daten\\Sicherheit\\Einfügungen1.txt", u"daten/SICHERHEIT\\EINFÜGUNGEN1.TXT",
           u"DATEN//.\\sicherheit/..\\Sicherheit/einfügungen1.Txt"})
-        EXPECT_EQ(directory.pfad(name), file) << utf8FromText(name);
-    EXPECT_EQ(directory.pfad(u"DATEN/Neu Ä.Txt"), data / "Neu Ä.Txt")
+        EXPECT_EQ(directory.path(name), file) << utf8FromText(name);
+    EXPECT_EQ(directory.path(u"DATEN/Neu Ä.Txt"), data / "Neu Ä.Txt")
         << "a new file is written as it is named";
 }
 
 TEST_F(WorkingDirectory, GoesDownAndUpAndAboveTheProgramFolder) {
     const fs::path processFolder = fs::current_path();
-    directory.wechseln(u"daten");
-    directory.wechseln(u"Sicherheit");
-    EXPECT_EQ(directory.aktuell(), data / "Sicherheit");
-    EXPECT_EQ(directory.anzeigename(u"a/b.txt"), u"Daten\\Sicherheit\\a\\b.txt");
-    directory.wechseln(u"..\\");
-    EXPECT_EQ(directory.aktuell(), data);
-    directory.wechseln(u"..\\..\\");
-    EXPECT_EQ(directory.aktuell(), data.parent_path().parent_path());
-    EXPECT_EQ(directory.programmordner(), data.parent_path());
+    directory.change(u"daten");
+    directory.change(u"Sicherheit");
+    EXPECT_EQ(directory.current(), data / "Sicherheit");
+    EXPECT_EQ(directory.displayName(u"a/b.txt"), u"Daten\\Sicherheit\\a\\b.txt");
+    directory.change(u"..\\");
+    EXPECT_EQ(directory.current(), data);
+    directory.change(u"..\\..\\");
+    EXPECT_EQ(directory.current(), data.parent_path().parent_path());
+    EXPECT_EQ(directory.programFolder(), data.parent_path());
     EXPECT_EQ(fs::current_path(), processFolder);
 }
 
 TEST_F(WorkingDirectory, StaysWhereItWasIfAFolderIsMissing) {
     folder.write(u"Daten/keinOrdner", u"");
-    directory.wechseln(u"Daten");
+    directory.change(u"Daten");
     for (const TextView name : {u"Bild", u"Sicherheit\\mehr", u"keinOrdner"})
-        EXPECT_EQ(failureOf([&] { directory.wechseln(name); }), "path-not-found");
-    EXPECT_EQ(failureOf([&] { static_cast<void>(directory.pfad(u"Bild\\x.jpg")); }),
+        EXPECT_EQ(failureOf([&] { directory.change(name); }), "path-not-found");
+    EXPECT_EQ(failureOf([&] { static_cast<void>(directory.path(u"Bild\\x.jpg")); }),
               "path-not-found");
-    EXPECT_EQ(failureSentenceOf([&] { directory.wechseln(u"Bild"); }),
+    EXPECT_EQ(failureSentenceOf([&] { directory.change(u"Bild"); }),
               u"Der Ordner „Daten\\Bild“ ist nicht vorhanden.");
-    EXPECT_EQ(directory.aktuell(), data);
+    EXPECT_EQ(directory.current(), data);
     EXPECT_EQ(failureOf([&] { Arbeitsverzeichnis(folder.path() / "fehlt"); }), "path-not-found");
 }
 
 TEST_F(WorkingDirectory, ComesBackAlsoAfterAFailure) {
     EXPECT_EQ(failureOf([&] {
                   const Ordnerwechsel in(directory, u"Daten");
-                  directory.wechseln(u"fehlt");
+                  directory.change(u"fehlt");
               }),
               "path-not-found");
-    EXPECT_EQ(directory.aktuell(), data.parent_path());
+    EXPECT_EQ(directory.current(), data.parent_path());
 }
 
 } // namespace

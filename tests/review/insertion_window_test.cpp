@@ -1,7 +1,7 @@
 #include "review/insertion_window.h"
 
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
-#include "shell/screen_names.h"
 #include "tests/support/failure_of.h"
 #include "tests/support/test_programm.h"
 
@@ -120,7 +120,7 @@ TEST_F(InsertionWindow, MissingOrTooLongFilesFail) {
          {u"Daten/Einfügungen1.txt", u"Daten/AktivForm.txt", u"Daten/Platzhalter.txt"}) {
         installation.remove(file);
         program.emplace(installation);
-        EXPECT_EQ(failureOf([&] { program->programm.laden(bildschirme::Einfuegungen); }),
+        EXPECT_EQ(failureOf([&] { program->programm.load(bildschirme::Einfuegungen); }),
                   "file-not-found")
             << utf8FromText(file);
     }

@@ -1,7 +1,7 @@
 #include "shell/start_page.h"
 
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
-#include "shell/screen_names.h"
 #include "tests/support/failure_of.h"
 #include "tests/support/test_programm.h"
 
@@ -29,7 +29,7 @@ class StartPage : public testing::Test {
                     return std::make_unique<GsStart>(running);
                 return std::make_unique<StandIn>(running, name);
             });
-        programm.zeigen(bildschirme::GsStart);
+        programm.show(bildschirme::GsStart);
         return dynamic_cast<GsStart&>(*programm.find(bildschirme::GsStart));
     }
     std::string_view failureAtStart() {
@@ -109,8 +109,8 @@ TEST_F(StartPage, FallsBackToTheStandardTeacher) {
     for (const TextView teacher : {u"", u"Ohne Bild", u"Mit\\Strich"}) {
         installation.basisdaten(u"2", teacher);
         EXPECT_EQ(start().Picture2.picture(), u"Karl Musterlehrer.jpg");
-        EXPECT_EQ(program->programm.verzeichnis().aktuell(),
-                  program->programm.verzeichnis().programmordner());
+        EXPECT_EQ(program->programm.directory().current(),
+                  program->programm.directory().programFolder());
     }
     installation.remove(u"Bild/Karl Musterlehrer.jpg");
     EXPECT_EQ(failureAtStart(), "file-not-found") << "a second failure is not caught";
@@ -123,8 +123,8 @@ TEST_F(StartPage, LooksForTheFallbackWhereTheDirectoryStands) {
     GsStart& page = start();
     EXPECT_EQ(page.Picture2.picture(), u"Karl Musterlehrer.jpg");
     EXPECT_EQ(page.Picture1.picture(), u"");
-    EXPECT_EQ(program->programm.verzeichnis().aktuell(),
-              program->programm.verzeichnis().programmordner().parent_path())
+    EXPECT_EQ(program->programm.directory().current(),
+              program->programm.directory().programFolder().parent_path())
         << "the change back runs although the change into the folder failed";
 }
 
@@ -198,7 +198,7 @@ TEST_F(StartPage, MainButtonsOpenFreshScreensAndSayWhichIsActive) {
         if (one.button >= 4)
             user::click(page.Command2);
         // Another content screen gives way, this one comes anew unless it is an editor's button.
-        programm.zeigen(one.button == 3 ? bildschirme::GsBasis : bildschirme::GsAnzeige);
+        programm.show(one.button == 3 ? bildschirme::GsBasis : bildschirme::GsAnzeige);
         for (const bool first : {true, false}) {
             const Screen* before = programm.find(textFromUtf8(one.screens[0]));
             const int raises = before != nullptr ? before->raises() : 0;

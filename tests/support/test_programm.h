@@ -77,7 +77,7 @@ struct TestProgramm : EmptyProgramm {
 
     template <typename S>
     S& open(TextView screen) {
-        programm.zeigen(screen);
+        programm.show(screen);
         return dynamic_cast<S&>(*programm.find(screen));
     }
 };

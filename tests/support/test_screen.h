@@ -72,7 +72,7 @@ class ControlsTest : public testing::Test {
     }
 
     TestScreen& open(TextView name) {
-        programm.zeigen(name);
+        programm.show(name);
         return dynamic_cast<TestScreen&>(*programm.find(name));
     }
 

@@ -1,6 +1,6 @@
 #include "years12/area_composition.h"
 
-#include "shell/placeholders.h"
+#include "common/placeholders.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "common/screen_names.h"
 #include "controls/user_actions.h"
-#include "shell/screen_names.h"
 #include "tests/support/failure_of.h"
 #include "tests/support/test_programm.h"
 #include "tests/years12/klasse2b.h"

@@ -39,7 +39,7 @@ TEST_F(ModuleFiles, AreThoseOfTheYear) {
         EXPECT_EQ(none[Datei::Sprechen](1, 0), u"") << utf8FromText(other);
         EXPECT_EQ(none[Datei::Interessen](1, 1), u"In1");
     }
-    EXPECT_EQ(directory.aktuell(), directory.programmordner());
+    EXPECT_EQ(directory.current(), directory.programFolder());
 }
 
 TEST_F(ModuleFiles, NumberOfARecordDecidesTheRowOfTheNext) {

@@ -39,7 +39,7 @@ TEST_F(Stores12, BelongToTheChildrenByPlaceAlone) {
     EXPECT_EQ(lockedAreas(0), "10110001") << "a lock without a text stays";
     EXPECT_EQ(lockedAreas(1), "01000000");
     EXPECT_EQ(lockedAreas(2), "00000000") << "behind the end of the locks nothing is locked";
-    EXPECT_EQ(directory.aktuell(), directory.programmordner());
+    EXPECT_EQ(directory.current(), directory.programFolder());
 }
 
 TEST_F(Stores12, DamagedRecordsFail) {

@@ -221,7 +221,7 @@ TEST_F(EntryScreen34, SavesOnLeavingWithYesBeforeTheChoicesAreEmptied) {
     for (const Antwort answer : {Antwort::Nein, Antwort::Ja}) {
         GSAGFI& screen = openPage(Lena, 0);
         user::click(screen.Check1(0));
-        program->programm.laden(bildschirme::Einfuegungen);
+        program->programm.load(bildschirme::Einfuegungen);
         program->dialogs.answers = {answer};
         user::click(screen.Command1(1));
         EXPECT_FALSE(isOpen());

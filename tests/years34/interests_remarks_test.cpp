@@ -1,5 +1,7 @@
 #include "years34/interests_remarks.h"
 
+#include "common/interests_text.h"
+
 #include <gtest/gtest.h>
 
 namespace zeugnis::jahrgang34::test {

@@ -18,7 +18,7 @@ class Modules34 : public testing::Test {
     Textbausteine load(const Text& year = u"3") {
         Arbeitsverzeichnis directory(installation.path());
         Textbausteine modules = TextbausteineLaden(directory, year);
-        EXPECT_EQ(directory.aktuell(), directory.programmordner());
+        EXPECT_EQ(directory.current(), directory.programFolder());
         return modules;
     }
     void rows(TextView file, int count, size_t texts) {

@@ -87,7 +87,7 @@ TEST_F(Stores34, LockWhatHasATextAndAreCopiedUnderTheDate) {
               u"1,\"3a\",\"Ahlers\",\"Tom\",\"Tom, 'ja'.\r\nZwei.\",\"\",\"\"\r\n"
               u"2,\"3a\",\"Bäcker\",\"Lena\",\"\",\"\",\"\"\r\n");
     EXPECT_EQ(load().Texte[SeiteInteressen][1], u"Lena malt.");
-    EXPECT_EQ(directory.aktuell(), directory.programmordner());
+    EXPECT_EQ(directory.current(), directory.programFolder());
 
     installation.remove(u"Daten/Sicherheit");
     store.Texte[SeiteFoerder][1] = u"neu";

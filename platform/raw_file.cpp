@@ -1,0 +1,80 @@
+#include "platform/raw_file.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace zeugnis::raw {
+namespace {
+
+constexpr mode_t NewFileMode = 0666;
+
+int writeAll(int handle, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(handle, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return errno;
+        bytes.remove_prefix(static_cast<size_t>(count));
+    }
+    return 0;
+}
+
+// Devices have no length, and some cannot be synchronised.
+bool isRegular(int handle) {
+    struct stat status {};
+    return ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+} // namespace
+
+Content read(const std::filesystem::path& path) {
+    Content content;
+    const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC); // NOLINT(*-vararg)
+    if (handle < 0)
+        return {{}, errno};
+    std::array<char, 16384> block{};
+    while (true) {
+        const ssize_t count = ::read(handle, block.data(), block.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            content.error = errno;
+        if (count <= 0)
+            break;
+        content.bytes.append(block.data(), static_cast<size_t>(count));
+    }
+    ::close(handle);
+    return content;
+}
+
+Opened openForWriting(const std::filesystem::path& path) {
+    Opened opened;
+    opened.handle = ::open(path.c_str(), O_WRONLY | O_CLOEXEC); // NOLINT(*-vararg)
+    if (opened.handle < 0 && errno == ENOENT) {
+        opened.handle = // NOLINTNEXTLINE(*-vararg)
+            ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, NewFileMode);
+        opened.created = opened.handle >= 0;
+    }
+    if (opened.handle < 0)
+        opened.error = errno;
+    return opened;
+}
+
+int replaceContentAndClose(int handle, std::string_view bytes) {
+    int error = writeAll(handle, bytes);
+    if (error == 0 && isRegular(handle)) {
+        if (::ftruncate(handle, static_cast<off_t>(bytes.size())) != 0 || ::fsync(handle) != 0)
+            error = errno;
+    }
+    if (::close(handle) != 0 && error == 0)
+        error = errno;
+    return error;
+}
+
+int remove(const std::filesystem::path& path) { return ::unlink(path.c_str()) == 0 ? 0 : errno; }
+
+} // namespace zeugnis::raw

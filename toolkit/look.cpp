@@ -1,0 +1,68 @@
+#include "toolkit/look.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QTranslator>
+
+namespace zeugnis::look {
+namespace {
+
+constexpr int FontPointSize = 11;
+
+constexpr const char* SharedStyleSheet = R"(
+QToolTip { padding: 4px 6px; color: #242B33; background: #FFFBEA; border: 1px solid #C9C3B6; }
+QComboBox { min-height: 30px; padding: 1px 8px; background: white;
+    border: 1px solid #8C867A; border-radius: 6px; }
+QComboBox:focus { border: 2px solid #1F6F6B; padding: 0 7px; }
+QComboBox::drop-down { width: 28px; border: none; }
+QComboBox::down-arrow { image: none; width: 0; height: 0; margin-right: 10px;
+    border-left: 5px solid white; border-right: 5px solid white; border-top: 6px solid #5F656C; }
+QListWidget { background: white; border: 1px solid #8C867A; border-radius: 6px; padding: 4px; }
+QListWidget:focus { border: 2px solid #1F6F6B; padding: 3px; }
+QListWidget::item { padding: 5px 6px; border-radius: 4px; color: #242B33; }
+QListWidget::item:selected { background: #1F6F6B; color: white; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+)";
+
+void speakGerman(QApplication& application) {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    auto* german = new QTranslator(&application);
+    if (german->load(QStringLiteral("qtbase_de"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(german);
+}
+
+QPalette palette() {
+    QPalette palette;
+    palette.setColor(QPalette::Window, Background);
+    palette.setColor(QPalette::Base, Surface);
+    palette.setColor(QPalette::Button, Surface);
+    palette.setColor(QPalette::Highlight, Accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, Ink);
+        palette.setColor(QPalette::Disabled, role, InkDisabled);
+    }
+    return palette;
+}
+
+} // namespace
+
+void apply(QApplication& application, const QString& ownStyleSheet) {
+    speakGerman(application);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setFont(
+        QFont(QStringList{QStringLiteral("Open Sans"), QStringLiteral("Segoe UI"),
+                          QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")},
+              FontPointSize));
+    QApplication::setPalette(palette());
+    application.setStyleSheet(QString::fromLatin1(SharedStyleSheet) + ownStyleSheet);
+}
+
+} // namespace zeugnis::look
