@@ -1,6 +1,7 @@
 #include "behaviour/avsv_composition.h"
 
 #include <array>
+#include <span>
 
 namespace zeugnis {
 namespace {
@@ -17,11 +18,12 @@ enum class Fuge {
     LeerzeichenAbsatz ///< a new line, with a blank before it
 };
 
-using Fugen = std::array<Fuge, KategorienHoechstens>;
-constexpr Fugen FugenAV = {Fuge::Anfang, Fuge::UndAber,     Fuge::PronomenDativ, Fuge::Satz,
-                           Fuge::Satz,   Fuge::VornameSatz, Fuge::Absatz};
-constexpr Fugen FugenSV = {Fuge::Anfang, Fuge::UndAber, Fuge::Pronomen,
-                           Fuge::Satz,   Fuge::Satz,    Fuge::LeerzeichenAbsatz};
+// By category.
+constexpr std::array<Fuge, KategorienAV> FugenAV =
+    std::to_array({Fuge::Anfang, Fuge::UndAber, Fuge::PronomenDativ, Fuge::Satz, Fuge::Satz,
+                   Fuge::VornameSatz, Fuge::Absatz});
+constexpr std::array<Fuge, KategorienSV> FugenSV = std::to_array(
+    {Fuge::Anfang, Fuge::UndAber, Fuge::Pronomen, Fuge::Satz, Fuge::Satz, Fuge::LeerzeichenAbsatz});
 
 // The first bad line of the first two categories. Line 5 lies on different sides, on purpose.
 constexpr int SchlechteHaelfteZuerst = 5;
@@ -80,13 +82,12 @@ struct Satzbau {
     }
 };
 
-Text satzBauen(const Satzbau& satz, const Fugen& fugen, int kategorien,
-               const Zeilentabelle& zeilen) {
+Text satzBauen(const Satzbau& satz, std::span<const Fuge> fugen, const Zeilentabelle& zeilen) {
     Text text;
-    for (int k = 0; k < kategorien; ++k) {
-        const Text teil = satz.teil(k, zeilen);
+    for (size_t k = 0; k < fugen.size(); ++k) {
+        const Text teil = satz.teil(static_cast<int>(k), zeilen);
         if (!teil.empty())
-            text += satz.fuge(fugen.at(static_cast<size_t>(k)), text.empty()) + teil;
+            text += satz.fuge(fugen[k], text.empty()) + teil;
     }
     return text.empty() ? text : text + u".";
 }
@@ -95,12 +96,12 @@ Text satzBauen(const Satzbau& satz, const Fugen& fugen, int kategorien,
 
 Text AVSatzBauen(const Text& vorname, const Text& geschlecht, const Zeilenwahl& wahl,
                  const Zeilentabelle& zeilen) {
-    return satzBauen({vorname, geschlecht, wahl}, FugenAV, KategorienAV, zeilen);
+    return satzBauen({vorname, geschlecht, wahl}, FugenAV, zeilen);
 }
 
 Text SVSatzBauen(const Text& vorname, const Text& geschlecht, const Zeilenwahl& wahl,
                  const Zeilentabelle& zeilen) {
-    return satzBauen({vorname, geschlecht, wahl}, FugenSV, KategorienSV, zeilen);
+    return satzBauen({vorname, geschlecht, wahl}, FugenSV, zeilen);
 }
 
 } // namespace zeugnis

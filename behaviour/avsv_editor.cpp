@@ -15,11 +15,11 @@ constexpr int Zeilenfarbzahl = 5;
 constexpr int Aktuell = 1; // the button that loads the current wording
 
 // In the order of `Dateinamen`.
-constexpr std::array<TextView, 4> AktuelleDateien = {dateien::AVKategorien, dateien::TexteAV,
-                                                     dateien::SVKategorien, dateien::TexteSV};
+constexpr std::array<TextView, 4> AktuelleDateien = std::to_array<TextView>(
+    {dateien::AVKategorien, dateien::TexteAV, dateien::SVKategorien, dateien::TexteSV});
 // The same files in the order in which the Standard copies are renewed.
-constexpr std::array<TextView, 4> ZuKopieren = {u"AVKategorien.Txt", u"SVKategorien.Txt",
-                                                u"TexteAV.Txt", u"TexteSV.Txt"};
+constexpr auto ZuKopieren = std::to_array<TextView>(
+    {u"AVKategorien.Txt", u"SVKategorien.Txt", u"TexteAV.Txt", u"TexteSV.Txt"});
 
 Farbwert farbe(int eintrag) { return FarbtafelEditoren()[eintrag]; }
 
@@ -67,7 +67,8 @@ void GSAVSVAenderung::Command1_Click(int Index) {
 void GSAVSVAenderung::AbschnittWaehlen(Abschnitt abschnitt) {
     const bool istAV = abschnitt == Abschnitt::AV;
     Gespeichert = false;
-    Command4(6).Visible = istAV;
+    for (int k = KategorienSV; k < KategorienAV; ++k)
+        Command4(k).Visible = istAV;
     Command2.BackColor = farbe(istAV ? editorfarben::Gewaehlt : editorfarben::Ruhend);
     Command3.BackColor = farbe(istAV ? editorfarben::Ruhend : editorfarben::Gewaehlt);
     EingabenUebernehmen();

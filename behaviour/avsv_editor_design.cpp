@@ -48,10 +48,10 @@ constexpr Hinweis Erlass{u"Der Punkt am Ende wird vom Programm gesetzt.", false,
                          u"Änderungen sollten nur nach sorgfältiger Prüfung vorgenommen werden!"};
 
 // By category.
-constexpr std::array<const Hinweis*, KategorienAV> HinweiseAV = {
-    &Vorname, &Verbunden, &FuerwortAV, &GanzerSatz, &GanzerSatz, &VornameAmAnfang, &Erlass};
-constexpr std::array<const Hinweis*, KategorienSV> HinweiseSV = {
-    &Vorname, &Verbunden, &FuerwortSV, &GanzerSatz, &GanzerSatz, &Erlass};
+constexpr std::array<const Hinweis*, KategorienAV> HinweiseAV = std::to_array<const Hinweis*>(
+    {&Vorname, &Verbunden, &FuerwortAV, &GanzerSatz, &GanzerSatz, &VornameAmAnfang, &Erlass});
+constexpr std::array<const Hinweis*, KategorienSV> HinweiseSV = std::to_array<const Hinweis*>(
+    {&Vorname, &Verbunden, &FuerwortSV, &GanzerSatz, &GanzerSatz, &Erlass});
 
 Text zeilenVon(const Hinweis& hinweis) {
     Text zeilen(hinweis.Anfang);

@@ -148,7 +148,7 @@ void GsArbeitsverhalten::ZeilenZeigen() {
 }
 
 void GsArbeitsverhalten::ZeilenFarben() {
-    if (Bereich == Abschnitt::SV && Kategorie == 6)
+    if (Bereich == Abschnitt::SV && Kategorie >= KategorienSV)
         Kategorie = 0;
     for (int zeile = 1; zeile <= 9; ++zeile)
         Option1(zeile).BackColor = farbe(bausteine().Zeilenfarben[zeile - 1][Kategorie]);

@@ -15,7 +15,7 @@ constexpr TextView EineAG = u" der Arbeitsgemeinschaft ";
 constexpr TextView MehrereAGs = u" den Arbeitsgemeinschaften ";
 constexpr TextView EineAGListe = u"Arbeitsgemeinschaft: ";
 constexpr TextView MehrereAGsListe = u"Arbeitsgemeinschaften: ";
-constexpr std::array<Verbindung, 5> Verbindungen = {{
+constexpr std::array<Verbindung, 5> Verbindungen = std::to_array<Verbindung>({
     {{u"'?????"
       u"'",
       u"", u""},
@@ -25,7 +25,7 @@ constexpr std::array<Verbindung, 5> Verbindungen = {{
     {{u" und ", u"", u""}, MehrereAGs, MehrereAGsListe},
     {{u", ", u" und ", u""}, MehrereAGs, MehrereAGsListe},
     {{u", ", u", ", u" und "}, MehrereAGs, MehrereAGsListe},
-}};
+});
 
 } // namespace
 

@@ -9,12 +9,13 @@
 namespace zeugnis::driver {
 namespace {
 
-constexpr std::array<std::pair<Antwort, const char*>, 4> AnswerNames = {{
-    {Antwort::Ok, "ok"},
-    {Antwort::Ja, "yes"},
-    {Antwort::Nein, "no"},
-    {Antwort::Abbrechen, "cancel"},
-}};
+constexpr std::array<std::pair<Antwort, const char*>, 4> AnswerNames =
+    std::to_array<std::pair<Antwort, const char*>>({
+        {Antwort::Ok, "ok"},
+        {Antwort::Ja, "yes"},
+        {Antwort::Nein, "no"},
+        {Antwort::Abbrechen, "cancel"},
+    });
 
 const char* nameOf(Antwort answer) { return AnswerNames.at(static_cast<size_t>(answer)).second; }
 

@@ -52,7 +52,7 @@ struct Property {
     Value (*read)(const Control&);
 };
 
-constexpr std::array<Property, 12> Properties = {{
+constexpr auto Properties = std::to_array<Property>({
     {"Caption",
      [](const Control& c) {
          return of<CaptionedControl>(c, [](const auto& x) { return jsonString(x.Caption); });
@@ -77,7 +77,7 @@ constexpr std::array<Property, 12> Properties = {{
          return of<TextBox>(c, [](const auto& x) { return number(x.Locked); });
      }},
     {"Reachable", [](const Control& c) { return Value(number(c.reachable())); }},
-}};
+});
 
 } // namespace
 

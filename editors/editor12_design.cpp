@@ -27,7 +27,7 @@ constexpr Feldreihe rot(int textfeld, int box, int zeile,
     return {textfeld, box, 1, Zwischen, 1, zeile, true, gilt};
 }
 
-constexpr std::array<Feldreihe, 61> Feldertafel = {{
+constexpr auto Feldertafel = std::to_array<Feldreihe>({
     {1, 0, 1, Interessen, 1, 0, true},
     {1, 1, 15, Interessen, 1, 1},
     {2, 0, 4, Sprechen, 1},
@@ -91,13 +91,12 @@ constexpr std::array<Feldreihe, 61> Feldertafel = {{
     rot(7, 17, 17),
     rot(7, 22, 18),
     rot(8, 1, 19),
-}};
+});
 
-constexpr std::array<TextView, 14> ZuKopieren = {
-    u"Interessen12.Txt", u"Sprechen1.Txt",    u"Sprechen2.Txt",    u"Lesen1.Txt",
-    u"Lesen2.Txt",       u"Schreiben1.Txt",   u"Schreiben2.Txt",   u"Mathe1.Txt",
-    u"Mathe2.Txt",       u"Bemerkungen1.Txt", u"Bemerkungen2.Txt", u"Versetzung1.Txt",
-    u"Versetzung2.Txt",  u"Zwischentexte.Txt"};
+constexpr auto ZuKopieren = std::to_array<TextView>(
+    {u"Interessen12.Txt", u"Sprechen1.Txt", u"Sprechen2.Txt", u"Lesen1.Txt", u"Lesen2.Txt",
+     u"Schreiben1.Txt", u"Schreiben2.Txt", u"Mathe1.Txt", u"Mathe2.Txt", u"Bemerkungen1.Txt",
+     u"Bemerkungen2.Txt", u"Versetzung1.Txt", u"Versetzung2.Txt", u"Zwischentexte.Txt"});
 
 struct Seite {
     TextView Taste;
@@ -105,7 +104,7 @@ struct Seite {
     bool MitRotem = true;
     bool MitBlauem = false;
 };
-constexpr std::array<Seite, GSAenderung12::Seitenzahl> Seiten = {{
+constexpr std::array<Seite, GSAenderung12::Seitenzahl> Seiten = std::to_array<Seite>({
     {u"Interessen", u"Interessen, Fähigkeiten, Fertigkeiten", false},
     {u"Deutsch Sprechen und Zuhören", Kompetenzbereiche[0], false},
     {u"Deutsch Lesen Texte", Kompetenzbereiche[1], false},
@@ -114,7 +113,7 @@ constexpr std::array<Seite, GSAenderung12::Seitenzahl> Seiten = {{
     {u"Mathe Größen Messen", Kompetenzbereiche[4]},
     {u"Mathe  Raum Form", Kompetenzbereiche[5]},
     {u"Bemerkungen", u"Bemerkungen und Versetzung", true, true},
-}};
+});
 
 constexpr TextView HinweisVorname =
     u"Der Vorname wird hier vom Programm automatisch davorgesetzt. Auch der Punkt am Ende wird vom "
@@ -155,14 +154,15 @@ GSAenderung12::GSAenderung12(Programm& programm)
 }
 
 Frame& GSAenderung12::rahmen(int seite) {
-    const std::array<Frame*, Seitenzahl> alle = {&Frame1, &Frame2, &Frame3, &Frame4,
-                                                 &Frame5, &Frame6, &Frame7, &Frame8};
+    const std::array<Frame*, Seitenzahl> alle = std::to_array<Frame*>(
+        {&Frame1, &Frame2, &Frame3, &Frame4, &Frame5, &Frame6, &Frame7, &Frame8});
     return *alle.at(static_cast<size_t>(seite));
 }
 
 const ControlArray<TextBox>& GSAenderung12::textfeld(int nummer) const {
-    const std::array<const ControlArray<TextBox>*, Seitenzahl> alle = {
-        &Text1, &Text2, &Text3, &Text4, &Text5, &Text6, &Text7, &Text8};
+    const std::array<const ControlArray<TextBox>*, Seitenzahl> alle =
+        std::to_array<const ControlArray<TextBox>*>(
+            {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6, &Text7, &Text8});
     return *alle.at(static_cast<size_t>(nummer - 1));
 }
 

@@ -21,7 +21,7 @@ bool imHalbjahr1(const Bausteineditor& editor) { return IstZahl(editor.Halbjahr,
 bool imHalbjahr2(const Bausteineditor& editor) { return IstZahl(editor.Halbjahr, 2); }
 
 // Text2(0), Text2(1) and Text4(0) show no cell.
-constexpr std::array<Feldreihe, 16> Feldertafel = {{
+constexpr auto Feldertafel = std::to_array<Feldreihe>({
     {1, 0, 8, Foerder},
     {2, 2, 2, AG},
     {3, 0, 1, Interessen, 1, 0, true},
@@ -38,12 +38,11 @@ constexpr std::array<Feldreihe, 16> Feldertafel = {{
     {4, 17, 4, Versetzung3, 2, 0, false, imHalbjahr2},
     {4, 17, 4, Versetzung4, 1, 0, false, imHalbjahr1},
     {4, 17, 4, Versetzung4, 2, 0, false, imHalbjahr2},
-}};
+});
 
-constexpr std::array<TextView, 7> ZuKopieren = {
-    u"Förder34.Txt",    u"Zensurabweichung.Txt", u"Interessen34.Txt",
-    u"Versetzung3.Txt", u"Versetzung4.Txt",      u"Bemerkungen34.Txt",
-    u"AG.Txt"};
+constexpr auto ZuKopieren = std::to_array<TextView>(
+    {u"Förder34.Txt", u"Zensurabweichung.Txt", u"Interessen34.Txt", u"Versetzung3.Txt",
+     u"Versetzung4.Txt", u"Bemerkungen34.Txt", u"AG.Txt"});
 
 constexpr TextView HinweisPunkt = u"Der Punkt am Ende wird vom Programm gesetzt. Kommata bitte nur "
                                   u"in der Mitte des Textes einfügen.";
@@ -73,12 +72,13 @@ GSAenderung34::GSAenderung34(Programm& programm)
 }
 
 Frame& GSAenderung34::rahmen(int seite) {
-    const std::array<Frame*, Seitenzahl> alle = {&Frame1, &Frame2, &Frame3};
+    const std::array<Frame*, Seitenzahl> alle = std::to_array<Frame*>({&Frame1, &Frame2, &Frame3});
     return *alle.at(static_cast<size_t>(seite));
 }
 
 const ControlArray<TextBox>& GSAenderung34::textfeld(int nummer) const {
-    const std::array<const ControlArray<TextBox>*, 4> alle = {&Text1, &Text2, &Text3, &Text4};
+    const std::array<const ControlArray<TextBox>*, 4> alle =
+        std::to_array<const ControlArray<TextBox>*>({&Text1, &Text2, &Text3, &Text4});
     return *alle.at(static_cast<size_t>(nummer - 1));
 }
 

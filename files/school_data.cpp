@@ -10,12 +10,19 @@
 namespace zeugnis {
 namespace {
 
-constexpr std::array<Text Schuldaten::*, BasisdatenFelder> Felder = {
-    &Schuldaten::Schulname,      &Schuldaten::Schulzusatz,        &Schuldaten::Schulanschrift,
-    &Schuldaten::Ausgabeort,     &Schuldaten::Ausgabedatum,       &Schuldaten::Schuljahr,
-    &Schuldaten::Halbjahr,       &Schuldaten::NaechstesSchuljahr, &Schuldaten::Konferenzdatum,
-    &Schuldaten::Klassenleitung,
-};
+constexpr std::array<Text Schuldaten::*, BasisdatenFelder> Felder =
+    std::to_array<Text Schuldaten::*>({
+        &Schuldaten::Schulname,
+        &Schuldaten::Schulzusatz,
+        &Schuldaten::Schulanschrift,
+        &Schuldaten::Ausgabeort,
+        &Schuldaten::Ausgabedatum,
+        &Schuldaten::Schuljahr,
+        &Schuldaten::Halbjahr,
+        &Schuldaten::NaechstesSchuljahr,
+        &Schuldaten::Konferenzdatum,
+        &Schuldaten::Klassenleitung,
+    });
 
 } // namespace
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int LetztesSchulfeld = 9; // releasing the pupils leaves the class teacher's name locked
 constexpr int ErsetzteAnfuehrungszeichen = 11;
-constexpr std::array<TextView, 2> Geschlechter = {u"m", u"w"};
+constexpr std::array<TextView, 2> Geschlechter = std::to_array<TextView>({u"m", u"w"});
 
 template <typename T>
 size_t platz(const T& control) {

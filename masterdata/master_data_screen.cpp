@@ -26,13 +26,13 @@ struct Tastenregel {
     Text GsBasis::*Gedaechtnis;
     TextView Hinweis;
 };
-constexpr std::array<Tastenregel, 3> Tastenregeln = {{
+constexpr auto Tastenregeln = std::to_array<Tastenregel>({
     {3, u"2", &GsBasis::ErsteZifferSchuljahr,
      u"Geben Sie die Jahreszahl im Format 2005/2006 von vorn beginnend ein!"},
     {HalbjahrFeld, u"12", nullptr, u"Es sind nur die Ziffern 1 und 2 erlaubt!"},
     {5, u"1234", &GsBasis::ErsteZifferKlasse,
      u"Am Anfang dürfen nur die Ziffern 1, 2, 3 oder 4 stehen!"},
-}};
+});
 
 bool enthaelt(TextView erlaubt, const Text& zeichen) {
     return !zeichen.empty() && erlaubt.find(zeichen) != TextView::npos;
@@ -40,7 +40,7 @@ bool enthaelt(TextView erlaubt, const Text& zeichen) {
 
 } // namespace
 
-const std::array<Schulfeld, 11> Schulfelder = {{
+const std::array<Schulfeld, 11> Schulfelder = std::to_array<Schulfeld>({
     {u"Name:", ausSchule<&Schuldaten::Schulname>},
     {u"Zusatz:", ausSchule<&Schuldaten::Schulzusatz>},
     {u"Anschrift:", ausSchule<&Schuldaten::Schulanschrift>},
@@ -52,7 +52,7 @@ const std::array<Schulfeld, 11> Schulfelder = {{
     {u"Zeugniskonferenz-Datum:", ausSchule<&Schuldaten::Konferenzdatum>},
     {u"Zeugnisausgabe-Ort:", ausSchule<&Schuldaten::Ausgabeort>},
     {u"Klassenleitung:", ausSchule<&Schuldaten::Klassenleitung>},
-}};
+});
 
 void GsBasis::BasisLaden() {
     {

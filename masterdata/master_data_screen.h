@@ -117,12 +117,12 @@ struct Schuelerfeld {
     TextView Beschriftung;
     Text Schueler::*Wert;
 };
-inline constexpr std::array<Schuelerfeld, 5> Schuelerfelder = {{
+inline constexpr std::array<Schuelerfeld, 5> Schuelerfelder = std::to_array<Schuelerfeld>({
     {{}, nullptr},
     {u"Nachname:", &Schueler::Nachname},
     {u"Vorname:", &Schueler::Vorname},
     {u"geboren am:", &Schueler::Geburtsdatum},
     {u"in:", &Schueler::Geburtsort},
-}};
+});
 
 } // namespace zeugnis

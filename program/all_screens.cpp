@@ -30,7 +30,7 @@ struct Eintrag {
     TextView Name;
     Erzeuger Neu;
 };
-constexpr std::array<Eintrag, 11> Verzeichnis = {{
+constexpr auto Verzeichnis = std::to_array<Eintrag>({
     {bildschirme::GsStart, neu<GsStart>},
     {bildschirme::GsBasis, neu<GsBasis>},
     {bildschirme::GsArbeitsverhalten, neu<GsArbeitsverhalten>},
@@ -42,7 +42,7 @@ constexpr std::array<Eintrag, 11> Verzeichnis = {{
     {bildschirme::GsAnzeige, neu<GsAnzeige>},
     {bildschirme::Einfuegungen, neu<Einfuegungen>},
     {bildschirme::Listen, neu<Listen>},
-}};
+});
 
 constexpr auto Namen = [] {
     std::array<TextView, Verzeichnis.size()> namen;

@@ -13,12 +13,13 @@ struct Taste {
     TextView Beschriftung;
     TextView Befehl;
 };
-constexpr std::array<Taste, 6> Listentasten = {{{u"Zeugnisanlagen", word::Zeugnisanlagen},
-                                                {u"Klassenliste", word::Klassenliste},
-                                                {u"Strichliste", word::Strichliste},
-                                                {u"Bildbenennungs-Liste", word::Bilderliste},
-                                                {u"Leere Zeugnisse", word::LeereZeugnisse},
-                                                {u"Beenden", {}}}};
+constexpr std::array<Taste, 6> Listentasten =
+    std::to_array<Taste>({{u"Zeugnisanlagen", word::Zeugnisanlagen},
+                          {u"Klassenliste", word::Klassenliste},
+                          {u"Strichliste", word::Strichliste},
+                          {u"Bildbenennungs-Liste", word::Bilderliste},
+                          {u"Leere Zeugnisse", word::LeereZeugnisse},
+                          {u"Beenden", {}}});
 
 } // namespace
 

@@ -33,7 +33,7 @@ struct Ziel {
         return bildschirm == Unten || bildschirm == Oben;
     }
 };
-constexpr std::array<Ziel, 7> Ziele = {{
+constexpr std::array<Ziel, 7> Ziele = std::to_array<Ziel>({
     {bildschirme::GsArbeitsverhalten, bildschirme::GsArbeitsverhalten, true},
     {bildschirme::Kompetenzen, bildschirme::Kompetenzen, true},
     {bildschirme::GSAGFI, bildschirme::GSAGFI, true},
@@ -41,7 +41,7 @@ constexpr std::array<Ziel, 7> Ziele = {{
     {bildschirme::GSAVSVAenderung, bildschirme::GSAVSVAenderung, false},
     {bildschirme::GSAenderung12, bildschirme::GSAenderung34, true},
     {bildschirme::GsBasis, bildschirme::GsBasis, false},
-}};
+});
 constexpr int ErsterEditor = 5; // from here on a press does not unload its own screen
 constexpr int Programmende = 7;
 
@@ -49,7 +49,7 @@ struct Beschriftung {
     TextView Caption;
     TextView ToolTip;
 };
-constexpr std::array<Beschriftung, 8> Hauptknoepfe = {{
+constexpr std::array<Beschriftung, 8> Hauptknoepfe = std::to_array<Beschriftung>({
     {u"Arbeits- und Sozialverhalten erstellen", u"Texte für jeden Schüler erstellen"},
     {u"Interessen, Kompetenzen und Bemerkungen erstellen", u"Texte für jeden Schüler erstellen "},
     {u"Förderteilnahme, AG, Interessen und Bemerkungen erstellen",
@@ -61,7 +61,7 @@ constexpr std::array<Beschriftung, 8> Hauptknoepfe = {{
     {u"", u"Textvorgaben selbst ändern und anpassen"},
     {u"Stammdaten prüfen und ggf. ändern", u"Basisdaten des Gesamtprogrammes eingeben oder ändern"},
     {u"Programm beenden", u"Das Programm schließen"},
-}};
+});
 
 } // namespace
 

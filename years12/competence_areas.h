@@ -20,9 +20,9 @@ inline constexpr int Rot = 9;
 inline constexpr int Verlassen = 10;
 } // namespace farben
 
-inline constexpr std::array<Farbwert, 11> Farbtafel = {0xC0FFC0, 0xC0E0FF, 0x00FFFF, 0xFFFFC0,
-                                                       0xC0FFFF, 0x80FF80, 0xC0C0C0, 0xFFC0FF,
-                                                       0xFFFFFF, 0x0000FF, 0x8080FF};
+inline constexpr std::array<Farbwert, 11> Farbtafel =
+    std::to_array<Farbwert>({0xC0FFC0, 0xC0E0FF, 0x00FFFF, 0xFFFFC0, 0xC0FFFF, 0x80FF80, 0xC0C0C0,
+                             0xFFC0FF, 0xFFFFFF, 0x0000FF, 0x8080FF});
 
 constexpr Farbwert farbe(int eintrag) { return Farbtafel.at(static_cast<size_t>(eintrag)); }
 

@@ -109,8 +109,10 @@ class GSAGFI : public Screen {
     TextBox Text3{*this, u"Text3"};
 
     /// By page.
-    const std::array<Frame*, jahrgang34::Seitenzahl> Rahmen = {&Frame1, &Frame2, &Frame3};
-    const std::array<TextBox*, jahrgang34::Seitenzahl> Textfelder = {&Text1, &Text2, &Text3};
+    const std::array<Frame*, jahrgang34::Seitenzahl> Rahmen =
+        std::to_array<Frame*>({&Frame1, &Frame2, &Frame3});
+    const std::array<TextBox*, jahrgang34::Seitenzahl> Textfelder =
+        std::to_array<TextBox*>({&Text1, &Text2, &Text3});
 
   private:
     void EntwurfSetzen();
@@ -147,13 +149,13 @@ class GSAGFI : public Screen {
         const ControlArray<OptionButton>& Optionen;
         int Arbeitsstand::*Wahl;
     };
-    const std::array<Optionsgruppe, 5> Optionsgruppen = {{
+    const std::array<Optionsgruppe, 5> Optionsgruppen = std::to_array<Optionsgruppe>({
         {Option6, &Arbeitsstand::AGWahl},
         {Option1, &Arbeitsstand::InteressenWahl},
         {Option2, &Arbeitsstand::LernWahl},
         {Option3, &Arbeitsstand::UrteilWahl},
         {Option4, &Arbeitsstand::VersetzungWahl},
-    }};
+    });
 
     [[nodiscard]] Arbeitsstand& stand() { return Staende[AktuellerSchueler]; }
     [[nodiscard]] Text& textVon(int seite) { return Speicher.Texte[seite][AktuellerSchueler]; }
