@@ -4,7 +4,21 @@
 
 #include <unicode/coll.h>
 
+#include <algorithm>
+
 namespace zeugnis {
+namespace {
+
+// The noncharacter whose weight lies below all others, for the separation of merged sort keys.
+constexpr char16_t FieldEnd = 0xFFFE;
+
+icu::UnicodeString withFieldEnds(TextView text) {
+    Text key(text);
+    std::replace(key.begin(), key.end(), u'"', FieldEnd);
+    return {key.data(), static_cast<int32_t>(key.size())};
+}
+
+} // namespace
 
 struct Collation::Rules {
     std::unique_ptr<icu::Collator> collator;
@@ -26,9 +40,10 @@ Collation::Collation() : m_rules(std::make_unique<Rules>()) {
 Collation::~Collation() = default;
 
 bool Collation::before(TextView left, TextView right) const {
+    const icu::UnicodeString leftKey = withFieldEnds(left);
+    const icu::UnicodeString rightKey = withFieldEnds(right);
     UErrorCode status = U_ZERO_ERROR;
-    return m_rules->collator->compare(left.data(), static_cast<int32_t>(left.size()), right.data(),
-                                      static_cast<int32_t>(right.size()), status) == UCOL_LESS;
+    return m_rules->collator->compare(leftKey, rightKey, status) == UCOL_LESS;
 }
 
 } // namespace zeugnis

@@ -7,7 +7,8 @@
 namespace zeugnis {
 
 /// The order of German lists: umlauts and accents stand beside their letters, upper and lower case
-/// are the same, and punctuation and blanks count, in front of digits and letters.
+/// are the same, and punctuation and blanks count, in front of digits and letters. A double quote,
+/// which ends a field, comes before every character.
 class Collation {
   public:
     Collation();

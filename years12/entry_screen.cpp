@@ -110,9 +110,11 @@ void Kompetenzen::Command1_Click(int Index) {
         ZwischentexteSetzen();
     Command2.Enabled = true;
     Command2.BackColor = farbe(farben::Markiert);
-    const bool gesperrt = sperre() == 1;
-    Command4.BackColor = farbe(gesperrt ? farben::Rot : farben::Neutral);
-    Command4.Enabled = gesperrt;
+    if (IstSperre(sperre())) {
+        const bool gesperrt = sperre() == 1;
+        Command4.BackColor = farbe(gesperrt ? farben::Rot : farben::Neutral);
+        Command4.Enabled = gesperrt;
+    }
     SperreZeigen();
 }
 

@@ -118,6 +118,8 @@ void Kompetenzen::SeiteFaerben() {
 }
 
 void Kompetenzen::SperreZeigen() {
+    if (!IstSperre(sperre()))
+        return;
     const bool gesperrt = sperre() == 1;
     Picture2.Visible = gesperrt;
     Frame1(aktSeite).Enabled = !gesperrt;

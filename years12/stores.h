@@ -8,9 +8,12 @@ namespace zeugnis::jahrgang12 {
 /// The work done on the whole class, in memory as in 12Speicher.txt and 12Sperre.txt.
 struct Speicher12 {
     Bereichstabelle<Schuelertabelle<Text>> Bereichstext;
-    /// 1: the text stands, and the page takes no choices. 0: it does.
+    /// 1: the text stands, and the page takes no choices. 0: it does. What else a file holds
+    /// shows and hides nothing.
     Bereichstabelle<Schuelertabelle<int>> Sperre;
 };
+
+inline bool IstSperre(int wert) { return wert == 0 || wert == 1; }
 
 /// Reads both files. Records belong to the children by their place alone. Each area that has a text
 /// is locked, as far as 12Sperre.txt reaches. A 37th record fails with index-out-of-range.

@@ -154,10 +154,12 @@ void GSAGFI::NeuTasteAktualisieren() {
 }
 
 void GSAGFI::SperreAnzeigen() {
-    const bool gesperrt = sperreVon(Seite) != 0;
-    Picture2.Visible = gesperrt;
-    rahmen(Seite).Enabled = !gesperrt;
-    if (gesperrt || Seite == SeiteBemerkungen)
+    const int sperre = sperreVon(Seite);
+    if (sperre == 0 || sperre == 1) {
+        Picture2.Visible = sperre == 1;
+        rahmen(Seite).Enabled = sperre == 0;
+    }
+    if (sperre == 1 || Seite == SeiteBemerkungen)
         Command1(2).Enabled = true;
 }
 

@@ -211,6 +211,33 @@ TEST_F(MasterDataScreen, EndsTooHighWithoutTheFolderOfTheCopies) {
     EXPECT_FALSE(installation.has(u"Daten/Namen.Txt"));
 }
 
+TEST_F(MasterDataScreen, DeletesNothingWhereItCannotTellWhetherTheFolderIsThere) {
+    GsBasis& screen = unlocked(1);
+    installation.remove(u"Daten/Sicherheit");
+    std::filesystem::create_directory_symlink("Sicherheit",
+                                              installation.path() / "Daten/Sicherheit");
+    user::click(screen.Command1(0));
+    EXPECT_TRUE(installation.has(u"Daten/Namen.Txt"));
+}
+
+TEST_F(MasterDataScreen, BlanksTheStoresAgainAtTheSaveOnceDataWereUnlocked) {
+    for (const bool school : {true, false}) {
+        prepare(2);
+        GsBasis& screen = opened();
+        machine->dialogs.answers = {Antwort::Ja};
+        user::click(school ? static_cast<Control&>(screen.Command3) : screen.Command5);
+        installation.write(u"Daten/34Speicher.txt", u"meanwhile");
+        user::click(screen.Command1(0));
+        EXPECT_EQ(records(u"34Speicher.txt"), 2) << school;
+    }
+    prepare(2);
+    GsBasis& locked = opened();
+    installation.write(u"Daten/34Speicher.txt", u"kept");
+    user::click(locked.Text1(6));
+    user::click(locked.Command1(0));
+    EXPECT_EQ(installation.read(u"Daten/34Speicher.txt"), u"kept");
+}
+
 TEST_F(MasterDataScreen, FailsOnDamagedFilesWhenItOpens) {
     const std::pair<TextView, TextView> damages[] = {{u"sib1undsib2.txt", u"\"A\"\r\n"},
                                                      {u"Sibankpfad.txt", u""},

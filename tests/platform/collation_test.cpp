@@ -11,11 +11,25 @@ namespace {
 TEST(Collation, OrdersNamesAsAGermanListDoes) {
     const Collation order;
     const std::vector<Text> sorted = {
-        u"Gross\",\"Anna", u"Groß\",\"Bert",    u"Gross\",\"Carl", // ß is ss
-        u"O Neil",         u"O'Neil",           u"Oneil",          // blanks and signs come first
-        u"Ozan",           u"Öztürk\",\"Aylin", u"Ozturk\",\"Zoe", // umlauts stand beside
-        u"Schmidt-Lang",   u"Schmidtke",        u"von Berg",
-        u"Vonau",          u"Zoe\",\"2",        u"Zoé\",\"3",
+        u"Gross\",\"Anna",
+        u"Groß\",\"Bert",
+        u"Gross\",\"Carl", // ß is ss
+        // The end of a field comes first, then blanks and signs.
+        u"O\",\"Zoe",
+        u"O Neil\",\"Zoe",
+        u"O'Neil\",\"Anna",
+        u"Oneil",
+        u"Ozan",
+        u"Öztürk\",\"Aylin",
+        u"Ozturk\",\"Zoe", // umlauts stand beside
+        u"Schmidt\",\"Karl\",\"m\"",
+        u"Schmidt\",\"Karl Otto\",\"m\"",
+        u"Schmidt-Lang\",\"Anna",
+        u"Schmidtke",
+        u"von Berg",
+        u"Vonau",
+        u"Zoe\",\"2",
+        u"Zoé\",\"3",
     };
     for (size_t i = 0; i < sorted.size(); ++i)
         for (size_t j = 0; j < sorted.size(); ++j)

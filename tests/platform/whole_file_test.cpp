@@ -69,6 +69,28 @@ TEST_F(WholeFile, FailedWriteLeavesTheFormerContent) {
     EXPECT_EQ(folder.read(u"Speicher.txt"), u"alter Inhalt");
 }
 
+TEST_F(WholeFile, SaysWhetherTheFormerContentStands) {
+    folder.write(u"alt.txt", u"alter Inhalt");
+    const auto sentenceFor = [&](TextView name) {
+        const FileSizeLimit limit(100);
+        return failureSentenceOf([&] { writeWholeFile(directory, name, std::string(5000, 'x')); });
+    };
+    EXPECT_TRUE(
+        sentenceFor(u"alt.txt").ends_with(u"Der bisherige Inhalt wurde wiederhergestellt."));
+    EXPECT_TRUE(sentenceFor(u"neu.txt").ends_with(u"Es wurde keine Datei angelegt."));
+    EXPECT_FALSE(folder.has(u"neu.txt"));
+}
+
+TEST_F(WholeFile, WritesOverWhatStoodThereAndCutsTheRest) {
+    folder.write(u"x.txt", u"ein langer alter Inhalt");
+    const auto before = fs::status(folder.path() / "x.txt").permissions();
+    fs::create_hard_link(folder.path() / "x.txt", folder.path() / "same.txt");
+    writeWholeFile(directory, u"x.txt", "kurz");
+    EXPECT_EQ(folder.read(u"x.txt"), u"kurz");
+    EXPECT_EQ(folder.read(u"same.txt"), u"kurz"); // no file took its place
+    EXPECT_EQ(fs::status(folder.path() / "x.txt").permissions(), before);
+}
+
 TEST_F(WholeFile, CopiesOverAnotherFileWhateverItsCase) {
     folder.write(u"TexteAV.txt", u"neu\r\n");
     folder.write(u"Standard/TexteAVStandard.txt", u"alter, längerer Inhalt\r\n");
