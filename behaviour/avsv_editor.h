@@ -39,22 +39,22 @@ class GSAVSVAenderung : public Screen {
     int Farbzaehler = 0; ///< the colour that the next click on any colour button gives, 0 to 4
     Text Passwort;
 
-    Label Label1{*this, u"Label1"};
-    Label Label2{*this, u"Label2"};
-    TextBox Text1{*this, u"Text1"};
-    ControlArray<Label> Label5{*this, u"Label5", 0, 9};
-    ControlArray<TextBox> Text2{*this, u"Text2", 0, 9};
-    Label Label4{*this, u"Label4"};
-    ControlArray<Button> Command7{*this, u"Command7", 0, 9};
-    Control Line1{*this, u"Line1"};
-    Label Label3{*this, u"Label3"};
-    ControlArray<Button> Command1{*this, u"Command1", 0, 1};
-    Button Command2{*this, u"Command2"};
-    Button Command3{*this, u"Command3"};
-    ControlArray<Button> Command4{*this, u"Command4", 0, KategorienHoechstens - 1};
-    ControlArray<Button> Command8{*this, u"Command8", 0, 2};
-    Button Command5{*this, u"Command5"};
-    Button Command6{*this, u"Command6"};
+    Label Label1{*this, u"Label1"}; ///< title; a double click renews the Standard
+    Label Label2{*this, u"Label2"}; ///< "Kategorie:"
+    TextBox Text1{*this, u"Text1"}; ///< name of the category
+    ControlArray<Label> Label5{*this, u"Label5", 0, 9};      ///< numbers of the lines
+    ControlArray<TextBox> Text2{*this, u"Text2", 0, 9};      ///< lines
+    Label Label4{*this, u"Label4"};                          ///< heading of the colours
+    ControlArray<Button> Command7{*this, u"Command7", 0, 9}; ///< next colour for a line
+    Control Line1{*this, u"Line1"};                          ///< how far a line should reach
+    Label Label3{*this, u"Label3"};                          ///< hints
+    ControlArray<Button> Command1{*this, u"Command1", 0, 1}; ///< load Standard, current
+    Button Command2{*this, u"Command2"};                     ///< section AV
+    Button Command3{*this, u"Command3"};                     ///< section SV
+    ControlArray<Button> Command4{*this, u"Command4", 0, KategorienHoechstens - 1}; ///< categories
+    ControlArray<Button> Command8{*this, u"Command8", 0, 2}; ///< placeholders: show, hide; help
+    Button Command5{*this, u"Command5"};                     ///< save all
+    Button Command6{*this, u"Command6"};                     ///< leave
 
   private:
     void EntwurfSetzen();

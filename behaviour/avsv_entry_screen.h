@@ -43,23 +43,23 @@ class GsArbeitsverhalten : public Screen {
     int Zeile = 0;
     bool Gespeichert = false;
 
-    Label Label1{*this, u"Label1"};
-    Label Label2{*this, u"Label2"};
-    ComboBox Combo1{*this, u"Combo1"};
-    Label Label3{*this, u"Label3"};
-    PictureBox Picture1{*this, u"Picture1"};
-    PictureBox Picture4{*this, u"Picture4"};
-    Button Command1{*this, u"Command1"};
-    Button Command2{*this, u"Command2"};
-    ControlArray<Button> Command3{*this, u"Command3", 0, KategorienHoechstens - 1};
-    Frame Frame1{*this, u"Frame1"};
-    ControlArray<OptionButton> Option1{*this, u"Option1", 0, 9, &Frame1};
-    ControlArray<TextBox> Text1{*this, u"Text1", 0, 1};
-    Button Command4{*this, u"Command4"};
-    Button Command5{*this, u"Command5"};
-    Button Command6{*this, u"Command6"};
-    ControlArray<Button> Command7{*this, u"Command7", 0, 1};
-    Button Command8{*this, u"Command8"};
+    Label Label1{*this, u"Label1"};          ///< title
+    Label Label2{*this, u"Label2"};          ///< class
+    ComboBox Combo1{*this, u"Combo1"};       ///< pupils
+    Label Label3{*this, u"Label3"};          ///< what to do now
+    PictureBox Picture1{*this, u"Picture1"}; ///< the pupil
+    PictureBox Picture4{*this, u"Picture4"}; ///< lock sign
+    Button Command1{*this, u"Command1"};     ///< section AV
+    Button Command2{*this, u"Command2"};     ///< section SV
+    ControlArray<Button> Command3{*this, u"Command3", 0, KategorienHoechstens - 1}; ///< categories
+    Frame Frame1{*this, u"Frame1"}; ///< the lines of a category
+    ControlArray<OptionButton> Option1{*this, u"Option1", 0, 9, &Frame1}; ///< lines; 0 chooses none
+    ControlArray<TextBox> Text1{*this, u"Text1", 0, 1};      ///< text of AV (0) and SV (1)
+    Button Command4{*this, u"Command4"};                     ///< save all
+    Button Command5{*this, u"Command5"};                     ///< leave
+    Button Command6{*this, u"Command6"};                     ///< starts the text anew
+    ControlArray<Button> Command7{*this, u"Command7", 0, 1}; ///< insertion window: show, hide
+    Button Command8{*this, u"Command8"};                     ///< help
 
   private:
     void EntwurfSetzen();

@@ -21,6 +21,22 @@ if(ZEUGNIS_FUZZ)
 endif()
 target_compile_options(zeugnis_compiler INTERFACE ${ZEUGNIS_WARNINGS})
 
+# What is delivered defends itself: checked containers, guarded stacks and calls, tables that are
+# read-only once the program runs.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported()
+target_compile_definitions(zeugnis_compiler INTERFACE
+    $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS> $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+target_compile_options(zeugnis_compiler INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+        target_compile_options(zeugnis_compiler INTERFACE $<$<CONFIG:Release>:-fcf-protection=full>)
+    endif()
+    target_link_options(zeugnis_compiler INTERFACE
+        $<$<CONFIG:Release>:LINKER:-z,relro> $<$<CONFIG:Release>:LINKER:-z,now>)
+endif()
+
 find_program(CCACHE ccache)
 if(CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})

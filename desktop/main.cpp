@@ -10,30 +10,42 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QMessageBox>
 
-#include <filesystem>
+namespace {
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationDisplayName(zeugnis::qString(zeugnis::Programmtitel));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
-    zeugnis::theme::apply(application);
+using namespace zeugnis;
 
-    zeugnis::DesktopDialogs dialogs;
-    zeugnis::DesktopClipboard clipboard;
-    zeugnis::SystemCalendar calendar;
-    zeugnis::DesktopPictures pictures;
-    zeugnis::WordLauncher launcher(QApplication::applicationDirPath());
-    zeugnis::Programm program({dialogs, clipboard, calendar, pictures, launcher},
-                              std::filesystem::current_path());
-    zeugnis::BildschirmeAnmelden(program);
+int run() {
+    DesktopDialogs dialogs;
+    DesktopClipboard clipboard;
+    SystemCalendar calendar;
+    DesktopPictures pictures;
+    WordLauncher launcher(QApplication::applicationDirPath());
+    Programm program({dialogs, clipboard, calendar, pictures, launcher}, startFolder());
+    BildschirmeAnmelden(program);
 
-    zeugnis::WindowHost host(program);
+    WindowHost host(program);
     dialogs.beforeBox = [&host] { host.refresh(); };
     dialogs.parent = [&host] { return host.dialogParent(); };
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
-        &host, [&] { host.run([&program] { program.show(zeugnis::bildschirme::GsStart); }); },
+        &host, [&] { host.run([&program] { program.show(bildschirme::GsStart); }); },
         Qt::QueuedConnection);
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationDisplayName(qString(Programmtitel));
+    theme::apply(application);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
+    try {
+        return run();
+    } catch (const std::exception& failure) {
+        QMessageBox::critical(nullptr, qString(Programmtitel), qString(sentenceOf(failure)));
+        return 1;
+    }
 }

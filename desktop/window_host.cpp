@@ -33,8 +33,8 @@ void WindowHost::run(const std::function<void()>& action) {
         action();
         // Before the task ends, so that no window outlives its screen.
         refresh();
-    } catch (const Laufzeitfehler& failure) {
-        reportFailure(failure.sentence());
+    } catch (const std::exception& failure) {
+        reportFailure(sentenceOf(failure));
     }
     --m_depth;
     if (m_program.ended())

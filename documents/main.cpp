@@ -28,7 +28,7 @@ constexpr TextView OhneFenster = u"--no-window";
 int ohneFenster(const Aufruf& aufruf) {
     if (IstAnzeigetext(aufruf))
         AnzeigetextVerweigern();
-    Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
+    Arbeitsverzeichnis verzeichnis(startFolder());
     DokumentBereitstellen(verzeichnis, aufruf);
     return 0;
 }
@@ -37,7 +37,7 @@ Dokumentdateien mitFortschrittSchreiben(const Aufruf& aufruf, const std::filesys
     const auto schreibe = QStringLiteral("Das Dokument wird geschrieben …");
     if (!IstAnzeigetext(aufruf))
         return withProgress(schreibe, nullptr, [&](const std::stop_token& abbruch) {
-            Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
+            Arbeitsverzeichnis verzeichnis(startFolder());
             return DokumentBereitstellen(verzeichnis, aufruf, abbruch);
         });
     const Text text = fromQString(QGuiApplication::clipboard()->text());
@@ -111,7 +111,7 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
 }
 
 int mitFenster(const Aufruf& aufruf) {
-    Arbeitsverzeichnis verzeichnis(std::filesystem::current_path());
+    Arbeitsverzeichnis verzeichnis(startFolder());
     const Fensterart art = FensterFuer(verzeichnis, aufruf);
     const QTemporaryDir ordner;
     const std::filesystem::path umwandlungen = ordner.path().toStdU16String();
@@ -153,10 +153,7 @@ int main(int argc, char** argv) {
     try {
         const Aufruf aufruf = AufrufLesen(argumente);
         return stumm ? ohneFenster(aufruf) : mitFenster(aufruf);
-    } catch (const Laufzeitfehler& failure) {
-        return gescheitert(failure.sentence(), stumm);
     } catch (const std::exception& failure) {
-        return gescheitert(
-            u"Das Dokument kann nicht gezeigt werden: " + textFromUtf8(failure.what()), stumm);
+        return gescheitert(sentenceOf(failure), stumm);
     }
 }

@@ -36,8 +36,8 @@ int main(int argc, char** argv) {
             if (datei.path().extension() == ".txt")
                 hilfeSchreiben(quelle, ziel, datei.path().stem().string());
         return 0;
-    } catch (const Laufzeitfehler& fehler) {
-        std::cerr << fehler.what() << '\n';
+    } catch (const std::exception& failure) {
+        std::cerr << utf8FromText(sentenceOf(failure)) << '\n';
         return 1;
     }
 }

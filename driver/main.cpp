@@ -1,4 +1,5 @@
 #include "driver/driver.h"
+#include "platform/failure.h"
 
 #include <iostream>
 #include <string_view>
@@ -21,6 +22,11 @@ int main(int argc, char** argv) {
             return usage();
         date = zeugnis::textFromUtf8(argv[3]);
     }
-    zeugnis::driver::Driver driver(std::cout, argv[1], date);
-    return driver.run(std::cin);
+    try {
+        zeugnis::driver::Driver driver(std::cout, argv[1], date);
+        return driver.run(std::cin);
+    } catch (const std::exception& failure) {
+        std::cerr << zeugnis::utf8FromText(zeugnis::sentenceOf(failure)) << '\n';
+        return 1;
+    }
 }

@@ -51,25 +51,25 @@ class GsBasis : public Screen {
     Text ErsteZifferKlasse;
     Text ErsteZifferSchuljahr;
 
-    Frame Frame1{*this, u"Frame1"};
-    ControlArray<TextBox> Text1{*this, u"Text1", 0, 10};
-    ControlArray<Button> Command1{*this, u"Command1", 0, 1};
-    Button Command3{*this, u"Command3"};
-    Label Label5{*this, u"Label5"};
-    ControlArray<Button> Command7{*this, u"Command7", 0, 1};
-    Button Command5{*this, u"Command5"};
-    ComboBox Combo1{*this, u"Combo1"};
-    ControlArray<TextBox> Text2{*this, u"Text2", 1, 4};
-    ControlArray<OptionButton> Option1{*this, u"Option1", 0, 1};
-    ControlArray<Label> Label3{*this, u"Label3", 6, 6};
-    Label Label4{*this, u"Label4"};
-    ListBox List1{*this, u"List1"};
-    ControlArray<Button> Command2{*this, u"Command2", 0, 1};
-    ControlArray<TextBox> Text3{*this, u"Text3", 0, 3};
-    ControlArray<Button> Command4{*this, u"Command4", 0, 2};
-    Button Command6{*this, u"Command6"};
-    SortedListBox List2{*this, u"List2"};
-    Button Command8{*this, u"Command8"};
+    Frame Frame1{*this, u"Frame1"};                              ///< school data
+    ControlArray<TextBox> Text1{*this, u"Text1", 0, 10};         ///< school data, by Schulfelder
+    ControlArray<Button> Command1{*this, u"Command1", 0, 1};     ///< save, end the program
+    Button Command3{*this, u"Command3"};                         ///< unlocks the school data
+    Label Label5{*this, u"Label5"};                              ///< in front of the standard paths
+    ControlArray<Button> Command7{*this, u"Command7", 0, 1};     ///< puts a standard path in
+    Button Command5{*this, u"Command5"};                         ///< unlocks the pupil data
+    ComboBox Combo1{*this, u"Combo1"};                           ///< pupils by number
+    ControlArray<TextBox> Text2{*this, u"Text2", 1, 4};          ///< pupil data, by Schuelerfelder
+    ControlArray<OptionButton> Option1{*this, u"Option1", 0, 1}; ///< boy (0), girl (1)
+    ControlArray<Label> Label3{*this, u"Label3", 6, 6};          ///< heading of the working groups
+    Label Label4{*this, u"Label4"};                              ///< how to choose a working group
+    ListBox List1{*this, u"List1"};                              ///< working groups of the school
+    ControlArray<Button> Command2{*this, u"Command2", 0, 1};     ///< add a group, clear the list
+    ControlArray<TextBox> Text3{*this, u"Text3", 0, 3};          ///< the pupil's working groups
+    ControlArray<Button> Command4{*this, u"Command4", 0, 2};     ///< new list, delete, add pupil
+    Button Command6{*this, u"Command6"};                         ///< sorts the class
+    SortedListBox List2{*this, u"List2"};                        ///< hidden: does the sorting
+    Button Command8{*this, u"Command8"};                         ///< help
 
   private:
     void EntwurfSetzen();

@@ -43,4 +43,8 @@ class Laufzeitfehler : public std::exception {
     std::string m_what;
 };
 
+/// The German sentence of a failure, or one for any other exception: what a program's outer edge
+/// tells before it ends.
+Text sentenceOf(const std::exception& failure);
+
 } // namespace zeugnis

@@ -80,6 +80,16 @@ Entry folderBehind(const fs::path& start, const std::vector<Text>& names, size_t
 
 } // namespace
 
+fs::path startFolder() {
+    std::error_code failed;
+    fs::path folder = fs::current_path(failed);
+    if (failed)
+        throw Laufzeitfehler(Fehlerart::PathNotFound,
+                             u"Der Ordner, in dem das Programm gestartet wurde, ist nicht mehr "
+                             u"vorhanden. Starten Sie es bitte noch einmal in seinem Ordner.");
+    return folder;
+}
+
 Arbeitsverzeichnis::Arbeitsverzeichnis(const fs::path& programFolder) {
     std::error_code failed;
     m_base = fs::canonical(programFolder, failed);

@@ -32,6 +32,10 @@ class Arbeitsverzeichnis {
     std::filesystem::path m_current;
 };
 
+/// The folder that the program was started in, which is the program folder. Fails with
+/// path-not-found if it has been deleted meanwhile.
+std::filesystem::path startFolder();
+
 /// Into a folder, work there, and back with "..\" at the end of the block.
 class Ordnerwechsel {
   public:

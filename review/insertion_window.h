@@ -27,10 +27,10 @@ class Einfuegungen : public Screen {
     Tabelle<Text, 31> PlatzhalterTexte;
     Tabelle<Text, 31> PlatzhalterHinweise;
 
-    Label Label1{*this, u"Label1"};
-    ListBox List1{*this, u"List1"};
-    CheckBox Check1{*this, u"Check1"};
-    ControlArray<Button> Command1{*this, u"Command1", 0, 2};
+    Label Label1{*this, u"Label1"};                          ///< how to insert
+    ListBox List1{*this, u"List1"};                          ///< phrases or placeholders
+    CheckBox Check1{*this, u"Check1"};                       ///< always in front
+    ControlArray<Button> Command1{*this, u"Command1", 0, 2}; ///< delete, delete all, new phrase
 
   private:
     void PlatzhalterLesen();

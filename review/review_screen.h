@@ -33,13 +33,14 @@ class GsAnzeige : public Screen {
     Tabelle<Schuelertabelle<Text>, Abschnittszahl> Texte;
     Tabelle<bool, Abschnittszahl> Gewaehlt;
 
-    Label Label2{*this, u"Label2"};
-    Label Label1{*this, u"Label1"};
-    Frame Frame1{*this, u"Frame1"};
-    ControlArray<CheckBox> Check1{*this, u"Check1", 0, Abschnittszahl - 1, &Frame1};
-    TextBox Text1{*this, u"Text1"};
-    ControlArray<Button> Command1{*this, u"Command1", 0, 2};
-    Button Command8{*this, u"Command8"};
+    Label Label2{*this, u"Label2"}; ///< class and half-year
+    Label Label1{*this, u"Label1"}; ///< what to do now
+    Frame Frame1{*this, u"Frame1"}; ///< the sections
+    ControlArray<CheckBox> Check1{*this, u"Check1", 0, Abschnittszahl - 1,
+                                  &Frame1};                  ///< sections to show
+    TextBox Text1{*this, u"Text1"};                          ///< the texts
+    ControlArray<Button> Command1{*this, u"Command1", 0, 2}; ///< show, hand over to Word, leave
+    Button Command8{*this, u"Command8"};                     ///< help
 
   private:
     void EntwurfSetzen();

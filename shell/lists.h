@@ -13,8 +13,8 @@ class Listen : public Screen {
 
     void Command1_Click(int Index);
 
-    Label Label1{*this, u"Label1"};
-    ControlArray<Button> Command1{*this, u"Command1", 0, 5};
+    Label Label1{*this, u"Label1"};                          ///< what the panel is for
+    ControlArray<Button> Command1{*this, u"Command1", 0, 5}; ///< lists and forms; 5 closes
 };
 
 } // namespace zeugnis

@@ -33,24 +33,24 @@ class GsStart : public Screen {
     /// The file that BildWechseln shows next, and the one that LehrerbildLaden loads.
     Text Bildname;
 
-    ControlArray<Button> Command1{*this, u"Command1", 0, 7};
-    Button Command2{*this, u"Command2"};
-    Button Command3{*this, u"Command3"};
-    Button Command4{*this, u"Command4"};
-    Button Command5{*this, u"Command5"};
-    Button Command6{*this, u"Command6"};
-    Button Command7{*this, u"Command7"};
-    Button Command8{*this, u"Command8"};
-    ControlArray<Button> Command9{*this, u"Command9", 0, 3};
-    ControlArray<Label> Label1{*this, u"Label1", 0, 2};
-    Label Label2{*this, u"Label2"};
-    Label Label3{*this, u"Label3"};
-    Label Label4{*this, u"Label4"};
-    Label Label5{*this, u"Label5"};
-    Label Label6{*this, u"Label6"};
-    PictureBox Picture1{*this, u"Picture1"};
-    PictureBox Picture2{*this, u"Picture2"};
-    Timer Timer1{*this, u"Timer1"};
+    ControlArray<Button> Command1{*this, u"Command1", 0, 7}; ///< what to do, by Ziele; 7 ends
+    Button Command2{*this, u"Command2"};                     ///< shows the tools instead
+    Button Command3{*this, u"Command3"};                     ///< back from the tools
+    Button Command4{*this, u"Command4"};                     ///< writes the reports
+    Button Command5{*this, u"Command5"};                     ///< list of grades and absences
+    Button Command6{*this, u"Command6"};                     ///< opens the finished reports
+    Button Command7{*this, u"Command7"};                     ///< panel of lists
+    Button Command8{*this, u"Command8"};                     ///< help
+    ControlArray<Button> Command9{*this, u"Command9", 0, 3}; ///< help on printing
+    ControlArray<Label> Label1{*this, u"Label1", 0, 2};      ///< class, school year, half-year
+    Label Label2{*this, u"Label2"};                          ///< what to do now
+    Label Label3{*this, u"Label3"};                          ///< trade mark of the word processor
+    Label Label4{*this, u"Label4"};                          ///< "Klassenleitung:"
+    Label Label5{*this, u"Label5"};                          ///< class teacher
+    Label Label6{*this, u"Label6"};                          ///< school
+    PictureBox Picture1{*this, u"Picture1"}; ///< head picture, which can be animated
+    PictureBox Picture2{*this, u"Picture2"}; ///< class teacher
+    Timer Timer1{*this, u"Timer1"};          ///< drives the animation
 
   private:
     void EntwurfSetzen();

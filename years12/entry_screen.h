@@ -60,23 +60,29 @@ class Kompetenzen : public Screen {
     bool NameGewaehlt = false;
     bool Gespeichert = false;
 
-    Label Label1{*this, u"Label1"};
-    Label Label2{*this, u"Label2"};
-    ComboBox Combo1{*this, u"Combo1"};
-    Label Label7{*this, u"Label7"};
-    PictureBox Picture1{*this, u"Picture1"};
-    PictureBox Picture2{*this, u"Picture2"};
-    ControlArray<Button> Command1{*this, u"Command1", 0, jahrgang12::Bereichszahl - 1};
-    ControlArray<Frame> Frame1{*this, u"Frame1", 0, jahrgang12::Bereichszahl - 1};
-    ControlArray<CheckBox> Check1{*this, u"Check1", 0, 3, &Frame1(jahrgang12::SeiteInteressen)};
-    ControlArray<CheckBox> Check2{*this, u"Check2", 0, 1, &Frame1(jahrgang12::SeiteBemerkungen)};
-    ControlArray<CheckBox> Check3{*this, u"Check3", 0, 7, &Frame1(jahrgang12::SeiteBemerkungen)};
-    ControlArray<TextBox> Text1{*this, u"Text1", 0, jahrgang12::Bereichszahl - 1};
-    Button Command2{*this, u"Command2"};
-    Button Command3{*this, u"Command3"};
-    Button Command4{*this, u"Command4"};
-    ControlArray<Button> Command7{*this, u"Command7", 0, 1};
-    Button Command8{*this, u"Command8"};
+    Label Label1{*this, u"Label1"};          ///< title
+    Label Label2{*this, u"Label2"};          ///< class
+    ComboBox Combo1{*this, u"Combo1"};       ///< pupils
+    Label Label7{*this, u"Label7"};          ///< what to do now
+    PictureBox Picture1{*this, u"Picture1"}; ///< the pupil
+    PictureBox Picture2{*this, u"Picture2"}; ///< lock sign
+    ControlArray<Button> Command1{*this, u"Command1", 0, jahrgang12::Bereichszahl - 1}; ///< pages
+    ControlArray<Frame> Frame1{*this, u"Frame1", 0,
+                               jahrgang12::Bereichszahl - 1}; ///< the choices of a page
+    ControlArray<CheckBox> Check1{*this, u"Check1", 0, 3,
+                                  &Frame1(jahrgang12::SeiteInteressen)}; ///< badges
+    ControlArray<CheckBox> Check2{
+        *this, u"Check2", 0, 1,
+        &Frame1(jahrgang12::SeiteBemerkungen)}; ///< working groups, fixed remark
+    ControlArray<CheckBox> Check3{*this, u"Check3", 0, 7,
+                                  &Frame1(jahrgang12::SeiteBemerkungen)}; ///< subjects to practise
+    ControlArray<TextBox> Text1{*this, u"Text1", 0,
+                                jahrgang12::Bereichszahl - 1}; ///< texts of the areas
+    Button Command2{*this, u"Command2"};                       ///< save all
+    Button Command3{*this, u"Command3"};                       ///< leave
+    Button Command4{*this, u"Command4"};                       ///< starts the page's text anew
+    ControlArray<Button> Command7{*this, u"Command7", 0, 1};   ///< insertion window: show, hide
+    Button Command8{*this, u"Command8"};                       ///< help
 
     /// The arrays of options and the labels of the pages, as the tables of competence_areas.h name
     /// them: options(group)(Index), label(Nummer).

@@ -71,42 +71,42 @@ class GSAGFI : public Screen {
     Text LernTeil2;
     int Letzte = 0; ///< the place of the last item that a list had; before that the class size
 
-    Label Label1{*this, u"Label1"};
-    Label Label2{*this, u"Label2"};
-    Label Label5{*this, u"Label5"};
-    ComboBox Combo1{*this, u"Combo1"};
-    PictureBox Picture1{*this, u"Picture1"};
-    PictureBox Picture2{*this, u"Picture2"};
-    ControlArray<Button> Command1{*this, u"Command1", 0, 2};
-    ControlArray<Button> Command2{*this, u"Command2", 0, 2};
-    ControlArray<Button> Command7{*this, u"Command7", 0, 1};
-    Button Command8{*this, u"Command8"};
+    Label Label1{*this, u"Label1"};                          ///< title
+    Label Label2{*this, u"Label2"};                          ///< what to do now
+    Label Label5{*this, u"Label5"};                          ///< class
+    ComboBox Combo1{*this, u"Combo1"};                       ///< pupils
+    PictureBox Picture1{*this, u"Picture1"};                 ///< the pupil
+    PictureBox Picture2{*this, u"Picture2"};                 ///< lock sign
+    ControlArray<Button> Command1{*this, u"Command1", 0, 2}; ///< save all, leave, text anew
+    ControlArray<Button> Command2{*this, u"Command2", 0, 2}; ///< pages
+    ControlArray<Button> Command7{*this, u"Command7", 0, 1}; ///< insertion window: show, hide
+    Button Command8{*this, u"Command8"};                     ///< help
 
-    Frame Frame1{*this, u"Frame1"};
-    Label Label3{*this, u"Label3", {}, &Frame1};
-    Label Label4{*this, u"Label4", {}, &Frame1};
-    Label Label8{*this, u"Label8", {}, &Frame1};
-    ControlArray<Label> Label7{*this, u"Label7", 0, 1, &Frame1};
-    ControlArray<CheckBox> Check1{*this, u"Check1", 0, 5, &Frame1};
-    ControlArray<OptionButton> Option6{*this, u"Option6", 0, 3, &Frame1};
-    TextBox Text1{*this, u"Text1"};
+    Frame Frame1{*this, u"Frame1"};              ///< page of support and working groups
+    Label Label3{*this, u"Label3", {}, &Frame1}; ///< heading of support
+    Label Label4{*this, u"Label4", {}, &Frame1}; ///< heading of working groups
+    Label Label8{*this, u"Label8", {}, &Frame1}; ///< hint on several choices
+    ControlArray<Label> Label7{*this, u"Label7", 0, 1, &Frame1};          ///< around the support
+    ControlArray<CheckBox> Check1{*this, u"Check1", 0, 5, &Frame1};       ///< kinds of support
+    ControlArray<OptionButton> Option6{*this, u"Option6", 0, 3, &Frame1}; ///< working groups
+    TextBox Text1{*this, u"Text1"};                                       ///< text of the page
 
-    Frame Frame2{*this, u"Frame2"};
-    ControlArray<OptionButton> Option1{*this, u"Option1", 0, 13, &Frame2};
-    ControlArray<Label> Label16{*this, u"Label16", 0, 2, &Frame2};
-    ControlArray<CheckBox> Check3{*this, u"Check3", 0, 6, &Frame2};
-    TextBox Text2{*this, u"Text2"};
+    Frame Frame2{*this, u"Frame2"};                                        ///< page of interests
+    ControlArray<OptionButton> Option1{*this, u"Option1", 0, 13, &Frame2}; ///< interests
+    ControlArray<Label> Label16{*this, u"Label16", 0, 2, &Frame2};  ///< headings of the badges
+    ControlArray<CheckBox> Check3{*this, u"Check3", 0, 6, &Frame2}; ///< badges
+    TextBox Text2{*this, u"Text2"};                                 ///< text of the page
 
-    Frame Frame3{*this, u"Frame3"};
-    Label Label10{*this, u"Label10", {}, &Frame3};
-    ControlArray<Label> Label9{*this, u"Label9", 0, 1, &Frame3};
-    ControlArray<CheckBox> Check2{*this, u"Check2", 0, 2, &Frame3};
-    ControlArray<OptionButton> Option2{*this, u"Option2", 0, 2, &Frame3};
-    ControlArray<CheckBox> Check5{*this, u"Check5", 0, 4, &Frame3};
-    ControlArray<OptionButton> Option3{*this, u"Option3", 0, 1, &Frame3};
-    Label Label6{*this, u"Label6", {}, &Frame3};
-    ControlArray<OptionButton> Option4{*this, u"Option4", 0, 3, &Frame3};
-    TextBox Text3{*this, u"Text3"};
+    Frame Frame3{*this, u"Frame3"};                                 ///< page of remarks
+    Label Label10{*this, u"Label10", {}, &Frame3};                  ///< hint on several choices
+    ControlArray<Label> Label9{*this, u"Label9", 0, 1, &Frame3};    ///< around the marks
+    ControlArray<CheckBox> Check2{*this, u"Check2", 0, 2, &Frame3}; ///< marks that differ
+    ControlArray<OptionButton> Option2{*this, u"Option2", 0, 2, &Frame3}; ///< opens the remark
+    ControlArray<CheckBox> Check5{*this, u"Check5", 0, 4, &Frame3};       ///< its items
+    ControlArray<OptionButton> Option3{*this, u"Option3", 0, 1, &Frame3}; ///< judgement
+    Label Label6{*this, u"Label6", {}, &Frame3};                          ///< closes the remark
+    ControlArray<OptionButton> Option4{*this, u"Option4", 0, 3, &Frame3}; ///< moving up
+    TextBox Text3{*this, u"Text3"};                                       ///< text of the page
 
     /// By page.
     const std::array<Frame*, jahrgang34::Seitenzahl> Rahmen =
