@@ -5,6 +5,7 @@
 #include "desktop/word_launcher.h"
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
+#include "platform/version.h"
 #include "program/all_screens.h"
 #include "toolkit/qt_text.h"
 
@@ -40,6 +41,7 @@ int run() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(qString(Programmtitel));
+    QApplication::setApplicationVersion(qString(Programmversion()));
     theme::apply(application);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
     try {

@@ -1,5 +1,6 @@
 #include "driver/driver.h"
 #include "platform/failure.h"
+#include "platform/version.h"
 
 #include <iostream>
 #include <string_view>
@@ -14,6 +15,10 @@ int usage() {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 2 && std::string_view(argv[1]) == "--version") {
+        std::cout << "zeugnis-driver " << zeugnis::utf8FromText(zeugnis::Programmversion()) << '\n';
+        return 0;
+    }
     if (argc != 2 && argc != 4)
         return usage();
     std::optional<zeugnis::Text> date;
