@@ -10,13 +10,13 @@
 namespace zeugnis {
 namespace {
 
-enum Datei { Interessen, Sprechen, Lesen, Schreiben, Mathe, Bemerkungen, Versetzung, Zwischen };
+enum Datei { Interessen, Sprechen, Lesen, Schreiben, Mathe, Bemerkungen, Versetzung, Zwischen, Dateienzahl };
 
 constexpr auto Dateien = std::to_array<Moduldatei>(
     {moduldateien::Interessen12, moduldateien::Sprechen, moduldateien::Lesen,
      moduldateien::Schreiben, moduldateien::Mathe, moduldateien::Bemerkungen12,
      moduldateien::Versetzung12, moduldateien::Zwischentexte});
-static_assert(Dateien.size() == Zwischen + 1);
+static_assert(Dateien.size() == Dateienzahl);
 
 bool imJahr2(const Bausteineditor& editor) { return IstZahl(editor.Jahrgangsziffer, 2); }
 bool nichtImJahr2(const Bausteineditor& editor) { return !imJahr2(editor); }

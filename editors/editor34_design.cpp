@@ -9,13 +9,13 @@
 namespace zeugnis {
 namespace {
 
-enum Datei { Foerder, Zensur, Interessen, Versetzung3, Versetzung4, Bemerkungen, AG };
+enum Datei { Foerder, Zensur, Interessen, Versetzung3, Versetzung4, Bemerkungen, AG, Dateienzahl };
 
 constexpr auto Dateien = std::to_array<Moduldatei>(
     {moduldateien::Foerder34, moduldateien::Zensurabweichung, moduldateien::Interessen34,
      moduldateien::Versetzung3, moduldateien::Versetzung4, moduldateien::Bemerkungen34,
      moduldateien::AG});
-static_assert(Dateien.size() == AG + 1);
+static_assert(Dateien.size() == Dateienzahl);
 
 bool imHalbjahr1(const Bausteineditor& editor) { return IstZahl(editor.Halbjahr, 1); }
 bool imHalbjahr2(const Bausteineditor& editor) { return IstZahl(editor.Halbjahr, 2); }

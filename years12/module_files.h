@@ -18,7 +18,8 @@ enum class Datei {
     Bemerkungen,
     Versetzung,
     Sport,
-    Zwischentexte
+    Zwischentexte,
+    Anzahl
 };
 
 /// By `Datei`.
@@ -26,7 +27,7 @@ inline constexpr auto Bausteindateien = std::to_array<Moduldatei>(
     {moduldateien::Interessen12, moduldateien::Sprechen, moduldateien::Lesen,
      moduldateien::Schreiben, moduldateien::Mathe, moduldateien::Bemerkungen12,
      moduldateien::Versetzung12, moduldateien::Sport12, moduldateien::Zwischentexte});
-static_assert(Bausteindateien.size() == static_cast<size_t>(Datei::Zwischentexte) + 1);
+static_assert(Bausteindateien.size() == static_cast<size_t>(Datei::Anzahl));
 
 /// The modules of one year, and what the placeholders need of the school data.
 class Bausteine {
