@@ -10,7 +10,17 @@
 namespace zeugnis {
 namespace {
 
-enum Datei { Interessen, Sprechen, Lesen, Schreiben, Mathe, Bemerkungen, Versetzung, Zwischen, Dateienzahl };
+enum Datei {
+    Interessen,
+    Sprechen,
+    Lesen,
+    Schreiben,
+    Mathe,
+    Bemerkungen,
+    Versetzung,
+    Zwischen,
+    Dateienzahl
+};
 
 constexpr auto Dateien = std::to_array<Moduldatei>(
     {moduldateien::Interessen12, moduldateien::Sprechen, moduldateien::Lesen,
