@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <optional>
@@ -108,6 +109,8 @@ class Look {
                 changes.emplace_back(control, "");
             changes.back().second += ' ' + usual->first + '=' + value;
         }
+        if (m_first.empty())
+            printInventory(out);
         Lines printed(out);
         for (const auto& [control, what] : changes)
             printed.add(control, what);
@@ -118,6 +121,31 @@ class Look {
     void startAnew() { m_known = m_first; }
 
   private:
+    void printInventory(std::ostream& out) const {
+        std::map<std::string, std::pair<int, int>> arrays; // first and last index
+        int single = 0;
+        for (const auto& [name, value] : m_known) {
+            const std::string control = name.substr(0, name.rfind('.'));
+            if (!name.ends_with(".Visible"))
+                continue;
+            const size_t paren = control.find('(');
+            if (paren == std::string::npos) {
+                ++single;
+                continue;
+            }
+            const int index = std::stoi(control.substr(paren + 1));
+            auto& [first, last] =
+                arrays.try_emplace(control.substr(0, paren), index, index).first->second;
+            first = std::min(first, index);
+            last = std::max(last, index);
+        }
+        out << single << " single controls";
+        for (const auto& [name, range] : arrays)
+            out << ", " << name.substr(name.find('.') + 1) << '(' << range.first << ".."
+                << range.second << ')';
+        out << '\n';
+    }
+
     Properties m_known;
     Properties m_first;
 };
