@@ -37,6 +37,11 @@ TEST_F(WholeFile, FullDiskIsAFailureThatNamesTheFile) {
               u"Platz mehr frei.");
 }
 
+TEST_F(WholeFile, WritesToADeviceThatHasNoLength) {
+    fs::create_symlink("/dev/null", folder.path() / "weg.txt");
+    EXPECT_EQ(failureOf([&] { writeWholeFile(directory, u"weg.txt", "Inhalt"); }), "none");
+}
+
 // Lets no file of this process grow beyond some bytes.
 class FileSizeLimit {
   public:
