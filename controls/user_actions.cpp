@@ -100,6 +100,13 @@ bool paste(TextBox& box, TextView text) {
     return withFocus(box, [&] { box.userReplaceSelection(text); });
 }
 
+bool keySeen(TextBox& box, char16_t key) {
+    return withFocus(box, [&] {
+        if (box.onKeyPress)
+            box.onKeyPress(key);
+    });
+}
+
 bool type(ComboBox& combo, TextView characters) {
     return withFocus(combo, [&] { combo.userType(characters); });
 }

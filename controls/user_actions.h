@@ -34,6 +34,8 @@ void blur(Screen& screen);
 bool type(TextBox& box, TextView characters);
 bool key(TextBox& box, char16_t key);
 bool paste(TextBox& box, TextView text);
+/// A key that has another use in its window: the key handler sees it, the text does not change.
+bool keySeen(TextBox& box, char16_t key);
 
 /// The same for the text of a combo.
 bool type(ComboBox& combo, TextView characters);

@@ -4,20 +4,22 @@
 #include "controls/screen.h"
 #include "controls/text_box.h"
 #include "controls/user_actions.h"
+#include "desktop/entry_combo.h"
+#include "desktop/entry_list.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "toolkit/qt_text.h"
 
-#include <QComboBox>
-#include <QEvent>
+#include <QFocusEvent>
 #include <QFrame>
 #include <QLabel>
-#include <QListWidget>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace zeugnis {
 namespace {
@@ -91,9 +93,12 @@ void Binder::add(Control& control, QWidget& widget, std::function<void()> refres
     m_widgets[&control] = &widget;
     m_controls[&widget] = &control;
     widget.installEventFilter(this);
-    m_refreshes.emplace_back([&control, &widget, show = std::move(refresh)] {
+    m_refreshes.emplace_back([this, &control, &widget, show = std::move(refresh)] {
         show();
-        widget.setEnabled(control.Enabled);
+        const auto held = m_held.find(&control);
+        const bool isHeld = held != m_held.end() && held->second();
+        widget.setProperty("heldBack", isHeld);
+        widget.setEnabled(control.Enabled && !isHeld);
         // A widget without a parent would become a window of its own.
         if (widget.parentWidget() != nullptr)
             widget.setVisible(control.Visible);
@@ -105,18 +110,59 @@ void Binder::add(Control& control, QWidget& widget, std::function<void()> refres
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
-    const bool arrives = event->type() == QEvent::FocusIn;
-    const bool isSecondClick =
-        event->type() == QEvent::MouseButtonDblClick && qobject_cast<QLabel*>(watched) != nullptr;
-    if (arrives || isSecondClick)
-        if (const auto found = m_controls.find(watched); found != m_controls.end()) {
-            Control& control = *found->second;
-            if (arrives)
-                m_host.focusArrived(control);
-            else
-                m_host.run([&] { user::doubleClick(control); });
-        }
-    return QObject::eventFilter(watched, event);
+    const auto found = m_controls.find(watched);
+    if (found == m_controls.end())
+        return QObject::eventFilter(watched, event);
+    Control& control = *found->second;
+    if (event->type() == QEvent::FocusIn)
+        m_host.focusArrived(control, static_cast<QFocusEvent*>(event)->reason());
+    if (!watched->property("plain").toBool())
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return forwardMouse(control, *static_cast<QMouseEvent*>(event));
+    case QEvent::KeyPress:
+        return forwardKey(control, *static_cast<QKeyEvent*>(event));
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+// Of a double click the first release is the click.
+bool Binder::forwardMouse(Control& control, const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton)
+        return false;
+    if (event.type() == QEvent::MouseButtonDblClick) {
+        m_secondRelease = true;
+        m_host.run([&] { user::secondClick(control); });
+    } else if (event.type() == QEvent::MouseButtonRelease &&
+               !std::exchange(m_secondRelease, false)) {
+        m_host.run([&] { user::click(control); });
+    }
+    return true;
+}
+
+// What takes a double click can be reached by Tab: Enter clicks, Ctrl+Enter is the double click.
+bool Binder::forwardKey(Control& control, const QKeyEvent& event) {
+    if (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter)
+        return false;
+    if (event.modifiers().testFlag(Qt::ControlModifier))
+        m_host.run([&] { user::doubleClick(control); });
+    else
+        m_host.run([&] { user::click(control); });
+    return true;
+}
+
+void Binder::forwardClicks(Control& control, QWidget& plain) {
+    plain.setProperty("plain", true);
+    if (control.onDblClick)
+        plain.setFocusPolicy(Qt::TabFocus);
+}
+
+void Binder::holdBack(const Control& control, std::function<bool()> held) {
+    m_held[&control] = std::move(held);
 }
 
 void Binder::forwardClicks(Control& control, QAbstractButton& widget) {
@@ -150,6 +196,7 @@ QLabel* Binder::label(Label& control) {
     auto* widget = new QLabel(&m_window);
     widget->setTextFormat(Qt::PlainText);
     widget->setWordWrap(true);
+    forwardClicks(control, *widget);
     add(control, *widget, [&control, widget] {
         setTextIfNew(*widget, shownLines(control.Caption));
         tint(*widget, control.BackColor);
@@ -160,6 +207,7 @@ QLabel* Binder::label(Label& control) {
 QFrame* Binder::frame(Frame& control) {
     auto* widget = new QFrame(&m_window);
     widget->setAutoFillBackground(true);
+    forwardClicks(control, *widget);
     add(control, *widget, [&control, widget] {
         QPalette palette = widget->palette();
         palette.setColor(QPalette::Window, theme::fromFarbwert(control.BackColor, theme::Surface));
@@ -232,8 +280,8 @@ TextEditor* Binder::module(TextBox& control, const QString& name) {
     return editor(control, name, TextEditor::Lines::Grows);
 }
 
-QComboBox* Binder::combo(ComboBox& control, const QString& name) {
-    auto* widget = new QComboBox(&m_window);
+EntryCombo* Binder::combo(ComboBox& control, const QString& name) {
+    auto* widget = new EntryCombo(&m_window);
     widget->setAccessibleName(name);
     widget->setMaxVisibleItems(25);
     connect(widget, &QComboBox::activated, this,
@@ -253,9 +301,9 @@ QComboBox* Binder::combo(ComboBox& control, const QString& name) {
     return widget;
 }
 
-QListWidget* Binder::list(ListBox& control, const QString& name,
-                          std::function<QString(const QString&)> word) {
-    QListWidget* widget = entries(control, name, [&control, word = std::move(word)] {
+EntryList* Binder::list(ListBox& control, const QString& name,
+                        std::function<QString(const QString&)> word) {
+    EntryList* widget = entries(control, name, [&control, word = std::move(word)] {
         QStringList rows = shownEntries(control);
         if (word)
             std::transform(rows.begin(), rows.end(), rows.begin(), word);
@@ -265,39 +313,27 @@ QListWidget* Binder::list(ListBox& control, const QString& name,
     return widget;
 }
 
-QListWidget* Binder::wordedList(ListControl& control, const QString& name,
-                                std::function<QString(int)> word) {
-    QListWidget* widget = entries(control, name, [&control, word = std::move(word)] {
+EntryList* Binder::wordedList(ListControl& control, const QString& name,
+                              std::function<QString(int)> word) {
+    return entries(control, name, [&control, word = std::move(word)] {
         QStringList rows;
         for (int i = 0; i < static_cast<int>(control.entries().size()); ++i)
             rows << word(i);
         return rows;
     });
-    connect(widget, &QListWidget::currentRowChanged, this, [this, &control](int row) {
-        if (row >= 0)
-            m_host.run([&] { user::pick(control, row); });
-    });
-    return widget;
 }
 
-QListWidget* Binder::entries(ListControl& control, const QString& name,
-                             std::function<QStringList()> shown) {
-    auto* widget = new QListWidget(&m_window);
+EntryList* Binder::entries(ListControl& control, const QString& name,
+                           std::function<QStringList()> shown) {
+    auto* widget = new EntryList(&m_window);
     widget->setAccessibleName(name);
     widget->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    const auto pick = [this, &control, widget] {
-        if (widget->currentRow() >= 0)
-            m_host.run([&] { user::pick(control, widget->currentRow()); });
-    };
-    connect(widget, &QListWidget::itemClicked, this, pick);
-    connect(widget, &QListWidget::itemActivated, this, pick);
+    connect(widget, &EntryList::picked, this,
+            [this, &control](int row) { m_host.run([&] { user::pick(control, row); }); });
     add(control, *widget, [&control, widget, rows = std::move(shown)] {
         const QSignalBlocker quiet(widget);
         showEntries(*widget, rows());
-        if (control.listIndex() >= 0)
-            widget->setCurrentRow(control.listIndex());
-        else
-            widget->clearSelection();
+        widget->highlight(control.listIndex());
     });
     return widget;
 }
@@ -305,10 +341,7 @@ QListWidget* Binder::entries(ListControl& control, const QString& name,
 PictureView* Binder::picture(PictureBox& control, QSize preferred, const QString& name) {
     auto* widget = new PictureView(preferred, &m_window);
     widget->setAccessibleName(name);
-    connect(widget, &PictureView::clicked, this,
-            [this, &control] { m_host.run([&] { user::click(control); }); });
-    connect(widget, &PictureView::doubleClicked, this,
-            [this, &control] { m_host.run([&] { user::secondClick(control); }); });
+    forwardClicks(control, *widget);
     add(control, *widget, [&control, widget, shown = 0]() mutable {
         if (shown == control.loads())
             return;
@@ -319,7 +352,9 @@ PictureView* Binder::picture(PictureBox& control, QSize preferred, const QString
 }
 
 void Binder::timer(Timer& control) {
-    auto* widget = new QTimer(this);
+    auto* widget = new QTimer(&m_window);
+    m_timers.push_back(widget);
+    widget->setObjectName(qString(control.fullName()));
     connect(widget, &QTimer::timeout, this,
             [this, &control] { m_host.run([&] { user::tick(control); }); });
     m_refreshes.emplace_back([&control, widget] {
@@ -345,10 +380,11 @@ QWidget* Binder::widgetOf(const Control& control) const {
 void Binder::detach() {
     for (const auto& [widget, control] : m_controls)
         const_cast<QObject*>(widget)->removeEventFilter(this);
-    for (QTimer* timer : findChildren<QTimer*>())
+    for (QTimer* timer : m_timers)
         timer->stop();
     m_controls.clear();
     m_widgets.clear();
+    m_held.clear();
     m_refreshes.clear();
 }
 

@@ -11,10 +11,10 @@
 #include <map>
 #include <vector>
 
-class QComboBox;
 class QFrame;
 class QLabel;
-class QListWidget;
+class QMouseEvent;
+class QTimer;
 
 namespace zeugnis {
 
@@ -22,6 +22,8 @@ class Button;
 class CheckBox;
 class ComboBox;
 class Control;
+class EntryCombo;
+class EntryList;
 class Frame;
 class Label;
 class ListBox;
@@ -59,15 +61,19 @@ class Binder : public QObject {
     TextEditor* line(TextBox& control, const QString& name);
     /// A text module: as high as its text, on the ground that the control says.
     TextEditor* module(TextBox& control, const QString& name);
-    QComboBox* combo(ComboBox& control, const QString& name);
+    EntryCombo* combo(ComboBox& control, const QString& name);
     /// `word` may show an entry in other words than its own.
-    QListWidget* list(ListBox& control, const QString& name,
-                      std::function<QString(const QString&)> word = {});
-    /// A list whose entries the view words, and that picks as the keyboard moves through it.
-    QListWidget* wordedList(ListControl& control, const QString& name,
-                            std::function<QString(int)> word);
+    EntryList* list(ListBox& control, const QString& name,
+                    std::function<QString(const QString&)> word = {});
+    /// A list whose entries the view words.
+    EntryList* wordedList(ListControl& control, const QString& name,
+                          std::function<QString(int)> word);
     PictureView* picture(PictureBox& control, QSize preferred, const QString& name);
     void timer(Timer& control);
+
+    /// Keeps the control's widget from being pressed as long as `held` says so, although the
+    /// control would take it: an accident that nobody means.
+    void holdBack(const Control& control, std::function<bool()> held);
 
     /// Something of the view that follows a control and is no widget of it.
     void follow(std::function<void()> refresh) { m_refreshes.push_back(std::move(refresh)); }
@@ -84,15 +90,21 @@ class Binder : public QObject {
     void add(Control& control, QWidget& widget, std::function<void()> refresh);
     TextEditor* editor(TextBox& control, const QString& name, TextEditor::Lines lines);
     void forwardClicks(Control& control, QAbstractButton& widget);
-    QListWidget* entries(ListControl& control, const QString& name,
-                         std::function<QStringList()> shown);
+    void forwardClicks(Control& control, QWidget& plain);
+    bool forwardMouse(Control& control, const QMouseEvent& event);
+    bool forwardKey(Control& control, const QKeyEvent& event);
+    EntryList* entries(ListControl& control, const QString& name,
+                       std::function<QStringList()> shown);
     ChoiceRow* choice(Control& control, ChoiceRow::Mark mark, std::function<void(ChoiceRow&)> show);
 
     WindowHost& m_host;
     QWidget& m_window;
     std::map<const Control*, QWidget*> m_widgets;
     std::map<const QObject*, Control*> m_controls;
+    std::map<const Control*, std::function<bool()>> m_held;
+    bool m_secondRelease = false;
     std::vector<std::function<void()>> m_refreshes;
+    std::vector<QTimer*> m_timers;
 };
 
 } // namespace zeugnis

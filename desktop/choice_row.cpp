@@ -3,6 +3,7 @@
 #include "desktop/theme.h"
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -86,6 +87,8 @@ void ChoiceRow::changeEvent(QEvent* event) {
         updateGeometry();
     QAbstractButton::changeEvent(event);
 }
+
+void ChoiceRow::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void ChoiceRow::paintMark(QPainter& painter, const QColor& ink) const {
     const QRectF mark(Padding, (height() - MarkSize) / 2.0, MarkSize, MarkSize);

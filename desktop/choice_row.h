@@ -30,6 +30,8 @@ class ChoiceRow : public QAbstractButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    /// A double click is one click; its second press does nothing.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void nextCheckState() override {}
     void changeEvent(QEvent* event) override;
 

@@ -3,6 +3,7 @@
 #include "common/editor_common.h"
 #include "desktop/editor_parts.h"
 #include "desktop/page_area.h"
+#include "desktop/text_editor.h"
 #include "desktop/theme.h"
 #include "toolkit/qt_text.h"
 
@@ -75,14 +76,8 @@ QWidget* EditorViewYears::loadRow(const Parts& parts) {
     auto* area = new QWidget(this);
     auto* row = new QHBoxLayout(area);
     row->setContentsMargins(0, 0, 0, 0);
-    auto* info = new QLabel(area);
-    info->setFont(theme::scaledFont(1.0, QFont::DemiBold));
-    bind().follow([info, &boxes = parts.Info] {
-        QString text =
-            qString(boxes(0).text()).replace(QStringLiteral("\r\n"), QStringLiteral(", "));
-        info->setText(text + QStringLiteral(", ") + qString(boxes(1).text()));
-    });
-    row->addWidget(info);
+    row->addWidget(info(parts.Info(0), tr("Klasse und Schuljahr")));
+    row->addWidget(info(parts.Info(1), tr("Halbjahr")));
     auto* beside =
         new QLabel(tr("Standard geladen: Speichern ändert die aktuellen Texte nicht."), area);
     beside->setObjectName(QStringLiteral("lock"));
@@ -93,6 +88,18 @@ QWidget* EditorViewYears::loadRow(const Parts& parts) {
     row->addStretch();
     row->addLayout(editorparts::loading(bind(), parts.Load));
     return area;
+}
+
+// A locked box that is read like a label.
+QWidget* EditorViewYears::info(TextBox& box, const QString& name) {
+    TextEditor* widget = bind().line(box, name);
+    widget->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    widget->setProperty("paper", true);
+    bind().follow([widget] {
+        const int text = widget->fontMetrics().horizontalAdvance(widget->toPlainText());
+        widget->setFixedWidth(text + 2 * widget->fontMetrics().averageCharWidth() + 8);
+    });
+    return widget;
 }
 
 QLayout* EditorViewYears::pageButtons(const std::vector<EditorPage>& pages) {

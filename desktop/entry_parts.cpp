@@ -3,11 +3,11 @@
 #include "controls/list_controls.h"
 #include "controls/text_box.h"
 #include "desktop/binder.h"
+#include "desktop/entry_combo.h"
 #include "desktop/picture_view.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -35,7 +35,7 @@ QBoxLayout* titleRow(Binder& binder, const Head& parts) {
 QBoxLayout* selectionRow(Binder& binder, const Head& parts, std::initializer_list<Key> sections) {
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
-    QComboBox* pupils = binder.combo(parts.Pupils, tr("Namensliste"));
+    EntryCombo* pupils = binder.combo(parts.Pupils, tr("Namensliste"));
     pupils->setMinimumWidth(380);
     pupils->setFocus();
     pupils->setFont(theme::scaledFont(1.1, QFont::DemiBold));

@@ -1,12 +1,12 @@
 #include "desktop/entry_view_12.h"
 
+#include "desktop/entry_combo.h"
 #include "desktop/entry_parts.h"
 #include "desktop/page_area.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
 #include "toolkit/qt_text.h"
 
-#include <QComboBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -95,7 +95,7 @@ QBoxLayout* EntryView12::head() {
 QBoxLayout* EntryView12::titleRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
-    QComboBox* pupils = bind().combo(m_entry.Combo1, tr("Namensliste"));
+    EntryCombo* pupils = bind().combo(m_entry.Combo1, tr("Namensliste"));
     pupils->setMinimumWidth(330);
     pupils->setFont(theme::scaledFont(1.1, QFont::DemiBold));
     pupils->setFocus();
@@ -350,9 +350,9 @@ void EntryView12::jumpBetweenPageAndText() {
     connect(shortcut, &QShortcut::activated, this, [this] {
         QWidget* text = bind().widgetOf(m_entry.Text1(m_entry.aktSeite));
         if (text->isVisible() && focusWidget() != text)
-            text->setFocus();
+            text->setFocus(Qt::ShortcutFocusReason);
         else
-            bind().widgetOf(m_entry.Command1(m_entry.aktSeite))->setFocus();
+            bind().widgetOf(m_entry.Command1(m_entry.aktSeite))->setFocus(Qt::ShortcutFocusReason);
     });
 }
 

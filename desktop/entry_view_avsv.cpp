@@ -54,14 +54,15 @@ QWidget* EntryViewAVSV::choices() {
     categories->addStretch();
     row->addLayout(categories);
     row->addWidget(lines(*area), 1);
+    // Not in the frame: it tells that the frame is disabled.
+    row->addWidget(entryparts::lockSign(bind(), m_entry.Picture4), 0, Qt::AlignVCenter);
     return area;
 }
 
 QWidget* EntryViewAVSV::lines(QWidget& area) {
     QFrame* frame = bind().frame(m_entry.Frame1);
-    auto* outer = new QHBoxLayout(frame);
-    outer->setContentsMargins(14, 8, 14, 8);
-    auto* column = new QVBoxLayout;
+    auto* column = new QVBoxLayout(frame);
+    column->setContentsMargins(14, 8, 14, 8);
     column->setSpacing(1);
     auto* caption = new QLabel(frame);
     caption->setFont(theme::scaledFont(1.1, QFont::DemiBold));
@@ -77,8 +78,6 @@ QWidget* EntryViewAVSV::lines(QWidget& area) {
         connect(shortcut, &QShortcut::activated, row, &ChoiceRow::click);
     });
     column->addStretch();
-    outer->addLayout(column, 1);
-    outer->addWidget(entryparts::lockSign(bind(), m_entry.Picture4), 0, Qt::AlignVCenter);
     return frame;
 }
 

@@ -1,8 +1,9 @@
 #include "desktop/insertion_view.h"
 
+#include "desktop/entry_list.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -24,12 +25,12 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
     layout->setContentsMargins(16, 14, 16, 14);
     layout->setSpacing(8);
     layout->addWidget(bind().label(screen.Label1));
-    QListWidget* list =
+    EntryList* list =
         bind().list(screen.List1, tr("Einfügetexte"), [&screen](const QString& entry) {
             return screen.mitKopfzeile() ? withDash(entry) : entry;
         });
     bind().follow([list, &screen] {
-        if (screen.mitKopfzeile())
+        if (screen.KopfzeileBeendet())
             list->item(0)->setFlags(Qt::NoItemFlags);
     });
     layout->addWidget(list, 1);
@@ -42,6 +43,8 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
     removals->addWidget(bind().button(screen.Command1(1), u'A', TintedButton::Role::Quiet));
     buttons->addLayout(removals);
     layout->addLayout(buttons);
+
+    bind().holdBack(screen.Command1(0), [&screen] { return !screen.EintragGewaehlt(); });
 
     // Beside the text that is being written, over the lines that are locked meanwhile.
     const QRect desktop = this->screen()->availableGeometry();

@@ -1,5 +1,6 @@
 #include "desktop/master_data_view.h"
 
+#include "desktop/entry_list.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
 #include "toolkit/qt_text.h"
@@ -8,7 +9,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -171,8 +171,8 @@ QWidget* MasterDataView::pupilArea() {
 QBoxLayout* MasterDataView::pupilColumn() {
     auto* column = new QVBoxLayout;
     column->setSpacing(5);
-    QListWidget* pupils = bind().wordedList(m_basis.Combo1, tr("Nummer"),
-                                            [this](int index) { return pupilRow(index); });
+    EntryList* pupils = bind().wordedList(m_basis.Combo1, tr("Nummer"),
+                                          [this](int index) { return pupilRow(index); });
     pupils->setObjectName(QStringLiteral("compact"));
     pupils->setMinimumWidth(245);
     pupils->setTextElideMode(Qt::ElideRight);
@@ -250,7 +250,7 @@ QBoxLayout* MasterDataView::workingGroups() {
     column->addWidget(purpose);
     auto* row = new QHBoxLayout;
     row->setSpacing(FieldSpacing);
-    QListWidget* groups =
+    EntryList* groups =
         bind().wordedList(m_basis.List1, tr("Arbeitsgemeinschaften"), [this](int index) {
             return qString(m_basis.List1.entries().at(static_cast<size_t>(index)));
         });

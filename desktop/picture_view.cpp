@@ -1,10 +1,9 @@
 #include "desktop/picture_view.h"
 
-#include <QMouseEvent>
+#include "desktop/theme.h"
+
 #include <QPainter>
 #include <QPainterPath>
-
-#include <utility>
 
 namespace zeugnis {
 
@@ -19,11 +18,14 @@ void PictureView::setPixmap(const QPixmap& pixmap) {
 }
 
 void PictureView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (hasFocus())
+        theme::paintSurface(painter, rect(), Qt::transparent, theme::Accent, true);
     if (m_pixmap.isNull())
         return;
-    QPainter painter(this);
     painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
-    const QSize shown = m_pixmap.size().scaled(size(), Qt::KeepAspectRatio);
+    const QSize shown =
+        m_pixmap.size().scaled(hasFocus() ? size() - QSize(8, 8) : size(), Qt::KeepAspectRatio);
     const QRect place(QPoint((width() - shown.width()) / 2, (height() - shown.height()) / 2),
                       shown);
     if (!m_pixmap.hasAlpha()) {
@@ -32,18 +34,6 @@ void PictureView::paintEvent(QPaintEvent*) {
         painter.setClipPath(rounded);
     }
     painter.drawPixmap(place, m_pixmap);
-}
-
-void PictureView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && !std::exchange(m_secondRelease, false))
-        emit clicked();
-}
-
-void PictureView::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_secondRelease = true;
-    emit doubleClicked();
 }
 
 } // namespace zeugnis

@@ -15,19 +15,12 @@ class PictureView : public QWidget {
     void setPixmap(const QPixmap& pixmap);
     [[nodiscard]] QSize sizeHint() const override { return m_preferred; }
 
-  signals:
-    void clicked();
-    void doubleClicked();
-
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
     QPixmap m_pixmap;
     QSize m_preferred;
-    bool m_secondRelease = false;
 };
 
 } // namespace zeugnis

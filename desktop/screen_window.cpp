@@ -40,10 +40,13 @@ void ScreenWindow::place() {
     move(available.center() - QPoint(width() / 2, height() / 2));
 }
 
-void ScreenWindow::showFocus(const Control& control) {
+bool ScreenWindow::showFocus(const Control& control) {
     QWidget* widget = m_binder.widgetOf(control);
-    if (widget != nullptr && !widget->hasFocus() && widget->isEnabled() && isVisible())
+    if (widget == nullptr || !widget->isEnabled() || !isVisible())
+        return false;
+    if (!widget->hasFocus())
         widget->setFocus(Qt::OtherFocusReason);
+    return true;
 }
 
 void ScreenWindow::detach() {

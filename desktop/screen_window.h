@@ -20,8 +20,13 @@ class ScreenWindow : public QWidget {
 
     /// Shows what the screen's controls say.
     void refresh();
-    /// Gives the keyboard to the control's widget, if it is not there already.
-    void showFocus(const Control& control);
+    /// Gives the keyboard to the control's widget, if it is not there already. False if the widget
+    /// cannot take it now.
+    bool showFocus(const Control& control);
+    /// The widget that shows the control, or null if none does.
+    [[nodiscard]] QWidget* widgetOf(const Control& control) const {
+        return m_binder.widgetOf(control);
+    }
     /// Closes for good; the screen is gone.
     void detach();
 

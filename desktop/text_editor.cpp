@@ -5,6 +5,9 @@
 #include "desktop/window_host.h"
 #include "toolkit/qt_text.h"
 
+#include <QClipboard>
+#include <QDragLeaveEvent>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -118,8 +121,13 @@ void TextEditor::resizeEvent(QResizeEvent* event) {
 
 // A line end in a box of one line is shown as a blank; places count the same.
 QString TextEditor::boxText() const {
-    QString text = documentText(m_box.text());
+    QString text = zeugnis::documentText(m_box.text());
     return oneLine() ? text.replace(u'\n', u' ') : text;
+}
+
+// toPlainText() would turn the non-breaking spaces into blanks.
+QString TextEditor::documentText() const {
+    return document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
 }
 
 // A cell that is copied from a table ends with a line end that nobody means.
@@ -158,17 +166,24 @@ void TextEditor::wheelEvent(QWheelEvent* event) {
 void TextEditor::refresh() {
     setReadOnly(m_box.Locked);
     const QString text = boxText();
-    if (text == toPlainText())
+    const bool isNew = text != documentText();
+    if (!isNew && !m_followsBox)
         return;
     const QScopedValueRollback refreshing(m_refreshing, true);
+    if (!isNew)
+        return takeSelectionFromBox();
     showText(text);
+    takeSelectionFromBox();
+    if (oneLine() && !hasFocus())
+        horizontalScrollBar()->setValue(0);
+}
+
+void TextEditor::takeSelectionFromBox() {
     QTextCursor cursor = textCursor();
     cursor.setPosition(documentPosition(m_box.text(), m_box.selectionStart()));
     cursor.setPosition(documentPosition(m_box.text(), m_box.selectionEnd()),
                        QTextCursor::KeepAnchor);
     setTextCursor(cursor);
-    if (oneLine() && !hasFocus())
-        horizontalScrollBar()->setValue(0);
 }
 
 void TextEditor::showText(const QString& text) {
@@ -179,7 +194,7 @@ void TextEditor::showText(const QString& text) {
 }
 
 void TextEditor::replaceDifference(const QString& text) {
-    const Difference change = differenceBetween(toPlainText(), text);
+    const Difference change = differenceBetween(documentText(), text);
     QTextCursor cursor(document());
     cursor.beginEditBlock();
     cursor.setPosition(change.start);
@@ -196,25 +211,35 @@ void TextEditor::selectInBox() {
 
 void TextEditor::ownAction(const std::function<void()>& action) {
     const QScopedValueRollback own(m_ownAction, true);
+    const QScopedValueRollback follow(m_followsBox, true);
     selectInBox();
     m_host.run(action);
 }
 
 void TextEditor::enter() {
-    if (oneLine())
-        focusNextPrevChild(true);
-    else
-        ownAction([this] { user::key(m_box, Enter); });
+    ownAction([this] { user::keySeen(m_box, Enter); });
+    focusNextPrevChild(true);
+}
+
+void TextEditor::pasteAsItStands() {
+    const Text text = fromQString(QGuiApplication::clipboard()->text());
+    ownAction([this, &text] { user::paste(m_box, text); });
 }
 
 void TextEditor::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+    const bool control = event->modifiers().testFlag(Qt::ControlModifier);
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (plain && event->key() == Qt::Key_Backspace)
         ownAction([this] { user::key(m_box, Backspace); });
-    else if (plain && isEnter)
+    else if (plain && isEnter && oneLine() && !shift)
         enter();
-    else if (isEnter && event->modifiers().testFlag(Qt::ControlModifier))
+    else if (plain && isEnter)
+        ownAction([this] { user::key(m_box, Enter); });
+    else if (control && shift && event->key() == Qt::Key_V)
+        pasteAsItStands();
+    else if (isEnter && control)
         ownAction([this] { user::doubleClick(m_box); });
     else if (isTyped(*event))
         ownAction([this, text = fromQString(event->text())] { user::type(m_box, text); });
@@ -237,6 +262,49 @@ void TextEditor::inputMethodEvent(QInputMethodEvent* event) {
     event->accept();
 }
 
+// As it stands, where Qt would turn non-breaking spaces into blanks.
+QMimeData* TextEditor::createMimeDataFromSelection() const {
+    auto* copied = new QMimeData;
+    copied->setText(
+        textCursor().selectedText().replace(QChar::ParagraphSeparator, QStringLiteral("\n")));
+    return copied;
+}
+
+// What is dragged within the box is taken out and put in as one change. Qt would do it in two, and
+// the text that the box says in between would bring back what was taken out.
+void TextEditor::dropEvent(QDropEvent* event) {
+    if (event->source() != viewport() && event->source() != this)
+        return QPlainTextEdit::dropEvent(event);
+    const int to = cursorForPosition(event->position().toPoint()).position();
+    const bool copy = event->dropAction() == Qt::CopyAction;
+    QDragLeaveEvent over;
+    QPlainTextEdit::dragLeaveEvent(&over);
+    event->acceptProposedAction();
+    if (!isReadOnly())
+        moveSelection(to, copy);
+}
+
+void TextEditor::moveSelection(int to, bool copy) {
+    const int start = textCursor().selectionStart();
+    const int end = textCursor().selectionEnd();
+    if (to >= start && to <= end)
+        return;
+    const Text moved = textBetween(start, end);
+    const Text changed = copy         ? moved
+                         : to < start ? moved + textBetween(to, start)
+                                      : textBetween(end, to) + moved;
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(copy ? to : std::min(start, to));
+    cursor.setPosition(copy ? to : std::max(end, to), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    ownAction([&] { user::paste(m_box, changed); });
+}
+
+Text TextEditor::textBetween(int from, int to) const {
+    const size_t start = boxPosition(m_box.text(), from);
+    return m_box.text().substr(start, boxPosition(m_box.text(), to) - start);
+}
+
 void TextEditor::insertFromMimeData(const QMimeData* source) {
     if (source->hasText())
         ownAction([this, text = incoming(source->text())] { user::paste(m_box, text); });
@@ -246,7 +314,7 @@ void TextEditor::takeNativeChange() {
     if (m_refreshing)
         return;
     const QString before = boxText();
-    const Difference change = differenceBetween(before, toPlainText());
+    const Difference change = differenceBetween(before, documentText());
     if (change.removed == 0 && change.inserted.isEmpty())
         return;
     const QScopedValueRollback own(m_ownAction, true);

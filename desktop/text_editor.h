@@ -12,8 +12,9 @@ class WindowHost;
 /// input method they come from; everything else that edits (paste, delete, undo, drag and drop)
 /// is Qt's own and arrives at the box as one change. Ctrl+Enter does what a double click does.
 ///
-/// With one line only, Enter goes on to the next field, Tab selects the whole text, and pasted line
-/// ends become blanks. One that grows does the same, but wraps a long text and is as high as that.
+/// With one line only, Enter passes the key handler and goes on to the next field, Tab selects the
+/// whole text, and pasted line ends become blanks; Shift+Enter and Ctrl+Shift+V put line ends in
+/// all the same. One that grows does so too, but wraps a long text and is as high as that.
 class TextEditor : public QPlainTextEdit {
     Q_OBJECT
 
@@ -27,6 +28,10 @@ class TextEditor : public QPlainTextEdit {
     /// undone; any other starts a new history, so that undo never mixes two pupils.
     void refresh();
 
+    [[nodiscard]] bool oneLine() const { return m_lines != Lines::Many; }
+    /// The text with its characters as they are, places counted as the cursor counts them.
+    [[nodiscard]] QString documentText() const;
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -39,10 +44,11 @@ class TextEditor : public QPlainTextEdit {
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
-    [[nodiscard]] bool oneLine() const { return m_lines != Lines::Many; }
     [[nodiscard]] int textHeight() const;
     void growIfNeeded();
     [[nodiscard]] QString boxText() const;
@@ -50,6 +56,10 @@ class TextEditor : public QPlainTextEdit {
     void keepToOneLine();
     void enter();
     void selectInBox();
+    void takeSelectionFromBox();
+    void pasteAsItStands();
+    void moveSelection(int to, bool copy);
+    [[nodiscard]] Text textBetween(int from, int to) const;
     void ownAction(const std::function<void()>& action);
     void takeNativeChange();
     void showText(const QString& text);
@@ -61,6 +71,7 @@ class TextEditor : public QPlainTextEdit {
     int m_grownTo = 0;
     bool m_refreshing = false;
     bool m_ownAction = false;
+    bool m_followsBox = false;
     bool m_secondRelease = false;
 };
 

@@ -29,6 +29,9 @@ QPlainTextEdit[oneLine="true"]:focus { padding: 0 1px; border: 2px solid #1F6F6B
 QPlainTextEdit[oneLine="true"]:disabled { color: #3F464E; background: #F6F4EF;
     border-color: #E4DFD4; }
 QPlainTextEdit[preset="true"] { color: #B3261E; }
+QPlainTextEdit[paper="true"] { background: transparent; border-color: transparent; }
+QPlainTextEdit[paper="true"]:focus { border: 2px solid #1F6F6B; }
+QLabel[plain="true"]:focus { border: 2px solid #1F6F6B; border-radius: 6px; }
 QListWidget:disabled { background: #F6F4EF; border-color: #E4DFD4; }
 QListWidget#compact::item { padding: 2px 6px; }
 QLabel#lock { color: #7A5A12; background: #FBF1D6; border: 1px solid #E6D3A0;

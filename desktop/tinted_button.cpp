@@ -3,6 +3,7 @@
 #include "desktop/theme.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QShortcutEvent>
 
@@ -95,6 +96,8 @@ void TintedButton::keyPressEvent(QKeyEvent* event) {
     else
         QPushButton::keyPressEvent(event);
 }
+
+void TintedButton::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 // A shortcut acts at once. Qt would wait to show the button pressed, and what is typed meanwhile
 // would still go to the box that is being left.

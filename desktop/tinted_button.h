@@ -20,6 +20,9 @@ class TintedButton : public QPushButton {
     enum class Content { Unknown, Empty, Filled };
     void setContent(Content content);
 
+    /// Shows a sign in place of its control's inscription.
+    [[nodiscard]] bool showsSign() const { return m_role == Role::Round; }
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return m_role != Role::Round; }
@@ -28,6 +31,8 @@ class TintedButton : public QPushButton {
   protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// A double click is one click; its second press does nothing.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

@@ -33,8 +33,10 @@ void WindowHost::run(const std::function<void()>& action) {
         action();
         // Before the task ends, so that no window outlives its screen.
         refresh();
+    } catch (const Laufzeitfehler& failure) {
+        reportFailure(failure);
     } catch (const std::exception& failure) {
-        reportFailure(sentenceOf(failure));
+        reportFailure({Fehlerart::InvalidCall, sentenceOf(failure)});
     }
     --m_depth;
     if (m_program.ended())
@@ -76,16 +78,32 @@ void WindowHost::openAndCloseWindows() {
 
 void WindowHost::followFocus() {
     const Control* focus = m_program.focus();
-    if (focus == nullptr)
+    if (focus == m_followed)
         return;
-    const auto window = m_windows.find(&focus->screen());
-    if (window != m_windows.end())
-        window->second->showFocus(*focus);
+    m_followed = focus;
+    const auto window = focus == nullptr ? m_windows.end() : m_windows.find(&focus->screen());
+    if (window != m_windows.end() && !window->second->showFocus(*focus))
+        m_followed = nullptr;
 }
 
-void WindowHost::focusArrived(Control& control) {
-    if (!m_refreshing && m_program.focus() != &control)
+void WindowHost::focusArrived(Control& control, Qt::FocusReason reason) {
+    const Control* focus = m_program.focus();
+    if (m_refreshing || focus == &control)
+        return;
+    switch (reason) {
+    case Qt::MouseFocusReason:
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
         run([&] { user::focus(control); });
+        break;
+    case Qt::ActiveWindowFocusReason:
+        if (focus != nullptr && &focus->screen() != &control.screen())
+            run([&] { user::blur(focus->screen()); });
+        break;
+    default:
+        break;
+    }
 }
 
 void WindowHost::leaveForOtherProgram(Qt::ApplicationState state) {
@@ -99,15 +117,16 @@ QWidget* WindowHost::dialogParent() const {
     return windowOf(m_program.startScreen());
 }
 
-QWidget* WindowHost::windowOf(const Screen* screen) const {
+ScreenWindow* WindowHost::windowOf(const Screen* screen) const {
     const auto found = m_windows.find(screen);
     return found == m_windows.end() ? nullptr : found->second.data();
 }
 
-void WindowHost::reportFailure(const Text& sentence) {
+void WindowHost::reportFailure(const Laufzeitfehler& failure) {
     m_failed = true;
+    emit failed(failure);
     DialogBox box(qString(Programmtitel),
-                  qString(sentence) +
+                  qString(failure.sentence()) +
                       QStringLiteral("\n\nDas Programm wird jetzt beendet. Alles, was bis hierher "
                                      "gespeichert wurde, bleibt erhalten."),
                   dialogParent());

@@ -4,12 +4,14 @@
 
 #include <QObject>
 #include <QPointer>
+#include <Qt>
 
 #include <functional>
 #include <map>
 
 namespace zeugnis {
 
+class Laufzeitfehler;
 class ScreenWindow;
 
 /// Keeps the windows in step with the running program: every action of the user goes through
@@ -28,25 +30,35 @@ class WindowHost : public QObject {
     /// Brings the windows up to date; for dialogs, which come up in the middle of an action.
     void refresh();
 
-    /// The focus has come to a control's widget, as the user moved it.
-    void focusArrived(Control& control);
+    /// The focus has come to a control's widget. Only what the user brought about counts: a window
+    /// that comes to the front takes the focus away from the other screen, and a focus that the
+    /// windows moved by themselves is none of the screens' business.
+    void focusArrived(Control& control, Qt::FocusReason reason);
 
     [[nodiscard]] Programm& program() { return m_program; }
 
     /// The window that dialogs belong to, or null.
     [[nodiscard]] QWidget* dialogParent() const;
 
+    /// Null if the screen has not been shown yet.
+    [[nodiscard]] ScreenWindow* windowOf(const Screen* screen) const;
+
+  signals:
+    /// A run-time failure is about to be shown.
+    void failed(const zeugnis::Laufzeitfehler& failure);
+
   private:
     void openAndCloseWindows();
     void followFocus();
-    [[nodiscard]] QWidget* windowOf(const Screen* screen) const;
     void leaveForOtherProgram(Qt::ApplicationState state);
-    void reportFailure(const Text& sentence);
+    void reportFailure(const Laufzeitfehler& failure);
 
     Programm& m_program;
     // The window of the start page owns the others.
     std::map<const Screen*, QPointer<ScreenWindow>> m_windows;
     int m_depth = 0;
+    /// The focus as the windows have followed it.
+    const Control* m_followed = nullptr;
     bool m_refreshing = false;
     bool m_failed = false;
 };

@@ -1,9 +1,7 @@
 #include "driver/driver.h"
 
-#include "common/screen_names.h"
 #include "controls/list_controls.h"
 #include "controls/text_box.h"
-#include "controls/user_actions.h"
 #include "driver/properties.h"
 #include "platform/failure.h"
 #include "program/all_screens.h"
@@ -68,31 +66,35 @@ const std::vector<Driver::Command>& Driver::commands() {
     return Commands;
 }
 
-Driver::Driver(std::ostream& out, std::filesystem::path folder, std::optional<Text> date)
-    : m_out(out), m_dialogs(out), m_launcher(out), m_folder(std::move(folder)) {
-    if (date)
-        m_calendar = std::make_unique<FixedCalendar>(*date);
+Driver::Driver(std::ostream& out, const Surroundings& surroundings, DialogScript& script,
+               Hand& hand)
+    : m_out(out), m_script(script), m_hand(hand), m_launcher(out), m_folder(surroundings.folder) {
+    if (surroundings.date)
+        m_calendar = std::make_unique<FixedCalendar>(*surroundings.date);
     else
         m_calendar = std::make_unique<SystemCalendar>();
 }
 
+Driver::~Driver() { m_hand.finish(); }
+
 int Driver::run(std::istream& commands) {
+    std::string line;
+    while (std::getline(commands, line))
+        if (const std::optional<int> exitCode = step(line))
+            return *exitCode;
+    return 0;
+}
+
+std::optional<int> Driver::step(const std::string& line) {
     try {
-        std::string line;
-        while (!m_quit && std::getline(commands, line)) {
-            if (line.starts_with('#'))
-                continue;
-            const Words words = splitCommand(line);
-            if (words.empty())
-                continue;
-            execute(words);
-            // Whoever sends the commands may wait for the answer to one before the next.
-            m_out.flush();
-            if (m_program && m_program->ended()) {
-                m_out << "end\n";
-                break;
-            }
-        }
+        if (line.starts_with('#'))
+            return std::nullopt;
+        const Words words = splitCommand(line);
+        if (words.empty())
+            return std::nullopt;
+        execute(words);
+        // Whoever sends the commands may wait for the answer to one before the next.
+        m_out.flush();
     } catch (const Laufzeitfehler& failure) {
         m_out << "fatal " << kindName(failure.kind()) << ' ' << jsonString(failure.sentence())
               << '\n';
@@ -101,7 +103,11 @@ int Driver::run(std::istream& commands) {
         m_out << "error " << jsonString(textFromUtf8(error.what())) << '\n';
         return 2;
     }
-    return 0;
+    if (m_program && m_program->ended()) {
+        m_out << "end\n";
+        return 0;
+    }
+    return m_quit ? std::optional(0) : std::nullopt;
 }
 
 void Driver::execute(const Words& words) {
@@ -109,6 +115,8 @@ void Driver::execute(const Words& words) {
     const auto command = std::find_if(all.begin(), all.end(), [&](const Command& candidate) {
         return !words[0].quoted && candidate.name == words[0].text;
     });
+    if (command == all.end() && m_program && m_hand.ownCommand(words))
+        return;
     if (command == all.end())
         throw CommandError("no such command: " + utf8FromText(words[0].text));
     const size_t behind = words.size() - 1;
@@ -120,20 +128,21 @@ void Driver::execute(const Words& words) {
 void Driver::start(const Words&) {
     if (!m_program) {
         m_program = std::make_unique<Programm>(
-            Machine{m_dialogs, m_clipboard, *m_calendar, m_pictures, m_launcher}, m_folder);
+            Machine{m_hand.dialogs(), m_hand.clipboard(), *m_calendar, m_pictures, m_launcher},
+            m_folder);
         BildschirmeAnmelden(*m_program);
     }
-    m_program->show(bildschirme::GsStart);
+    m_hand.start(*m_program);
 }
 
 void Driver::click(const Words& words) {
     Control& target = control(words[1]);
-    reached(user::click(target), target);
+    reached(m_hand.click(target), target);
 }
 
 void Driver::doubleClick(const Words& words) {
     Control& target = control(words[1]);
-    reached(user::doubleClick(target), target);
+    reached(m_hand.doubleClick(target), target);
 }
 
 void Driver::select(const Words& words) {
@@ -141,29 +150,29 @@ void Driver::select(const Words& words) {
     const int index = numberOf(words[2]);
     if (index < 0 || index >= static_cast<int>(list.entries().size()))
         throw CommandError("the list has no such entry");
-    reached(user::pick(list, index), list);
+    reached(m_hand.pick(list, index), list);
 }
 
 void Driver::focus(const Words& words) {
     Control& target = control(words[1]);
-    reached(user::focus(target), target);
+    reached(m_hand.focus(target), target);
 }
 
-void Driver::blur(const Words& words) { user::blur(screen(words[1].text)); }
+void Driver::blur(const Words& words) { m_hand.blur(screen(words[1].text)); }
 
 void Driver::caret(const Words& words) {
     const auto place = [](const Word& word) {
         return static_cast<size_t>(std::max(0, numberOf(word)));
     };
     auto& box = controlAs<TextBox>(words[1], "text box");
-    box.select(place(words[2]), place(words.back()));
+    m_hand.caret(box, place(words[2]), place(words.back()));
 }
 
 void Driver::type(const Words& words) {
     if (auto* combo = dynamic_cast<ComboBox*>(&control(words[1])))
-        return reached(user::type(*combo, textOf(words[2])), *combo);
+        return reached(m_hand.type(*combo, textOf(words[2])), *combo);
     auto& box = controlAs<TextBox>(words[1], "text box");
-    reached(user::type(box, textOf(words[2])), box);
+    reached(m_hand.type(box, textOf(words[2])), box);
 }
 
 void Driver::key(const Words& words) {
@@ -171,46 +180,50 @@ void Driver::key(const Words& words) {
     if (code < 0)
         throw CommandError("a key has no negative code");
     auto& box = controlAs<TextBox>(words[1], "text box");
-    reached(user::key(box, static_cast<char16_t>(code)), box);
+    reached(m_hand.key(box, static_cast<char16_t>(code)), box);
 }
 
 void Driver::paste(const Words& words) {
     auto& box = controlAs<TextBox>(words[1], "text box");
-    reached(user::paste(box, textOf(words[2])), box);
+    reached(m_hand.paste(box, textOf(words[2])), box);
 }
 
 void Driver::setText(const Words& words) {
     auto& box = controlAs<TextBox>(words[1], "text box");
     if (box.reachable())
-        box.select(0, std::numeric_limits<size_t>::max());
-    reached(user::paste(box, textOf(words[2])), box);
+        m_hand.caret(box, 0, std::numeric_limits<size_t>::max());
+    reached(m_hand.paste(box, textOf(words[2])), box);
 }
 
-void Driver::tick(const Words& words) { user::tick(controlAs<Timer>(words[1], "timer")); }
+void Driver::tick(const Words& words) { m_hand.tick(controlAs<Timer>(words[1], "timer")); }
 
-void Driver::close(const Words& words) { user::close(screen(words[1].text)); }
+void Driver::close(const Words& words) {
+    const Text& name = words[1].text;
+    if (!m_hand.close(screen(name)))
+        m_out << "unreachable " << utf8FromText(name) << '\n';
+}
 
 void Driver::answer(const Words& words) {
     const std::optional<Antwort> answer = answerFromName(words[1].text);
     if (!answer)
         throw CommandError("no such answer: " + utf8FromText(words[1].text));
-    m_dialogs.queueAnswer(*answer);
+    m_script.queueAnswer(*answer);
 }
 
 void Driver::input(const Words& words) {
     if (!words[1].quoted && words[1].text == u"cancel")
-        m_dialogs.queueInput(std::nullopt);
+        m_script.queueInput(std::nullopt);
     else
-        m_dialogs.queueInput(textOf(words[1]));
+        m_script.queueInput(textOf(words[1]));
 }
 
 void Driver::clipboard(const Words& words) {
     if (words.size() == 1)
-        m_out << "clipboard = " << jsonString(m_clipboard.text()) << '\n';
+        m_out << "clipboard = " << jsonString(m_hand.clipboardText()) << '\n';
     else if (!words[1].quoted && words[1].text == u"clear")
-        m_clipboard.clear();
+        m_hand.clipboard().clear();
     else
-        m_clipboard.setText(textOf(words[1]));
+        m_hand.clipboard().setText(textOf(words[1]));
 }
 
 void Driver::get(const Words& words) {
@@ -268,6 +281,7 @@ T& Driver::controlAs(const Word& word, const char* kind) {
 }
 
 void Driver::printProperty(const Control& control, const std::string& property) {
+    m_hand.lookAt(control);
     const std::optional<std::string> value = propertyValue(control, property);
     if (!value)
         throw CommandError(qualifiedName(control) + " has no property " + property);
@@ -278,6 +292,18 @@ void Driver::reached(bool reached, const Control& control) {
     // The control may be gone by now, but only if the action arrived.
     if (!reached)
         m_out << "unreachable " << qualifiedName(control) << '\n';
+}
+
+std::optional<Surroundings> surroundingsFrom(int argc, char** argv) {
+    if (argc != 2 && argc != 4)
+        return std::nullopt;
+    Surroundings surroundings{argv[1], std::nullopt};
+    if (argc == 4) {
+        if (std::string_view(argv[2]) != "--date")
+            return std::nullopt;
+        surroundings.date = textFromUtf8(argv[3]);
+    }
+    return surroundings;
 }
 
 } // namespace zeugnis::driver

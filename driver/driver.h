@@ -3,6 +3,7 @@
 #include "controls/program.h"
 #include "driver/command_line.h"
 #include "driver/driver_machine.h"
+#include "driver/hand.h"
 #include "platform/plain_machine.h"
 
 #include <filesystem>
@@ -13,16 +14,35 @@
 
 namespace zeugnis::driver {
 
-/// Runs the program on an installation without any window: reads commands, one a line, and prints
-/// what happens, one event a line.
+/// Where the program runs: the installation's folder and today's date (dd.mm.yyyy), without one the
+/// system's.
+struct Surroundings {
+    std::filesystem::path folder;
+    std::optional<Text> date;
+};
+
+/// What a program that drives takes: FOLDER [--date dd.mm.yyyy]. Nothing if it is something else.
+std::optional<Surroundings> surroundingsFrom(int argc, char** argv);
+
+/// Runs the program on an installation: reads commands, one a line, lets a hand carry them out, and
+/// prints what happens, one event a line.
 class Driver {
   public:
-    /// `date` is today's date (dd.mm.yyyy); without one the system's is taken.
-    Driver(std::ostream& out, std::filesystem::path folder, std::optional<Text> date);
+    /// The hand takes its answers from `script`; both outlive the driver and print to `out`.
+    Driver(std::ostream& out, const Surroundings& surroundings, DialogScript& script, Hand& hand);
+    ~Driver();
+    Driver(const Driver&) = delete;
+    Driver& operator=(const Driver&) = delete;
 
     /// The exit code: 0 at the end of the program or the commands, 1 after a run-time failure,
     /// 2 after a command that makes no sense.
     int run(std::istream& commands);
+
+    /// Carries out one command line. An exit code if that was the last one.
+    std::optional<int> step(const std::string& line);
+
+    /// The running program, or null before its start.
+    [[nodiscard]] const Programm* running() const { return m_program.get(); }
 
   private:
     using Words = std::vector<Word>;
@@ -62,9 +82,9 @@ class Driver {
     void reached(bool reached, const Control& control);
 
     std::ostream& m_out;
-    ScriptedDialogs m_dialogs;
+    DialogScript& m_script;
+    Hand& m_hand;
     PrintingLauncher m_launcher;
-    PlainClipboard m_clipboard;
     std::unique_ptr<Calendar> m_calendar;
     JpegMarkPictures m_pictures;
     std::filesystem::path m_folder;

@@ -43,7 +43,7 @@ bool fits(Antwort answer, Tasten buttons) {
 
 } // namespace
 
-Antwort ScriptedDialogs::takeAnswer(Tasten buttons) {
+Antwort DialogScript::takeAnswer(Tasten buttons) {
     const bool queuedFits = !m_answers.empty() && fits(m_answers.front(), buttons);
     if (!queuedFits) {
         if (buttons == Tasten::Ok)
@@ -57,22 +57,36 @@ Antwort ScriptedDialogs::takeAnswer(Tasten buttons) {
     return answer;
 }
 
-Antwort ScriptedDialogs::message(const Meldung& meldung) {
-    const Antwort answer = takeAnswer(meldung.tasten);
-    m_out << "message title=" << jsonString(meldung.titel) << " icon=" << nameOf(meldung.symbol)
-          << " buttons=" << nameOf(meldung.tasten)
-          << " default=" << nameOf(meldung.standardAntwort())
-          << " text=" << jsonString(meldung.text) << " -> " << nameOf(answer) << '\n';
-    return answer;
-}
-
-std::optional<Text> ScriptedDialogs::input(const Text& title, const Text& prompt) {
+std::optional<Text> DialogScript::takeInput() {
     if (m_inputs.empty())
         throw CommandError("an input box came up and no input is queued");
     std::optional<Text> answer = std::move(m_inputs.front());
     m_inputs.pop_front();
+    return answer;
+}
+
+void DialogScript::print(const Meldung& meldung, Antwort answer) {
+    m_out << "message title=" << jsonString(meldung.titel) << " icon=" << nameOf(meldung.symbol)
+          << " buttons=" << nameOf(meldung.tasten)
+          << " default=" << nameOf(meldung.standardAntwort())
+          << " text=" << jsonString(meldung.text) << " -> " << nameOf(answer) << '\n';
+}
+
+void DialogScript::printInput(const Text& title, const Text& prompt,
+                              const std::optional<Text>& answer) {
     m_out << "inputbox title=" << jsonString(title) << " prompt=" << jsonString(prompt) << " -> "
           << (answer ? jsonString(*answer) : "cancel") << '\n';
+}
+
+Antwort ScriptedDialogs::message(const Meldung& meldung) {
+    const Antwort answer = m_script.takeAnswer(meldung.tasten);
+    m_script.print(meldung, answer);
+    return answer;
+}
+
+std::optional<Text> ScriptedDialogs::input(const Text& title, const Text& prompt) {
+    std::optional<Text> answer = m_script.takeInput();
+    m_script.printInput(title, prompt, answer);
     return answer;
 }
 

@@ -63,6 +63,10 @@ void Einfuegungen::load() {
     Command1(2).Caption = u"Neuen Text eingeben";
 }
 
+bool Einfuegungen::KopfzeileBeendet() const {
+    return mitKopfzeile() && AktivForm == FuerEditorJahrgang;
+}
+
 void Einfuegungen::PlatzhalterLesen() {
     readNumberedRecords(programm().directory(), dateien::Platzhalter, PlatzhalterTexte.size(),
                         [&](RecordReader& reader, int zeile, int) {

@@ -14,9 +14,12 @@ class Einfuegungen : public Screen {
     explicit Einfuegungen(Programm& programm);
     void load() override;
 
-    /// Whether entry 0 is the head of a list of placeholders. It stands for no text; for the
-    /// editors of the year groups a click on it ends the program.
+    /// Whether entry 0 is the head of a list of placeholders, which stands for no text; and whether
+    /// a click on it ends the program, as for the editors of the year groups.
     [[nodiscard]] bool mitKopfzeile() const { return !dientEingabe() && !List1.entries().empty(); }
+    [[nodiscard]] bool KopfzeileBeendet() const;
+    /// Without a chosen entry "Markierten Eintrag löschen" ends the program.
+    [[nodiscard]] bool EintragGewaehlt() const { return List1.listIndex() >= 0; }
 
     void List1_Click();
     void Check1_Click();

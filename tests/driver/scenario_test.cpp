@@ -1,131 +1,26 @@
-// Runs every script of tests/scenarios on a copy of an installation and compares what the driver
-// prints, and what files it leaves, with the files beside the script. See tests/README.md.
+// Every script of tests/scenarios on the control model.
 
-#include "driver/driver.h"
-#include "platform/code_page.h"
-#include "tests/support/test_installation.h"
+#include "driver/model_hand.h"
+#include "tests/driver/scenario.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <fstream>
-#include <sstream>
-
 namespace zeugnis::test {
 namespace {
-namespace fs = std::filesystem;
 
-const fs::path SourceFolder = ZEUGNIS_SOURCE_FOLDER;
-constexpr std::string_view FileHeading = "=== ";
-
-std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << path;
-    std::ostringstream content;
-    content << file.rdbuf();
-    return content.str();
-}
-
-std::vector<std::string> scripts() {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(SourceFolder / "tests" / "scenarios"))
-        if (entry.path().extension() == ".script")
-            names.push_back(entry.path().stem().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-// Lines that begin with "#!" prepare the installation; for the driver they are comments.
-class Preparation {
-  public:
-    Preparation(const std::string& script, const TemporaryFolder& folder) : m_folder(folder) {
-        fs::path source = "tests/fixtures/klasse3a";
-        std::istringstream lines(script);
-        for (std::string line; std::getline(lines, line);)
-            if (line.starts_with("#!"))
-                m_steps.push_back(driver::splitCommand(line.substr(2)));
-        for (const auto& step : m_steps)
-            if (step.at(0).text == u"installation")
-                source = fs::path(step.at(1).text);
-        fs::copy(SourceFolder / source, folder.path(), fs::copy_options::recursive);
-        for (const auto& step : m_steps)
-            run(step);
-    }
-
-  private:
-    void run(const std::vector<driver::Word>& step) const {
-        const Text& command = step.at(0).text;
-        const Text& file = step.at(1).text;
-        if (command == u"remove") {
-            EXPECT_TRUE(m_folder.has(file)) << utf8FromText(file);
-            m_folder.remove(file);
-        } else if (command == u"copy") {
-            m_folder.write(step.at(2).text, m_folder.read(file));
-        } else if (command == u"replace") {
-            const Text& former = step.at(2).text;
-            Text content = m_folder.read(file);
-            const size_t at = content.find(former);
-            ASSERT_NE(at, Text::npos) << utf8FromText(former);
-            m_folder.write(file, content.replace(at, former.size(), step.at(3).text));
-        } else {
-            EXPECT_EQ(command, u"installation");
-        }
-    }
-
-    const TemporaryFolder& m_folder;
-    std::vector<std::vector<driver::Word>> m_steps;
-};
-
-// A file as .files shows it: UTF-8, with signs for CR and LF in front of each new line.
-std::string shown(const TemporaryFolder& folder, const std::string& name) {
-    const Text path = textFromUtf8(name);
-    if (!folder.has(path))
-        return "(missing)\n";
-    std::string text;
-    for (const char16_t unit : folder.read(path))
-        text += unit == u'\r' ? "␍" : unit == u'\n' ? "␊\n" : utf8FromText(TextView(&unit, 1));
-    return text.empty() || text.back() == '\n' ? text : text + "(no line end)\n";
-}
-
-std::string filesNamedIn(const std::string& expected, const TemporaryFolder& folder) {
-    std::string actual;
-    std::istringstream lines(expected);
-    for (std::string line; std::getline(lines, line);)
-        if (line.starts_with(FileHeading))
-            actual += line + "\n" + shown(folder, line.substr(FileHeading.size()));
-    return actual;
-}
-
-int exitCodeFor(const std::string& expected) {
-    std::istringstream lines(expected);
-    std::string last;
-    for (std::string line; std::getline(lines, line);)
-        last = line;
-    return last.starts_with("fatal ") ? 1 : last.starts_with("error ") ? 2 : 0;
+int playOnTheModel(std::istream& commands, std::ostream& out,
+                   const driver::Surroundings& surroundings) {
+    driver::DialogScript script(out);
+    driver::ModelHand hand(script);
+    driver::Driver driver(out, surroundings, script, hand);
+    return driver.run(commands);
 }
 
 class Scenario : public testing::TestWithParam<std::string> {};
 
-TEST_P(Scenario, PrintsAndLeavesWhatIsExpected) {
-    const fs::path base = SourceFolder / "tests" / "scenarios" / GetParam();
-    const auto with = [&](const char* extension) { return fs::path(base.string() + extension); };
-    const std::string script = contentOf(with(".script"));
-    const std::string expected = contentOf(with(".expected"));
+TEST_P(Scenario, PrintsAndLeavesWhatIsExpected) { playScenario(GetParam(), playOnTheModel); }
 
-    const TemporaryFolder folder;
-    const Preparation preparation(script, folder);
-    std::istringstream commands(script);
-    std::ostringstream printed;
-    driver::Driver driver(printed, folder.path(), u"15.03.2027");
-    EXPECT_EQ(driver.run(commands), exitCodeFor(expected));
-    EXPECT_EQ(printed.str(), expected);
-    if (fs::exists(with(".files"))) {
-        const std::string files = contentOf(with(".files"));
-        EXPECT_EQ(filesNamedIn(files, folder), files);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Scripts, Scenario, testing::ValuesIn(scripts()),
+INSTANTIATE_TEST_SUITE_P(Scripts, Scenario, testing::ValuesIn(scenariosIn()),
                          [](const auto& one) { return one.param; });
 
 } // namespace

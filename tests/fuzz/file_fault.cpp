@@ -2,6 +2,7 @@
 
 #include "documents/content/report_list.h"
 #include "driver/driver.h"
+#include "driver/model_hand.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/path_text.h"
@@ -141,7 +142,9 @@ std::string roadFault(const Target& target, const char* road, std::string_view b
     memory_files::reset();
     classIs(target.klasse);
     std::ostringstream printed;
-    driver::Driver driver(printed, installation(), u"15.03.2027");
+    driver::DialogScript script(printed);
+    driver::ModelHand hand(script);
+    driver::Driver driver(printed, {installation(), u"15.03.2027"}, script, hand);
     const auto run = [&](const char* commands) {
         std::istringstream lines(commands);
         return driver.run(lines);

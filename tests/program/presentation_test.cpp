@@ -4,6 +4,7 @@
 
 #include "driver/command_line.h"
 #include "driver/driver.h"
+#include "driver/model_hand.h"
 #include "tests/support/test_installation.h"
 
 #include <gtest/gtest.h>
@@ -155,7 +156,8 @@ class Run {
   public:
     Run(const std::string& klasse, const std::string& halbjahr) {
         layOut(m_folder.path(), klasse, halbjahr);
-        m_driver.emplace(m_printed, m_folder.path(), u"15.03.2027");
+        m_driver.emplace(m_printed, driver::Surroundings{m_folder.path(), u"15.03.2027"}, m_script,
+                         m_hand);
     }
 
     std::string command(const std::string& line) {
@@ -168,6 +170,8 @@ class Run {
   private:
     TemporaryFolder m_folder;
     std::ostringstream m_printed;
+    driver::DialogScript m_script{m_printed};
+    driver::ModelHand m_hand{m_script};
     std::optional<driver::Driver> m_driver;
 };
 
