@@ -140,13 +140,28 @@ std::vector<LaidStrip> layTable(const Table& table, Twips width) {
     return strips;
 }
 
+namespace {
+
+// PDF/A knows no transparency.
+QImage opaque(const std::string& png) {
+    const QImage picture = QImage::fromData(QByteArray::fromStdString(png));
+    if (!picture.hasAlphaChannel())
+        return picture;
+    QImage onWhite(picture.size(), QImage::Format_RGB32);
+    onWhite.fill(Qt::white);
+    QPainter(&onWhite).drawImage(0, 0, picture);
+    return onWhite;
+}
+
+} // namespace
+
 LaidStrip layImage(const Image& image, Twips width) {
     const Style& style = styleOf(StyleId::Bildzeile);
     const QSize size(image.width, image.height);
     LaidStrip laid;
     laid.strip = {
         .height = size.height(), .spaceBefore = style.spaceBefore, .spaceAfter = style.spaceAfter};
-    laid.paint = [picture = QImage::fromData(QByteArray::fromStdString(image.png)), size,
+    laid.paint = [picture = opaque(image.png), size,
                   left = (width - size.width()) / 2](QPainter& painter, QPoint corner) {
         painter.drawImage(QRect(corner + QPoint(left, 0), size), picture);
     };
