@@ -19,13 +19,6 @@ const Text& textVon(const Zeugnisdaten& daten, const Abschnittsplan& plan, int p
     return (plan.Woher == Quelle::AVSV ? daten.AVSV : daten.Bereiche).at(plan.Nummer)[platz];
 }
 
-// The conference has decided so. Parents who ask for a repetition need no remedy.
-bool istNichtVersetzt(const Text& bemerkungen) {
-    const size_t nicht = bemerkungen.find(NichtVersetzt);
-    return (nicht != Text::npos && bemerkungen.find(u" versetzt", nicht) != Text::npos) ||
-           bemerkungen.find(Wiederholt) != Text::npos;
-}
-
 void notenAnfuegen(std::vector<Block>& bloecke, const Eintrag& eintrag,
                    const Zeugnisaufbau& aufbau) {
     bloecke.emplace_back(paragraph(StyleId::Bereich, Text(Notenueberschrift)));
@@ -60,7 +53,7 @@ Section zeugnis(const Zeugnisdaten& daten, int platz) {
         bloecke.emplace_back(paragraph(StyleId::Bereichstext, oderStrich(text)));
     }
     std::get<Paragraph>(bloecke.back()).keepEndWithNext = true;
-    for (Block& block : Zeugnisschluss(stamm, istNichtVersetzt(daten.Bereiche.back()[platz])))
+    for (Block& block : Zeugnisschluss(stamm, IstNichtVersetzt(daten, platz)))
         bloecke.push_back(std::move(block));
     return seiten;
 }
@@ -84,6 +77,21 @@ Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis) {
     daten.Bereiche = BereichstexteLesen(verzeichnis, daten.Stamm);
     daten.Liste = ZeugnislisteLesen(verzeichnis, daten.Stamm);
     return daten;
+}
+
+// Parents who ask for a repetition need no remedy.
+bool IstNichtVersetzt(const Zeugnisdaten& daten, int platz) {
+    const Text& bemerkungen = daten.Bereiche.back()[platz];
+    const size_t nicht = bemerkungen.find(NichtVersetzt);
+    return (nicht != Text::npos && bemerkungen.find(u" versetzt", nicht) != Text::npos) ||
+           bemerkungen.find(Wiederholt) != Text::npos;
+}
+
+Document ZeugnisBilden(const Zeugnisdaten& daten, int platz) {
+    return {.title = Text(Zeugnistitel(daten.Stamm)) + u" für " +
+                     Kindname(daten.Stamm.Liste.Kinder[platz]) + u", Klasse " +
+                     daten.Stamm.Liste.Klasse,
+            .sections = {zeugnis(daten, platz)}};
 }
 
 Document ZeugnisseBilden(const Zeugnisdaten& daten) {
