@@ -5,6 +5,7 @@
 #include "documents/window/preview_window.h"
 #include "documents/window/progress.h"
 #include "documents/window/report_list_window.h"
+#include "documents/window/report_window.h"
 #include "documents/window/theme.h"
 #include "platform/failure.h"
 #include "platform/machine.h"
@@ -60,15 +61,27 @@ Anzeige mitFortschrittSuchen(const Dokumentdateien& dateien, const std::filesyst
 
 using Fenster = std::unique_ptr<QWidget>;
 
-std::unique_ptr<PreviewWindow> vorschau(const Dokumentdateien& dateien,
-                                        const std::filesystem::path& umwandlungen,
-                                        const Text& hinweis = {}) {
-    return std::make_unique<PreviewWindow>([=] {
+PreviewWindow::Nachschauen nachschauen(const Dokumentdateien& dateien,
+                                       const std::filesystem::path& umwandlungen,
+                                       const Text& hinweis = {}) {
+    return [=] {
         Anzeige anzeige = mitFortschrittSuchen(dateien, umwandlungen);
         if (anzeige.Hinweis.empty())
             anzeige.Hinweis = hinweis;
         return anzeige;
-    });
+    };
+}
+
+// Whatever they were opened with, it is the macro that writes the reports anew.
+std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programmordner,
+                                              const Dokumentdateien& dateien,
+                                              const std::filesystem::path& umwandlungen) {
+    const auto neuSchreiben = [] {
+        mitFortschrittSchreiben(
+            {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"}, {});
+    };
+    return std::make_unique<ReportWindow>(programmordner, nachschauen(dateien, umwandlungen),
+                                          neuSchreiben);
 }
 
 Fenster listenfenster(const Arbeitsverzeichnis& programmordner, bool neu,
@@ -80,7 +93,7 @@ Fenster listenfenster(const Arbeitsverzeichnis& programmordner, bool neu,
                                      });
     return std::make_unique<ReportListWindow>(
         programmordner, std::move(stand), [umwandlungen](const Dokumentdateien& dateien) {
-            PreviewWindow* druck = vorschau(dateien, umwandlungen).release();
+            auto* druck = new PreviewWindow(nachschauen(dateien, umwandlungen));
             druck->setAttribute(Qt::WA_DeleteOnClose);
             druck->show();
         });
@@ -101,10 +114,14 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
                    const std::filesystem::path& umwandlungen) {
     QTemporaryDir texte;
     const Dokumentdateien dateien = mitFortschrittSchreiben(aufruf, texte.path().toStdU16String());
-    std::unique_ptr<PreviewWindow> fenster =
-        vorschau(dateien, umwandlungen, IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : Text());
-    if (art == Fensterart::Zeugnisse)
+    if (art == Fensterart::Zeugnisse) {
+        std::unique_ptr<PreviewWindow> fenster =
+            zeugnisfenster(programmordner, dateien, umwandlungen);
         fenster->showChecks([&] { return gepruefteKlasse(programmordner); });
+        return zeigen(std::move(fenster));
+    }
+    const Text hinweis = IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : Text();
+    Fenster fenster = std::make_unique<PreviewWindow>(nachschauen(dateien, umwandlungen, hinweis));
     const int ende = zeigen(std::move(fenster));
     texte.setAutoRemove(!IstAnzeigetext(aufruf) || !WirdBearbeitet(dateien));
     return ende;

@@ -1,6 +1,7 @@
 #include "documents/app/document_files.h"
 
 #include "documents/app/document_keys.h"
+#include "documents/pdf/page_fit.h"
 #include "documents/pdf/pdf_writer.h"
 #include "documents/rtf/rtf_writer.h"
 #include "platform/failure.h"
@@ -94,8 +95,9 @@ bool IstBearbeitet(const Dokumentdateien& dateien) {
            fs::last_write_time(dateien.Doc, ignored) > fs::last_write_time(dateien.Pdf, ignored);
 }
 
-Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& dokument,
+Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& inhalt,
                                   const Text& stamm, const std::stop_token& abbruch) {
+    const Document dokument = fittedToPages(inhalt);
     const LaidDocument gesetzt = layOut(dokument);
     abbruchPruefen(abbruch);
     const std::string rtf = rtfFromDocument(dokument, gesetzt.pagesPerSection());

@@ -1,6 +1,7 @@
 #include "documents/app/document_keys.h"
 
 #include "documents/app/list_keys.h"
+#include "documents/app/report_files.h"
 #include "documents/app/report_list_files.h"
 #include "documents/content/school_report.h"
 #include "platform/failure.h"
@@ -25,7 +26,7 @@ constexpr std::array<Schluessel, 3> AlleSchluessel = {{
          },
      .Inhalt =
          [](Arbeitsverzeichnis& verzeichnis) {
-             return ZeugnisseBilden(ZeugnisdatenLesen(verzeichnis));
+             return ZeugnisseBilden(ZeugnisdatenMitBild(verzeichnis));
          },
      .Fenster = Fensterart::Zeugnisse},
     // In front of the one that begins the list anew: it is what the class document is opened with.

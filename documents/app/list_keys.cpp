@@ -55,7 +55,9 @@ constexpr std::array<Schluessel, 5> AlleListen = {{
      .Stamm = stamm<Leerformular>,
      .Inhalt =
          [](Arbeitsverzeichnis& verzeichnis) {
-             return LeerformularBilden(FormulardatenLesen(verzeichnis));
+             Stammdaten stamm = FormulardatenLesen(verzeichnis);
+             stamm.Kopfbild = KopfbildLesen(verzeichnis, stamm.Aufbau.Kopfbild);
+             return LeerformularBilden(stamm);
          }},
 }};
 

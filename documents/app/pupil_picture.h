@@ -11,4 +11,7 @@ namespace zeugnis::dokumente {
 /// camera made of it. Nothing if the file is missing or cannot be shown.
 std::optional<Image> KinderbildLesen(const Arbeitsverzeichnis& verzeichnis, const Text& datei);
 
+/// The same in the size of a school's sign or of a picture across the head of a report.
+std::optional<Image> KopfbildLesen(const Arbeitsverzeichnis& verzeichnis, const Text& datei);
+
 } // namespace zeugnis::dokumente

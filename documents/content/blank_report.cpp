@@ -17,11 +17,10 @@ constexpr Twips Fachzeilenhoehe = 380;
 
 const Text ZumEintragen(16, u'_');
 
-// Fills the pages evenly. Sections are counted from 0, work behaviour being the first.
+// Fills the pages evenly. Sections are counted from 0, in the order of the report.
 constexpr int Zeilen = 5;
 constexpr std::array<int, 2> SeitenanfaengeUnten = {3, 7};
-constexpr std::array<int, 1> SeitenanfaengeOben = {2};
-constexpr int NotenNach = 1;
+constexpr std::array<int, 1> SeitenanfaengeOben = {3};
 
 Text oderPlatz(const Text& angabe) { return printable(angabe).empty() ? ZumEintragen : angabe; }
 
@@ -31,71 +30,81 @@ Schuldaten mitPlatz(Schuldaten schule) {
     return schule;
 }
 
-// The empty paragraph leaves room to write on the line.
-Cell platzMit(const Text& angabe) {
-    return {.paragraphs = {paragraph(StyleId::Schlussangabe, u""),
+// What is known stands on the line; else there is room to write on it.
+Cell linieMit(const Text& inhalt, const Text& angabe) {
+    return {.paragraphs = {paragraph(StyleId::Schlussangabe, inhalt),
                            paragraph(StyleId::Formularangabe, angabe)}};
 }
 
 Table kopfzeilen(const Text& klasse) {
-    return {
-        .columns = {12, 1, 7},
-        .rows = {
-            {platzMit(u"Vor- und Nachname"), {}, platzMit(u"Klasse " + klasse)},
-            {platzMit(u"geboren am, in"), {}, platzMit(u"versäumte Tage, davon unentschuldigt")}}};
+    return {.columns = {12, 1, 7},
+            .rows = {{linieMit(u"", u"Vor- und Nachname"), {}, linieMit(klasse, u"Klasse")},
+                     {linieMit(u"", u"geboren am, in"),
+                      {},
+                      linieMit(u"", u"versäumte Tage, davon unentschuldigt")}}};
 }
 
-Table notentabelle() {
-    Table tabelle{.columns = {6, 3, 6, 3}, .rows = {}, .grid = true, .rowHeight = Fachzeilenhoehe};
+Table notentabelle(const Zeugnisaufbau& aufbau) {
+    Table tabelle{.columns = {6, 3, 6, 3},
+                  .rows = {},
+                  .grid = true,
+                  .rowHeight = Fachzeilenhoehe,
+                  .keepRows = true,
+                  .keepWithNext = true};
     const std::span<const Spalte> faecher = SpaltenFuer(ErsterJahrgangMitNoten).subspan(ErstesFach);
-    const size_t haelfte = faecher.size() / 2;
-    for (size_t i = 0; i < haelfte; ++i)
-        tabelle.rows.push_back({Zelle(StyleId::Listenzeile, Text(faecher[i].Name)),
+    const size_t haelfte = (faecher.size() + 1) / 2;
+    for (size_t i = 0; i < haelfte; ++i) {
+        const size_t rechts = i + haelfte;
+        tabelle.rows.push_back({Zelle(StyleId::Listenzeile, Fachname(faecher[i], aufbau)),
                                 {},
-                                Zelle(StyleId::Listenzeile, Text(faecher[i + haelfte].Name)),
+                                rechts < faecher.size()
+                                    ? Zelle(StyleId::Listenzeile, Fachname(faecher[rechts], aufbau))
+                                    : Cell(),
                                 {}});
+    }
     return tabelle;
-}
-
-std::vector<TextView> ueberschriften(int jahrgang) {
-    std::vector<TextView> alle = {u"Arbeitsverhalten", u"Sozialverhalten"};
-    const auto bereiche = Bereichsueberschriften(jahrgang);
-    alle.insert(alle.end(), bereiche.begin(), bereiche.end());
-    return alle;
 }
 
 Paragraph bereich(TextView ueberschrift) { return paragraph(StyleId::Bereich, Text(ueberschrift)); }
 
-void bereicheAnfuegen(std::vector<Block>& seiten, int jahrgang) {
-    const bool istUnten = !HatNoten(jahrgang);
+void bereicheAnfuegen(std::vector<Block>& seiten, const Stammdaten& stamm) {
+    const bool istUnten = !HatNoten(stamm.Jahrgang);
     const std::span<const int> anfaenge =
         istUnten ? std::span<const int>(SeitenanfaengeUnten) : SeitenanfaengeOben;
     int nummer = 0;
-    for (const TextView ueberschrift : ueberschriften(jahrgang)) {
-        Paragraph kopf = bereich(ueberschrift);
-        kopf.startsPage = std::find(anfaenge.begin(), anfaenge.end(), nummer) != anfaenge.end();
+    TextView fach;
+    for (const Abschnittsplan& plan : AbschnitteFuer(stamm.Jahrgang, stamm.Aufbau)) {
+        const size_t anfang = seiten.size();
+        if (!plan.Fach.empty() && plan.Fach != fach)
+            seiten.emplace_back(bereich(plan.Fach));
+        fach = plan.Fach;
+        Paragraph kopf = bereich(plan.Ueberschrift);
+        if (!fach.empty())
+            kopf.style = StyleId::Lernbereich;
         seiten.emplace_back(std::move(kopf));
-        seiten.emplace_back(Schreiblinien(Zeilen));
-        if (!istUnten && nummer == NotenNach) {
-            seiten.emplace_back(bereich(u"Leistungen in den Fächern"));
-            seiten.emplace_back(notentabelle());
+        std::get<Paragraph>(seiten[anfang]).startsPage =
+            std::find(anfaenge.begin(), anfaenge.end(), nummer++) != anfaenge.end();
+        if (plan.Woher == Abschnittsplan::Quelle::Noten) {
+            seiten.emplace_back(notentabelle(stamm.Aufbau));
+            seiten.emplace_back(Notenschluessel(true));
+        } else {
+            seiten.emplace_back(Schreiblinien(Zeilen));
         }
-        ++nummer;
     }
 }
 
 } // namespace
 
 Document LeerformularBilden(const Stammdaten& stamm) {
-    std::vector<Block> seiten = Schulkopf(stamm, u"Zeugnis");
+    Stammdaten leer = stamm;
+    leer.Schule = mitPlatz(stamm.Schule);
+    std::vector<Block> seiten = Schulkopf(stamm, Zeugnistitel(stamm));
     seiten.emplace_back(kopfzeilen(stamm.Liste.Klasse));
-    bereicheAnfuegen(seiten, stamm.Jahrgang);
-    if (HatNoten(stamm.Jahrgang))
-        seiten.emplace_back(Notenschluessel());
-    else
-        seiten.emplace_back(paragraph(StyleId::Schlussangabe, u""));
-    seiten.emplace_back(Zeugnisschluss(mitPlatz(stamm.Schule)));
-    return Einzelliste(u"Zeugnis, Klasse " + stamm.Liste.Klasse, std::move(seiten));
+    bereicheAnfuegen(seiten, stamm);
+    for (Block& block : Zeugnisschluss(leer, false))
+        seiten.push_back(std::move(block));
+    return Einzelliste(Text(Zeugnistitel(stamm)) + u", Klasse " + stamm.Liste.Klasse,
+                       std::move(seiten));
 }
 
 } // namespace zeugnis::dokumente

@@ -28,6 +28,7 @@ Stammdaten StammdatenLesen(Arbeitsverzeichnis& verzeichnis) {
     const int halbjahr = numberFromText(daten.Halbjahr, u"Das Halbjahr in Basisdaten.txt");
     if (daten.Jahrgang == 1 && halbjahr == 1)
         daten.Halbjahr = u"2";
+    daten.Aufbau = ZeugnisaufbauLesen(verzeichnis);
     return daten;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "documents/content/report_layout.h"
+#include "documents/model/document.h"
 #include "files/pupil_records.h"
 #include "files/school_data.h"
 
@@ -13,10 +15,12 @@ struct Stammdaten {
     Namensliste Liste;
     int Jahrgang = 0;
     Text Halbjahr; ///< "2" for year 1 whatever the file says: it has no report for the first half
+    Zeugnisaufbau Aufbau = {};
+    std::optional<Image> Kopfbild = {}; ///< the picture that the layout names; not read here
 };
 
-/// Fails as the readers of Basisdaten.txt and Namen.Txt do, and with type-mismatch for a class
-/// that does not begin with a digit or a half-year that is no number.
+/// Fails as the readers of Basisdaten.txt, Namen.Txt and the layout do, and with type-mismatch for
+/// a class that does not begin with a digit or a half-year that is no number.
 Stammdaten StammdatenLesen(Arbeitsverzeichnis& verzeichnis);
 
 /// The name of a class document without its extension: "3a" + "Zeugnisse" + "3" + "2".

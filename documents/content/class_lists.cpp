@@ -29,8 +29,6 @@ constexpr int Haken = 6;
 constexpr int Kaestchen = 16;
 constexpr Twips Namensbreite = page::TextWidth - Nummernbreite - Kaestchen * Zeilenhoehe;
 
-constexpr int Anlagenzeilen = 17; // down to the place for the signature
-
 Table liste(std::vector<int> spalten) {
     return {.columns = std::move(spalten),
             .rows = {},
@@ -72,15 +70,10 @@ Document alsListe(const Stammdaten& stamm, TextView art, Table tabelle) {
     return Einzelliste(titel, std::move(bloecke));
 }
 
-Table anlagenschluss(const Schuldaten& schule) {
-    Table schluss{.columns = {9, 4, 9}, .rows = {}};
-    Row zeile = {
-        Zelle(StyleId::Schlussangabe, OrtUndDatum(schule)), {}, Zelle(StyleId::Schlussangabe, u"")};
-    for (const size_t platz : {0U, 2U})
-        zeile[platz].paragraphs.push_back(
-            paragraph(StyleId::Unterschrift, platz == 0 ? u"Klassenlehrkraft" : u"Schulleitung"));
-    schluss.rows.push_back(std::move(zeile));
-    return schluss;
+Table blattlinien() {
+    Table linien = Schreiblinien(1);
+    linien.fillsPage = true;
+    return linien;
 }
 
 } // namespace
@@ -121,9 +114,10 @@ Document ZeugnisanlagenBilden(const Stammdaten& stamm) {
         const Schueler& kind = stamm.Liste.Kinder[platz];
         Section blatt{.footer = Kindname(kind) + u", Klasse " + klasse,
                       .blocks = Zeugniskopf(stamm, kind, u"Anlage zum Zeugnis")};
-        blatt.blocks.emplace_back(Schreiblinien(Anlagenzeilen));
+        blatt.blocks.emplace_back(blattlinien());
         blatt.blocks.emplace_back(paragraph(StyleId::Schlussangabe, u""));
-        blatt.blocks.emplace_back(anlagenschluss(stamm.Schule));
+        blatt.blocks.emplace_back(paragraph(StyleId::Schlussangabe, OrtUndDatum(stamm.Schule)));
+        blatt.blocks.emplace_back(Table{.columns = {9, 4, 9}, .rows = {Unterschriften(stamm, {})}});
         dokument.sections.push_back(std::move(blatt));
     }
     return dokument;

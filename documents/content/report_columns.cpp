@@ -30,7 +30,7 @@ constexpr std::array<Spalte, Spaltenzahl> AlleSpalten = {{
     fach(u"Mathematik", u"Mathe-\nmatik", u"Ma"),
     fach(u"Sachunterricht", u"Sach-\nunterr.", u"Sach"),
     fach(u"Englisch", u"Englisch", u"En"),
-    fach(u"Religion / Werte und Normen", u"Religion /\nW. u. N.", u"Rel"),
+    fach(Religionsspalte, u"Religion /\nW. u. N.", u"Rel"),
     fach(u"Musik", u"Musik", u"Mu"),
     fach(u"Kunst", u"Kunst", u"Ku"),
     fach(u"Textiles Gestalten", u"Textiles\nGestalten", u"TG"),

@@ -24,6 +24,7 @@ inline constexpr int SpalteTage = 0;
 inline constexpr int SpalteUnentschuldigt = 1;
 inline constexpr int ErstesFach = 2;
 inline constexpr int Spaltenzahl = 12;
+inline constexpr TextView Religionsspalte = u"Religion / Werte und Normen";
 
 /// The columns of a year: only the days in years 1 and 2.
 std::span<const Spalte> SpaltenFuer(int jahrgang);

@@ -1,12 +1,14 @@
 #include "documents/content/report_frame.h"
 
+#include "documents/content/paper_text.h"
 #include "documents/content/wording.h"
+
+#include <array>
 
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr size_t LangAb = 1000;
-constexpr size_t EndeMindestens = 160; // about two lines
+constexpr std::array Unterschriftsbreiten = {9, 4, 9};
 
 Text geburt(const Schueler& kind) {
     const Text datum = printable(kind.Geburtsdatum);
@@ -16,22 +18,39 @@ Text geburt(const Schueler& kind) {
     return verbunden(datum.empty() ? u"geboren" : u"geboren am " + datum, u" in ", ort);
 }
 
-// Where the part begins that is kept; 0 if the text stays whole.
-size_t teilstelle(TextView text) {
-    if (text.size() <= LangAb)
-        return 0;
-    const size_t umbruch = text.rfind(u'\n');
-    if (umbruch != TextView::npos && text.size() - umbruch < LangAb)
-        return umbruch + 1;
-    const size_t satz = text.rfind(u". ", text.size() - EndeMindestens);
-    return satz != TextView::npos && text.size() - satz < LangAb ? satz + 2 : 0;
+Paragraph gehalten(StyleId stil, Text text) {
+    Paragraph absatz = paragraph(stil, std::move(text));
+    absatz.keepWithNext = true;
+    return absatz;
 }
 
-Cell zelle(std::initializer_list<std::pair<StyleId, Text>> absaetze) {
-    Cell eine;
-    for (const auto& [stil, text] : absaetze)
-        eine.paragraphs.push_back(paragraph(stil, text));
-    return eine;
+Cell linie(const Text& angabe) {
+    return {.paragraphs = {paragraph(StyleId::Unterschriftsraum, u""),
+                           paragraph(StyleId::Unterschrift, angabe)}};
+}
+
+Text mitNamen(const Stammdaten& stamm, const Text& name, TextView amt) {
+    return verbunden(stamm.Aufbau.Namen ? printable(name) : Text(), u"\n", Text(amt));
+}
+
+Cell siegel() {
+    return {.paragraphs = {paragraph(StyleId::Unterschriftsraum, u""),
+                           paragraph(StyleId::Siegel, u"(Siegel)")}};
+}
+
+// The cells have the same lines above their rules, so that these lie at one height.
+Row kenntnisnahme(Zeugnisaufbau::Kenntnisnahme art) {
+    const auto mit = [](Cell zelle, const Text& satz) {
+        zelle.paragraphs.insert(zelle.paragraphs.begin(), {paragraph(StyleId::Gesehen, u""),
+                                                           paragraph(StyleId::Gesehen, satz)});
+        return zelle;
+    };
+    const bool mitDatum = art == Zeugnisaufbau::Kenntnisnahme::DatumUndUnterschrift;
+    const Text satz = u"Zur Kenntnis genommen:";
+    const Cell unterschrift = linie(u"Erziehungsberechtigte/r");
+    if (mitDatum)
+        return {mit(linie(u"Datum"), satz), {}, mit(unterschrift, u"")};
+    return {mit(unterschrift, satz), {}, {}};
 }
 
 } // namespace
@@ -40,9 +59,15 @@ Text Kindname(const Schueler& kind) {
     return oderStrich(verbunden(printable(kind.Vorname), u" ", printable(kind.Nachname)));
 }
 
+TextView Zeugnistitel(const Stammdaten& stamm) {
+    return IstZahl(stamm.Halbjahr, 1) ? u"Halbjahreszeugnis" : u"Zeugnis";
+}
+
 std::vector<Block> Schulkopf(const Stammdaten& stamm, TextView titel) {
     const Schuldaten& schule = stamm.Schule;
     std::vector<Block> kopf;
+    if (stamm.Kopfbild)
+        kopf.emplace_back(*stamm.Kopfbild);
     kopf.emplace_back(paragraph(StyleId::Schulname, oderStrich(schule.Schulname)));
     for (const Text& angabe : {schule.Schulzusatz, schule.Schulanschrift})
         if (Text sauber = printable(angabe); !sauber.empty())
@@ -65,35 +90,29 @@ Text OrtUndDatum(const Schuldaten& schule) {
     return oderStrich(schule.Ausgabeort) + u", den " + oderStrich(schule.Ausgabedatum);
 }
 
-Table Zeugnisschluss(const Schuldaten& schule) {
-    const auto angabe = StyleId::Schlussangabe;
-    const auto linie = StyleId::Unterschrift;
-    Table schluss{.columns = {9, 4, 9}, .rows = {}};
-    schluss.rows.push_back({
-        zelle({{angabe, u""},
-               {angabe, u"Konferenz vom " + oderStrich(schule.Konferenzdatum)},
-               {angabe, OrtUndDatum(schule)},
-               {linie, u"Klassenlehrkraft"},
-               {StyleId::Gesehen, u"Gesehen:"},
-               {linie, u"Erziehungsberechtigte/r"}}),
-        zelle({{angabe, u""}, {angabe, u""}, {angabe, u""}, {StyleId::Siegel, u"(Siegel)"}}),
-        zelle({{angabe, u""}, {angabe, u""}, {angabe, u""}, {linie, u"Schulleitung"}}),
-    });
-    return schluss;
+Row Unterschriften(const Stammdaten& stamm, Cell mitte) {
+    return {linie(mitNamen(stamm, stamm.Schule.Klassenleitung, u"Klassenlehrkraft")),
+            std::move(mitte), linie(mitNamen(stamm, stamm.Aufbau.Schulleitung, u"Schulleitung"))};
 }
 
-void LetztenAbsatzHalten(std::vector<Block>& seite) {
-    Paragraph& letzter = std::get<Paragraph>(seite.back());
-    const Text text = textOf(letzter);
-    const size_t teil = teilstelle(text);
-    if (teil == 0) {
-        letzter.keepWithNext = true;
-        return;
-    }
-    Paragraph ende = paragraph(letzter.style, text.substr(teil));
-    ende.keepWithNext = true;
-    letzter = paragraph(StyleId::BereichstextAnfang, printable(text.substr(0, teil)));
-    seite.emplace_back(std::move(ende));
+std::vector<Block> Zeugnisschluss(const Stammdaten& stamm, bool nichtVersetzt) {
+    const Zeugnisaufbau& aufbau = stamm.Aufbau;
+    std::vector<Block> schluss = {gehalten(StyleId::Schlussangabe, u"")};
+    if (nichtVersetzt && !printable(aufbau.Rechtsbehelf).empty())
+        schluss.emplace_back(gehalten(StyleId::Schlussangabe, AufPapier(aufbau.Rechtsbehelf)));
+    if (!printable(aufbau.Unterricht).empty())
+        schluss.emplace_back(gehalten(StyleId::Schlussangabe, AufPapier(aufbau.Unterricht)));
+    schluss.emplace_back(
+        gehalten(StyleId::Schlussangabe,
+                 u"Konferenzbeschluss vom " + oderStrich(stamm.Schule.Konferenzdatum)));
+    schluss.emplace_back(gehalten(StyleId::Schlussangabe, OrtUndDatum(stamm.Schule)));
+    Table linien{.columns = {Unterschriftsbreiten.begin(), Unterschriftsbreiten.end()},
+                 .rows = {Unterschriften(stamm, siegel())},
+                 .keepRows = true};
+    if (aufbau.Eltern != Zeugnisaufbau::Kenntnisnahme::Keine)
+        linien.rows.push_back(kenntnisnahme(aufbau.Eltern));
+    schluss.emplace_back(std::move(linien));
+    return schluss;
 }
 
 } // namespace zeugnis::dokumente

@@ -9,23 +9,24 @@ namespace zeugnis::dokumente {
 /// First and last name, or a dash.
 Text Kindname(const Schueler& kind);
 
-/// School, the title of the sheet, school year and half-year.
+/// "Zeugnis", or in the first half-year "Halbjahreszeugnis".
+TextView Zeugnistitel(const Stammdaten& stamm);
+
+/// The school with its picture, the title of the sheet, school year and half-year.
 std::vector<Block> Schulkopf(const Stammdaten& stamm, TextView titel);
 
 /// The same with whose sheet it is.
-std::vector<Block> Zeugniskopf(const Stammdaten& stamm, const Schueler& kind,
-                               TextView titel = u"Zeugnis");
+std::vector<Block> Zeugniskopf(const Stammdaten& stamm, const Schueler& kind, TextView titel);
 
-/// Conference, place and date, signatures, seal, and the parent's line: one row, so that no page
-/// break divides it.
-Table Zeugnisschluss(const Schuldaten& schule);
+/// Conference, what the layout adds, place and date, signatures, seal, and the parents' line. No
+/// page break divides it. `nichtVersetzt` adds the sentence on legal remedies.
+std::vector<Block> Zeugnisschluss(const Stammdaten& stamm, bool nichtVersetzt);
 
 /// Place and date of issue.
 Text OrtUndDatum(const Schuldaten& schule);
 
-/// Keeps the last paragraph with what follows. Such a paragraph is not divided between pages, so
-/// of a long one only the end is kept, as a paragraph of its own: what stands behind its last line
-/// break, or else its last sentences.
-void LetztenAbsatzHalten(std::vector<Block>& seite);
+/// Two lines side by side for class teacher and head, with their names if the layout wants them,
+/// and something between them.
+Row Unterschriften(const Stammdaten& stamm, Cell mitte);
 
 } // namespace zeugnis::dokumente

@@ -2,11 +2,15 @@
 
 #include "documents/content/wording.h"
 
+#include <algorithm>
+#include <span>
+
 namespace zeugnis::dokumente {
 namespace {
 
-// Chosen so that no subject and no grade needs a second line: rows have to stay side by side.
-const std::vector<int> Spaltenbreiten = {35, 18, 2, 27, 18};
+// No subject and no grade that is delivered needs a second line.
+const std::vector<int> Spaltenbreiten = {2920, 1720, 584, 2180, 1780};
+constexpr int Mittelspalte = 2;
 
 Text note(int wert) {
     if (wert == LeereZelle)
@@ -14,19 +18,13 @@ Text note(int wert) {
     return Text(Notenwort(wert)) + u" (" + textFromNumber(wert) + u")";
 }
 
-struct Faecherspalte {
-    Cell Namen;
-    Cell Noten;
-};
+Cell zelle(StyleId stil, Text text) { return {.paragraphs = {paragraph(stil, std::move(text))}}; }
 
-Faecherspalte faecherspalte(const Eintrag& eintrag, size_t von, size_t bis) {
-    Faecherspalte spalte;
-    for (size_t i = von; i < bis; ++i) {
-        const Spalte& fach = SpaltenFuer(ErsterJahrgangMitNoten)[i];
-        spalte.Namen.paragraphs.push_back(paragraph(StyleId::Fach, Text(fach.Name)));
-        spalte.Noten.paragraphs.push_back(paragraph(StyleId::Note, note(eintrag.Werte.at(i))));
-    }
-    return spalte;
+void fachAnfuegen(Row& zeile, const Eintrag& eintrag, const Zeugnisaufbau& aufbau, size_t spalte) {
+    const std::span<const Spalte> spalten = SpaltenFuer(ErsterJahrgangMitNoten);
+    const bool vorhanden = spalte < spalten.size();
+    zeile.push_back(vorhanden ? zelle(StyleId::Fach, Fachname(spalten[spalte], aufbau)) : Cell());
+    zeile.push_back(vorhanden ? zelle(StyleId::Note, note(eintrag.Werte.at(spalte))) : Cell());
 }
 
 } // namespace
@@ -39,22 +37,36 @@ Paragraph Versaeumnisse(const Eintrag& eintrag) {
                                                oderStrich(unentschuldigt));
 }
 
-Table Notentabelle(const Eintrag& eintrag) {
-    constexpr size_t Mitte = (ErstesFach + Spaltenzahl) / 2;
-    Faecherspalte links = faecherspalte(eintrag, ErstesFach, Mitte);
-    Faecherspalte rechts = faecherspalte(eintrag, Mitte, Spaltenzahl);
-    return {.columns = Spaltenbreiten,
-            .rows = {{std::move(links.Namen), std::move(links.Noten), Cell(),
-                      std::move(rechts.Namen), std::move(rechts.Noten)}}};
+bool HatNotenluecke(const Eintrag& eintrag) {
+    return std::find(eintrag.Werte.begin() + ErstesFach, eintrag.Werte.end(), LeereZelle) !=
+           eintrag.Werte.end();
 }
 
-Paragraph Notenschluessel() {
+Table Notentabelle(const Eintrag& eintrag, const Zeugnisaufbau& aufbau) {
+    constexpr size_t Haelfte = (Spaltenzahl - ErstesFach + 1) / 2;
+    Table tabelle{.columns = Spaltenbreiten,
+                  .rows = {},
+                  .ruled = true,
+                  .gap = Mittelspalte,
+                  .keepRows = true,
+                  .keepWithNext = true};
+    for (size_t spalte = ErstesFach; spalte < ErstesFach + Haelfte; ++spalte) {
+        Row zeile;
+        fachAnfuegen(zeile, eintrag, aufbau, spalte);
+        zeile.emplace_back();
+        fachAnfuegen(zeile, eintrag, aufbau, spalte + Haelfte);
+        tabelle.rows.push_back(std::move(zeile));
+    }
+    return tabelle;
+}
+
+Paragraph Notenschluessel(bool mitStrich) {
     Text text = u"Noten: ";
     for (int wert = 1; wert <= SchlechtesteNote; ++wert)
         text += (wert > 1 ? u", " : u"") + textFromNumber(wert) + u" = " + Text(Notenwort(wert));
-    Paragraph absatz = paragraph(StyleId::Notenschluessel, std::move(text));
-    absatz.keepWithNext = true;
-    return absatz;
+    if (mitStrich)
+        text += u"; – = nicht erteilt";
+    return paragraph(StyleId::Notenschluessel, std::move(text));
 }
 
 } // namespace zeugnis::dokumente

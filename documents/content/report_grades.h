@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/content/report_columns.h"
+#include "documents/content/report_layout.h"
 #include "documents/model/document.h"
 
 /// Absences and grades as they stand on a report.
@@ -9,11 +9,14 @@ namespace zeugnis::dokumente {
 /// "Versäumte Unterrichtstage: 5, davon unentschuldigt: 0"; dashes for what is not filled in.
 Paragraph Versaeumnisse(const Eintrag& eintrag);
 
-/// Two columns of subjects with their grades, "gut (2)" or a dash: one row, so that no page break
-/// divides it.
-Table Notentabelle(const Eintrag& eintrag);
+/// Two subjects with their grades, "gut (2)" or a dash, in each row. No page break divides it, nor
+/// parts it from what follows.
+Table Notentabelle(const Eintrag& eintrag, const Zeugnisaufbau& aufbau);
 
-/// "1 = sehr gut, …" in small type; stays with what follows.
-Paragraph Notenschluessel();
+/// "1 = sehr gut, …" in small type, and what a dash means if there is one.
+Paragraph Notenschluessel(bool mitStrich);
+
+/// Whether a subject has no grade.
+bool HatNotenluecke(const Eintrag& eintrag);
 
 } // namespace zeugnis::dokumente

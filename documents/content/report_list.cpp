@@ -32,6 +32,34 @@ Listenzeile zeileLesen(RecordReader& reader, std::span<const Spalte> spalten) {
     return zeile;
 }
 
+constexpr size_t FelderDavor = 4; // number, class and names
+
+size_t felderDerZeile(std::string_view zeile) {
+    size_t felder = 1;
+    bool imText = false;
+    for (const char zeichen : zeile) {
+        imText = imText != (zeichen == '"');
+        felder += zeichen == ',' && !imText ? 1 : 0;
+    }
+    return felder;
+}
+
+// A list from before a subject was added has one column less in all of its records. Anything else
+// is damage, and shows when it is read.
+std::span<const Spalte> spaltenDerDatei(std::string_view inhalt, std::span<const Spalte> alle) {
+    size_t felder = 0;
+    for (size_t ende = inhalt.find("\r\n"); ende != std::string_view::npos;
+         ende = inhalt.find("\r\n")) {
+        const size_t hier = felderDerZeile(inhalt.substr(0, ende));
+        if (felder != 0 && hier != felder)
+            return alle;
+        felder = hier;
+        inhalt.remove_prefix(ende + 2);
+    }
+    const bool aelter = felder >= FelderDavor + ErstesFach && felder < FelderDavor + alle.size();
+    return aelter && inhalt.empty() ? alle.first(felder - FelderDavor) : alle;
+}
+
 std::multiset<int> nummernInDerDatei(const std::vector<Listenzeile>& zeilen, const Name& name) {
     std::multiset<int> nummern;
     for (const Listenzeile& zeile : zeilen)
@@ -71,10 +99,12 @@ Text Listenstamm(const Stammdaten& daten) { return Klassenstamm(daten, u"Zeugnis
 std::vector<Listenzeile> ListenzeilenLesen(const Arbeitsverzeichnis& verzeichnis, TextView datei,
                                            int jahrgang) {
     std::vector<Listenzeile> zeilen;
+    const std::span<const Spalte> spalten =
+        spaltenDerDatei(readWholeFile(verzeichnis, datei), SpaltenFuer(jahrgang));
     RecordReader reader(verzeichnis, datei);
     while (!reader.atEnd()) {
         PlatzPruefen(reader, static_cast<int>(zeilen.size()));
-        zeilen.push_back(zeileLesen(reader, SpaltenFuer(jahrgang)));
+        zeilen.push_back(zeileLesen(reader, spalten));
     }
     return zeilen;
 }

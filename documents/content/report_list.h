@@ -29,8 +29,10 @@ struct Zeugnisliste {
 /// "3aZeugnisliste32", the stem of all files of the list.
 Text Listenstamm(const Stammdaten& daten);
 
-/// Reads a list of the year from the working directory. Fails as the record reader does, with
-/// index-out-of-range for a 37th record, and with type-mismatch for values that cannot be entered.
+/// Reads a list of the year from the working directory. In a list from before a subject was added
+/// all records are shorter by it; nothing has been entered there then. Fails as the record reader
+/// does, with index-out-of-range for a 37th record, and with type-mismatch for values that cannot
+/// be entered.
 std::vector<Listenzeile> ListenzeilenLesen(const Arbeitsverzeichnis& verzeichnis, TextView datei,
                                            int jahrgang);
 

@@ -1,35 +1,24 @@
 #pragma once
 
 #include "documents/content/class_data.h"
-#include "documents/content/report_columns.h"
 
-#include <array>
-#include <span>
+#include <vector>
 
 namespace zeugnis::dokumente {
 
-// The sections of a report between its head and its end, in their order.
-inline constexpr std::array<TextView, Abschnitte12> Ueberschriften12 = std::to_array<TextView>({
-    u"Interessen und Fertigkeiten",
-    Kompetenzbereiche[0],
-    Kompetenzbereiche[1],
-    Kompetenzbereiche[2],
-    Kompetenzbereiche[3],
-    Kompetenzbereiche[4],
-    Kompetenzbereiche[5],
-    u"Bemerkungen",
-});
-inline constexpr std::array<TextView, Abschnitte34> Ueberschriften34 = std::to_array<TextView>({
-    u"Förderunterricht und Arbeitsgemeinschaften",
-    u"Besondere Interessen",
-    u"Bemerkungen",
-});
+/// One section of a report between its head and its end.
+struct Abschnittsplan {
+    enum class Quelle { AVSV, Bereiche, Noten };
 
-/// Those of a year, behind work and social behaviour.
-inline std::span<const TextView> Bereichsueberschriften(int jahrgang) {
-    if (HatNoten(jahrgang))
-        return Ueberschriften34;
-    return Ueberschriften12;
-}
+    Quelle Woher = Quelle::Bereiche;
+    size_t Nummer = 0; ///< of the text in its store
+    TextView Ueberschrift;
+    TextView Fach = {}; ///< the subject that it is one part of; empty for none
+};
+
+inline constexpr TextView Notenueberschrift = u"Leistungen in den Fächern";
+
+/// The sections of a year in the order in which the report shows them.
+std::vector<Abschnittsplan> AbschnitteFuer(int jahrgang, const Zeugnisaufbau& aufbau);
 
 } // namespace zeugnis::dokumente

@@ -1,56 +1,70 @@
 #include "documents/content/school_report.h"
 
+#include "documents/content/paper_text.h"
 #include "documents/content/report_frame.h"
 #include "documents/content/report_grades.h"
 #include "documents/content/report_sections.h"
 #include "documents/content/wording.h"
 #include "platform/failure.h"
 
-#include <span>
-
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr size_t Verhaltensabschnitte = AbschnitteAVSV; // behind them come the grades
+using Quelle = Abschnittsplan::Quelle;
 
-void bereichAnfuegen(Section& seiten, const Abschnittstext& abschnitt) {
-    seiten.blocks.emplace_back(paragraph(StyleId::Bereich, Text(abschnitt.Ueberschrift)));
-    seiten.blocks.emplace_back(paragraph(StyleId::Bereichstext, oderStrich(abschnitt.Inhalt)));
+constexpr TextView NichtVersetzt = u"nicht in den ";
+constexpr TextView Wiederholt = u"wiederholt laut Konferenzbeschluss";
+
+const Text& textVon(const Zeugnisdaten& daten, const Abschnittsplan& plan, int platz) {
+    return (plan.Woher == Quelle::AVSV ? daten.AVSV : daten.Bereiche).at(plan.Nummer)[platz];
+}
+
+void notenAnfuegen(std::vector<Block>& bloecke, const Eintrag& eintrag,
+                   const Zeugnisaufbau& aufbau) {
+    bloecke.emplace_back(paragraph(StyleId::Bereich, Text(Notenueberschrift)));
+    bloecke.emplace_back(Notentabelle(eintrag, aufbau));
+    bloecke.emplace_back(Notenschluessel(HatNotenluecke(eintrag)));
+}
+
+void ueberschriftAnfuegen(std::vector<Block>& bloecke, const Abschnittsplan& plan, TextView fach) {
+    if (!plan.Fach.empty() && plan.Fach != fach)
+        bloecke.emplace_back(paragraph(StyleId::Bereich, Text(plan.Fach)));
+    bloecke.emplace_back(paragraph(plan.Fach.empty() ? StyleId::Bereich : StyleId::Lernbereich,
+                                   Text(plan.Ueberschrift)));
 }
 
 Section zeugnis(const Zeugnisdaten& daten, int platz) {
-    const Schueler& kind = daten.Stamm.Liste.Kinder[platz];
+    const Stammdaten& stamm = daten.Stamm;
+    const Schueler& kind = stamm.Liste.Kinder[platz];
     const Eintrag eintrag = daten.Liste ? daten.Liste->Eintraege[platz] : Eintrag();
-    const bool hatNoten = HatNoten(daten.Stamm.Jahrgang);
-    Section seiten;
-    seiten.footer = Kindname(kind) + u", Klasse " + daten.Stamm.Liste.Klasse;
-    seiten.blocks = Zeugniskopf(daten.Stamm, kind);
-    seiten.blocks.emplace_back(Versaeumnisse(eintrag));
-    const std::vector<Abschnittstext> abschnitte = AbschnitteVon(daten, platz);
-    for (size_t i = 0; i < abschnitte.size(); ++i) {
-        if (i == Verhaltensabschnitte && hatNoten) {
-            seiten.blocks.emplace_back(paragraph(StyleId::Bereich, u"Leistungen in den Fächern"));
-            seiten.blocks.emplace_back(Notentabelle(eintrag));
+    Section seiten{.footer = Kindname(kind) + u", Klasse " + stamm.Liste.Klasse,
+                   .blocks = Zeugniskopf(stamm, kind, Zeugnistitel(stamm))};
+    std::vector<Block>& bloecke = seiten.blocks;
+    bloecke.emplace_back(Versaeumnisse(eintrag));
+    TextView fach;
+    for (const Abschnittsplan& plan : AbschnitteFuer(stamm.Jahrgang, stamm.Aufbau)) {
+        if (plan.Woher == Quelle::Noten) {
+            notenAnfuegen(bloecke, eintrag, stamm.Aufbau);
+            continue;
         }
-        bereichAnfuegen(seiten, abschnitte[i]);
+        ueberschriftAnfuegen(bloecke, plan, fach);
+        fach = plan.Fach;
+        const Text text = AufPapier(textVon(daten, plan, platz));
+        bloecke.emplace_back(paragraph(StyleId::Bereichstext, oderStrich(text)));
     }
-    LetztenAbsatzHalten(seiten.blocks);
-    if (hatNoten)
-        seiten.blocks.emplace_back(Notenschluessel());
-    seiten.blocks.emplace_back(Zeugnisschluss(daten.Stamm.Schule));
+    std::get<Paragraph>(bloecke.back()).keepEndWithNext = true;
+    for (Block& block : Zeugnisschluss(stamm, IstNichtVersetzt(daten, platz)))
+        bloecke.push_back(std::move(block));
     return seiten;
 }
 
 } // namespace
 
 std::vector<Abschnittstext> AbschnitteVon(const Zeugnisdaten& daten, int platz) {
-    std::vector<Abschnittstext> abschnitte = {
-        {u"Arbeitsverhalten", daten.AVSV.at(0)[platz]},
-        {u"Sozialverhalten", daten.AVSV.at(1)[platz]},
-    };
-    const std::span<const TextView> ueberschriften = Bereichsueberschriften(daten.Stamm.Jahrgang);
-    for (size_t i = 0; i < ueberschriften.size(); ++i)
-        abschnitte.push_back({ueberschriften[i], daten.Bereiche.at(i)[platz]});
+    std::vector<Abschnittstext> abschnitte;
+    for (const Abschnittsplan& plan : AbschnitteFuer(daten.Stamm.Jahrgang, daten.Stamm.Aufbau))
+        if (plan.Woher != Quelle::Noten)
+            abschnitte.push_back({plan.Ueberschrift, textVon(daten, plan, platz)});
     return abschnitte;
 }
 
@@ -63,6 +77,21 @@ Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis) {
     daten.Bereiche = BereichstexteLesen(verzeichnis, daten.Stamm);
     daten.Liste = ZeugnislisteLesen(verzeichnis, daten.Stamm);
     return daten;
+}
+
+// Parents who ask for a repetition need no remedy.
+bool IstNichtVersetzt(const Zeugnisdaten& daten, int platz) {
+    const Text& bemerkungen = daten.Bereiche.back()[platz];
+    const size_t nicht = bemerkungen.find(NichtVersetzt);
+    return (nicht != Text::npos && bemerkungen.find(u" versetzt", nicht) != Text::npos) ||
+           bemerkungen.find(Wiederholt) != Text::npos;
+}
+
+Document ZeugnisBilden(const Zeugnisdaten& daten, int platz) {
+    return {.title = Text(Zeugnistitel(daten.Stamm)) + u" für " +
+                     Kindname(daten.Stamm.Liste.Kinder[platz]) + u", Klasse " +
+                     daten.Stamm.Liste.Klasse,
+            .sections = {zeugnis(daten, platz)}};
 }
 
 Document ZeugnisseBilden(const Zeugnisdaten& daten) {

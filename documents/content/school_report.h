@@ -26,6 +26,12 @@ std::vector<Abschnittstext> AbschnitteVon(const Zeugnisdaten& daten, int platz);
 /// list.
 Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis);
 
+/// Whether the remarks say that the conference does not move the child up.
+bool IstNichtVersetzt(const Zeugnisdaten& daten, int platz);
+
+/// The report of one child, which is also the title of the document.
+Document ZeugnisBilden(const Zeugnisdaten& daten, int platz);
+
 /// The reports of the class, one section per child in the order of the class list.
 Document ZeugnisseBilden(const Zeugnisdaten& daten);
 

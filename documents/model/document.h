@@ -15,6 +15,7 @@ struct Run {
     /// "\n" is a line break inside the paragraph; other control characters do not occur.
     Text text;
     bool bold = false;
+    Twips tracking = 0; ///< additional space between letters, besides that of the style
 };
 
 struct Paragraph {
@@ -22,6 +23,8 @@ struct Paragraph {
     std::vector<Run> runs;
     Text label = {};           ///< number or bullet that stands in the hanging indent
     bool keepWithNext = false; ///< besides what the style says; such a paragraph is not divided
+    /// Of a longer paragraph only the last lines stay with what follows; for running text.
+    bool keepEndWithNext = false;
     bool startsPage = false;
 };
 
@@ -42,12 +45,18 @@ using Row = std::vector<Cell>;
 
 /// A table over the whole text width.
 struct Table {
-    std::vector<int> columns; ///< widths in relation to each other
-    std::vector<Row> rows;    ///< each with as many cells as there are columns
-    bool grid = false;        ///< lines around all cells, and room inside them
-    bool ruled = false;       ///< a line below each row, to write on
-    bool headRow = false;     ///< the first row stands on top of every page
-    Twips rowHeight = 0;      ///< at least; what stands in such a row stands in its middle
+    static constexpr int NoGap = -1;
+
+    std::vector<int> columns;  ///< widths in relation to each other
+    std::vector<Row> rows;     ///< each with as many cells as there are columns
+    bool grid = false;         ///< lines around all cells, and room inside them
+    bool ruled = false;        ///< a line below each row, to write on
+    int gap = NoGap;           ///< the column that has no such line
+    bool headRow = false;      ///< the first row stands on top of every page
+    Twips rowHeight = 0;       ///< at least; what stands in such a row stands in its middle
+    bool keepRows = false;     ///< no page break between the rows
+    bool keepWithNext = false; ///< nor behind the last one
+    bool fillsPage = false;    ///< the last row comes as often as the page has room for it
 };
 
 using Block = std::variant<Paragraph, Table, Image>;

@@ -24,10 +24,12 @@ enum class StyleId {
     Kindname,
     Kindangabe,
     Bereich,
+    Lernbereich,
     Bereichstext,
     BereichstextAnfang,
     Schlussangabe,
     Gesehen,
+    Unterschriftsraum,
     Unterschrift,
     Siegel,
     Versaeumnis,
@@ -56,7 +58,7 @@ enum class StyleId {
 
 struct Style {
     StyleId id;
-    TextView name; ///< as a word processor lists it
+    TextView name; ///< as a word processor lists it; ASCII, or pandoc takes it for text
     int halfPoints;
     Twips lineHeight; ///< exact, so that all programs break pages alike
     bool bold = false;
@@ -69,6 +71,7 @@ struct Style {
     Twips tracking = 0; ///< additional space between letters
     Rule rule = Rule::None;
     bool keepWithNext = false;
+    int headingLevel = 0;   ///< from 1; 0 for what is no heading
     bool inOutline = false; ///< appears among the bookmarks
 };
 

@@ -44,9 +44,15 @@ LaidCell layCell(const Cell& cell, Twips left, Twips width) {
     return laid;
 }
 
-void drawRuling(QPainter& painter, const QRect& row) {
-    painter.fillRect(row.left(), row.top() + row.height() - RuleWidth, row.width(), RuleWidth,
-                     QColor::fromRgb(0xFF000000U | RuleColour));
+void drawRuling(QPainter& painter, const QRect& row, const std::vector<Twips>& edges, int gap) {
+    Twips left = 0;
+    for (size_t column = 0; column < edges.size(); ++column) {
+        if (static_cast<int>(column) != gap)
+            painter.fillRect(row.left() + left, row.top() + row.height() - RuleWidth,
+                             edges[column] - left, RuleWidth,
+                             QColor::fromRgb(0xFF000000U | RuleColour));
+        left = edges[column];
+    }
 }
 
 void drawGrid(QPainter& painter, const QRect& row, const std::vector<Twips>& edges) {
@@ -67,12 +73,14 @@ LaidStrip layRow(const Table& table, const Row& row, const std::vector<Twips>& e
     for (size_t column = 0; column < row.size(); ++column) {
         const Twips width = edges.at(column) - left - 2 * padding;
         cells.push_back(layCell(row[column], left + padding, width));
-        height = std::max(height, cells.back().height() + (table.grid ? RuleWidth : 0));
+        height =
+            std::max(height, cells.back().height() + (table.grid || table.ruled ? RuleWidth : 0));
         left = edges[column];
     }
     LaidStrip laid;
     laid.strip.height = height;
     laid.paint = [=, cells = std::move(cells), grid = table.grid, ruled = table.ruled,
+                  gap = table.gap,
                   inTheMiddle = table.rowHeight > 0](QPainter& painter, QPoint corner) {
         for (const LaidCell& cell : cells) {
             const Twips above = inTheMiddle ? (height - cell.height()) / 2 : 0;
@@ -83,7 +91,7 @@ LaidStrip layRow(const Table& table, const Row& row, const std::vector<Twips>& e
         if (grid)
             drawGrid(painter, area, edges);
         else if (ruled)
-            drawRuling(painter, area);
+            drawRuling(painter, area, edges, gap);
     };
     return laid;
 }
@@ -99,6 +107,8 @@ struct LayBlock {
 };
 
 bool keepsWithNext(const Block& block) {
+    if (const auto* table = std::get_if<Table>(&block))
+        return table->keepWithNext;
     const auto* paragraph = std::get_if<Paragraph>(&block);
     return paragraph != nullptr &&
            (paragraph->keepWithNext || styleOf(paragraph->style).keepWithNext);
@@ -119,6 +129,7 @@ std::vector<LaidStrip> layTable(const Table& table, Twips width) {
     std::vector<LaidStrip> strips;
     for (const Row& row : table.rows) {
         strips.push_back(layRow(table, row, edges));
+        strips.back().strip.mayBreakBefore = !table.keepRows || strips.size() == 1;
         if (table.headRow && strips.size() > 1) {
             strips.back().strip.headAbove = strips.front().strip.height;
             strips.back().paintHead = strips.front().paint;
@@ -129,13 +140,28 @@ std::vector<LaidStrip> layTable(const Table& table, Twips width) {
     return strips;
 }
 
+namespace {
+
+// PDF/A knows no transparency.
+QImage opaque(const std::string& png) {
+    const QImage picture = QImage::fromData(QByteArray::fromStdString(png));
+    if (!picture.hasAlphaChannel())
+        return picture;
+    QImage onWhite(picture.size(), QImage::Format_RGB32);
+    onWhite.fill(Qt::white);
+    QPainter(&onWhite).drawImage(0, 0, picture);
+    return onWhite;
+}
+
+} // namespace
+
 LaidStrip layImage(const Image& image, Twips width) {
     const Style& style = styleOf(StyleId::Bildzeile);
     const QSize size(image.width, image.height);
     LaidStrip laid;
     laid.strip = {
         .height = size.height(), .spaceBefore = style.spaceBefore, .spaceAfter = style.spaceAfter};
-    laid.paint = [picture = QImage::fromData(QByteArray::fromStdString(image.png)), size,
+    laid.paint = [picture = opaque(image.png), size,
                   left = (width - size.width()) / 2](QPainter& painter, QPoint corner) {
         painter.drawImage(QRect(corner + QPoint(left, 0), size), picture);
     };

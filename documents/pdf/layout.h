@@ -23,6 +23,10 @@ struct LaidStrip {
 
 std::vector<LaidStrip> layParagraph(const Paragraph& paragraph, Twips width);
 
+/// Where each line of the paragraph begins, counted in characters of its text, if there is `more`
+/// room in each of them.
+std::vector<size_t> lineStarts(const Paragraph& paragraph, Twips width, double more = 0);
+
 /// One strip per row.
 std::vector<LaidStrip> layTable(const Table& table, Twips width);
 

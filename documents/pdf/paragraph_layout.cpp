@@ -9,14 +9,17 @@
 namespace zeugnis::dokumente {
 namespace {
 
+// Word sets no ligatures in this font, and German words should have none across their joints; any
+// letter spacing at all switches them off. What it adds to a full line, word processors do not.
+constexpr double NoLigatures = 1.0 / 64;
+constexpr double SpacingOfALine = 100 * NoLigatures;
+
 QFont fontOf(const Style& style) {
     QFont font(QStringList{qString(FontAlternative), qString(FontName)});
     font.setPixelSize(style.halfPoints * 10);
     font.setBold(style.bold);
     font.setHintingPreference(QFont::PreferNoHinting);
-    // Word sets no ligatures in this font, and German words should have none across their joints;
-    // any letter spacing at all switches them off.
-    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking + 1.0 / 64);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking + NoLigatures);
     return font;
 }
 
@@ -34,23 +37,28 @@ Qt::Alignment qtAlignment(Alignment alignment) {
 
 QColor colourOf(std::uint32_t rgb) { return QColor::fromRgb(0xFF000000U | rgb); }
 
-QList<QTextLayout::FormatRange> boldRanges(const Paragraph& paragraph) {
+QList<QTextLayout::FormatRange> formatsOf(const Paragraph& paragraph) {
     QList<QTextLayout::FormatRange> ranges;
     int start = 0;
     for (const Run& run : paragraph.runs) {
         const int length = static_cast<int>(run.text.size());
-        if (run.bold) {
-            QTextCharFormat bold;
-            bold.setFontWeight(QFont::Bold);
-            ranges.append({start, length, bold});
+        QTextCharFormat format;
+        if (run.bold)
+            format.setFontWeight(QFont::Bold);
+        if (run.tracking != 0) {
+            format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+            format.setFontLetterSpacing(styleOf(paragraph.style).tracking + run.tracking);
         }
+        if (run.bold || run.tracking != 0)
+            ranges.append({start, length, format});
         start += length;
     }
     return ranges;
 }
 
 // Lines lie at y 0, so that each can be drawn wherever its strip lands.
-std::shared_ptr<QTextLayout> brokenIntoLines(const Paragraph& paragraph, Twips width) {
+std::shared_ptr<QTextLayout> brokenIntoLines(const Paragraph& paragraph, Twips width,
+                                             double more = 0) {
     const Style& style = styleOf(paragraph.style);
     QString text = qString(textOf(paragraph));
     text.replace(u'\n', QChar::LineSeparator);
@@ -59,7 +67,7 @@ std::shared_ptr<QTextLayout> brokenIntoLines(const Paragraph& paragraph, Twips w
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setUseDesignMetrics(true);
     layout->setTextOption(option);
-    layout->setFormats(boldRanges(paragraph));
+    layout->setFormats(formatsOf(paragraph));
     layout->setCacheEnabled(true);
 
     const bool hasLabel = !paragraph.label.empty();
@@ -67,7 +75,7 @@ std::shared_ptr<QTextLayout> brokenIntoLines(const Paragraph& paragraph, Twips w
     Twips indent = hasLabel ? restOfLines : restOfLines - style.hanging;
     layout->beginLayout();
     for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
-        line.setLineWidth(width - indent);
+        line.setLineWidth(width - indent + SpacingOfALine + more);
         line.setPosition(QPointF(indent, 0));
         indent = restOfLines;
     }
@@ -148,6 +156,14 @@ std::vector<LaidStrip> layParagraph(const Paragraph& paragraph, Twips width) {
     if (!strips.empty() && styleOf(paragraph.style).inOutline)
         strips.front().bookmark = textOf(paragraph);
     return strips;
+}
+
+std::vector<size_t> lineStarts(const Paragraph& paragraph, Twips width, double more) {
+    const std::shared_ptr<QTextLayout> layout = brokenIntoLines(paragraph, width, more);
+    std::vector<size_t> starts;
+    for (int line = 0; line < layout->lineCount(); ++line)
+        starts.push_back(static_cast<size_t>(layout->lineAt(line).textStart()));
+    return starts;
 }
 
 void drawLine(QPainter& painter, const Style& style, Alignment alignment, TextView text,

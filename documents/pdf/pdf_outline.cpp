@@ -39,6 +39,9 @@ class PdfFile {
         const auto info = numberBehind(tail, "/Info");
         if (!table || !size || !root || !info || !file.readTable(*table, *size))
             return std::nullopt;
+        // PDF/A asks for an identity in the trailer of an update too.
+        if (const size_t id = tail.rfind("/ID"); id != std::string_view::npos)
+            file.identity = tail.substr(id, tail.find(']', id) + 1 - id);
         file.tableAt = *table;
         file.size = *size;
         file.root = *root;
@@ -73,6 +76,7 @@ class PdfFile {
         return pages;
     }
 
+    std::string_view identity; ///< as it stands in the trailer; may be empty
     int tableAt = 0;
     int size = 0;
     int root = 0;
@@ -119,12 +123,13 @@ std::string reference(int object) { return std::to_string(object) + " 0 R"; }
 // Collects the new objects behind the file and closes with a table of where they are.
 class Update {
   public:
-    explicit Update(std::string pdf, const PdfFile& file)
-        : m_pdf(std::move(pdf)),
+    explicit Update(const std::string& pdf, const PdfFile& file)
+        : m_pdf(pdf),
           m_tableAt(file.tableAt),
           m_next(file.size),
           m_root(file.root),
-          m_info(file.info) {}
+          m_info(file.info),
+          m_identity(file.identity) {}
 
     void add(int object, const std::string& dictionary) {
         m_places.emplace_back(object, m_pdf.size());
@@ -141,8 +146,8 @@ class Update {
             m_pdf += std::to_string(object) + " 1\n" + entry.data();
         }
         m_pdf += "trailer\n<<\n/Size " + std::to_string(m_next) + "\n/Info " + reference(m_info) +
-                 "\n/Root " + reference(m_root) + "\n/Prev " + std::to_string(m_tableAt) +
-                 "\n>>\nstartxref\n" + std::to_string(table) + "\n%%EOF\n";
+                 "\n/Root " + reference(m_root) + "\n/Prev " + std::to_string(m_tableAt) + "\n" +
+                 m_identity + "\n>>\nstartxref\n" + std::to_string(table) + "\n%%EOF\n";
         return std::move(m_pdf);
     }
 
@@ -152,6 +157,7 @@ class Update {
     int m_next;
     int m_root;
     int m_info;
+    std::string m_identity;
     std::vector<std::pair<int, size_t>> m_places;
 };
 
@@ -172,7 +178,7 @@ std::string withBookmarks(std::string pdf, const std::vector<Bookmark>& bookmark
 
     const int outline = file->size;
     const int first = outline + 1;
-    Update update(std::move(pdf), *file);
+    Update update(pdf, *file);
     update.add(file->root, catalogue + "/Outlines " + reference(outline) +
                                "\n/PageMode /UseOutlines\n/Lang (de-DE)\n"
                                "/ViewerPreferences <</DisplayDocTitle true>>\n");

@@ -13,6 +13,7 @@ namespace {
 constexpr int TwipsPerInch = 1440;
 
 void setUpPage(QPdfWriter& writer, const Text& title) {
+    writer.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
     writer.setTitle(qString(title));
     writer.setCreator(QStringLiteral("Zeugnisprogramm"));
     writer.setResolution(TwipsPerInch);

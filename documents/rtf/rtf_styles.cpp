@@ -90,8 +90,8 @@ std::string rtfProperties(const Style& style) {
     rtf += ruleOf(style);
     if (style.keepWithNext)
         rtf += "\\keepn";
-    if (style.inOutline)
-        rtf += "\\outlinelevel0";
+    if (style.headingLevel > 0)
+        rtf += rtfNumber("\\outlinelevel", style.headingLevel - 1);
     rtf += "\\f0" + rtfNumber("\\fs", style.halfPoints) + (style.bold ? "\\b" : "");
     rtf += rtfNumber("\\cf", colourNumber(style.colour)) + "\\kerning1";
     return rtf + numberUnlessZero("\\expndtw", style.tracking) + "\\lang1031";

@@ -6,7 +6,8 @@
 
 namespace zeugnis::dokumente {
 
-/// The text as it stands in Rich Text: only ASCII, with every other character as its number.
+/// The text as it stands in Rich Text: only ASCII, with every other character as its byte in
+/// Windows-1252, or as its number with the nearest letter of that code page behind it.
 /// "\n" becomes a line break.
 std::string rtfText(TextView text);
 

@@ -29,15 +29,20 @@ std::string content(const Paragraph& paragraph) {
     std::string rtf;
     if (!paragraph.label.empty())
         rtf += rtfText(paragraph.label) + "\\tab ";
-    for (const Run& run : paragraph.runs)
-        rtf += run.bold ? "{\\b " + rtfText(run.text) + "}" : rtfText(run.text);
+    const Twips tracking = styleOf(paragraph.style).tracking;
+    for (const Run& run : paragraph.runs) {
+        std::string words = run.bold ? "\\b" : "";
+        if (run.tracking != 0)
+            words += rtfNumber("\\expndtw", tracking + run.tracking);
+        rtf += words.empty() ? rtfText(run.text) : "{" + words + " " + rtfText(run.text) + "}";
+    }
     return rtf;
 }
 
-std::string opening(const Paragraph& paragraph, const char* place) {
+std::string opening(const Paragraph& paragraph, const char* place, bool keptRow = false) {
     const Style& style = styleOf(paragraph.style);
     std::string rtf = std::string("\\pard\\plain") + place + rtfProperties(style);
-    if (paragraph.keepWithNext && !style.keepWithNext)
+    if ((paragraph.keepWithNext || keptRow) && !style.keepWithNext)
         rtf += "\\keepn";
     if (paragraph.keepWithNext)
         rtf += "\\keep";
@@ -54,27 +59,29 @@ std::string picture(const Image& image) {
            hexadecimal(image.png) + "}";
 }
 
-std::string cellContent(const Cell& cell) {
+std::string cellContent(const Cell& cell, bool keptRow) {
     std::string rtf;
     for (const Paragraph& paragraph : cell.paragraphs) {
         if (!rtf.empty())
             rtf += "\\par\n";
-        rtf += opening(paragraph, "\\intbl") + content(paragraph);
+        rtf += opening(paragraph, "\\intbl", keptRow) + content(paragraph);
     }
     // The small font keeps the line no higher than the picture.
     if (cell.image)
         rtf += (rtf.empty() ? "" : "\\par\n") +
                rtfNumber("\\pard\\plain\\intbl\\qc\\sl0\\fs2\\sb", PicturePadding) +
                rtfNumber("\\sa", PicturePadding) + " " + picture(*cell.image);
-    return (rtf.empty() ? "\\pard\\plain\\intbl " : rtf) + "\\cell\n";
+    if (rtf.empty())
+        rtf = keptRow ? "\\pard\\plain\\intbl\\keepn " : "\\pard\\plain\\intbl ";
+    return rtf + "\\cell\n";
 }
 
-std::string cellEdge(const Table& table, Twips edge) {
+std::string cellEdge(const Table& table, Twips edge, bool isGap) {
     std::string rtf;
     if (table.grid)
         for (const char* side : {"\\clbrdrt", "\\clbrdrl", "\\clbrdrb", "\\clbrdrr"})
             rtf += side + rtfLine(RuleWidth, RuleColour);
-    else if (table.ruled)
+    else if (table.ruled && !isGap)
         rtf += "\\clbrdrb" + rtfLine(RuleWidth, RuleColour);
     if (table.rowHeight > 0)
         rtf += "\\clvertalc";
@@ -87,11 +94,13 @@ std::string rowFromTable(const Table& table, const Row& row) {
         rtf += rtfNumber("\\trrh", table.rowHeight);
     if (table.headRow && &row == &table.rows.front())
         rtf += "\\trhdr";
+    const bool kept = &row == &table.rows.back() ? table.keepWithNext : table.keepRows;
+    int column = 0;
     for (const Twips edge : columnEdges(table, page::TextWidth))
-        rtf += cellEdge(table, edge);
+        rtf += cellEdge(table, edge, column++ == table.gap);
     rtf += "\n";
     for (const Cell& cell : row)
-        rtf += cellContent(cell);
+        rtf += cellContent(cell, kept);
     return rtf + "\\row\n";
 }
 

@@ -119,7 +119,16 @@ QWidget* PreviewWindow::actionRow() {
     layout->addWidget(m_edit);
     layout->addStretch();
     layout->addWidget(close);
+    m_actions = layout;
     return row;
+}
+
+QPushButton* PreviewWindow::addAction(const QString& text, const QString& toolTip) {
+    constexpr int StretchAndClose = 2;
+    auto* one = new QPushButton(text);
+    one->setToolTip(toolTip);
+    m_actions->insertWidget(m_actions->count() - StretchAndClose, one);
+    return one;
 }
 
 QWidget* PreviewWindow::zoomRow() {

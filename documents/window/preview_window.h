@@ -31,6 +31,11 @@ class PreviewWindow : public QWidget {
   protected:
     void changeEvent(QEvent* event) override;
 
+    /// A further button behind those that every document has.
+    QPushButton* addAction(const QString& text, const QString& toolTip);
+    [[nodiscard]] const Dokumentdateien& files() const { return m_anzeige.Dateien; }
+    void load();
+
   private:
     QWidget* actionRow();
     QWidget* zoomRow();
@@ -39,7 +44,6 @@ class PreviewWindow : public QWidget {
     QPushButton* button(const QString& text, const QString& toolTip,
                         void (PreviewWindow::*action)());
 
-    void load();
     void reloadIfChanged();
     void showPosition();
     void goTo(int row);
@@ -57,6 +61,7 @@ class PreviewWindow : public QWidget {
     std::unique_ptr<PdfPages> m_pages;
     std::vector<Inhaltszeile> m_lines;
 
+    QBoxLayout* m_actions = nullptr;
     QBoxLayout* m_middle;
     PageView* m_view;
     QListWidget* m_contents;

@@ -1,4 +1,5 @@
 #include "documents/content/help_markup.h"
+#include "documents/pdf/page_fit.h"
 #include "documents/pdf/pdf_writer.h"
 #include "documents/rtf/rtf_writer.h"
 #include "platform/whole_file.h"
@@ -78,9 +79,9 @@ TEST(HelpMarkup, TheDeliveredHelpIsWhatItsSourcesSay) {
     const Arbeitsverzeichnis delivered(DOCUMENTS_DELIVERED);
     for (const char16_t* name : {u"Hilfe1", u"Hilfe2"}) {
         const Text stem = name;
-        const Document document =
+        const Document document = fittedToPages(
             HilfeAusMarkup(textFromUtf8(readWholeFile(sources, stem + u".txt")),
-                           [&](const Text& picture) { return readWholeFile(sources, picture); });
+                           [&](const Text& picture) { return readWholeFile(sources, picture); }));
         EXPECT_TRUE(rtfFromDocument(document, layOut(document).pagesPerSection()) ==
                     readWholeFile(delivered, stem + u".doc"))
             << utf8FromText(stem) << ": build the target \"hilfe\"";

@@ -86,6 +86,15 @@ TEST_F(ReportList, DamageIsNamedAndPutAsideAndNeverTaken) {
     }
 }
 
+TEST_F(ReportList, ASubjectThatWasAddedLaterIsNotEntered) {
+    installation.write(Datei, u"1,\"3a\",\"Öz, sen.\",\"Zoé\",12,0,1,2,3,4,5,6,-1,1,1\r\n"
+                              u"2,\"3a\",\"Alt\",\"Ben\",1,0,1,2,3,4,5,6,-1,1,2\r\n");
+    const std::vector<Listenzeile> zeilen = ListenzeilenLesen(verzeichnis, Datei, 3);
+    ASSERT_EQ(zeilen.size(), 2U);
+    EXPECT_EQ(zeilen[1].Werte.Werte.at(Spaltenzahl - 2), 2);
+    EXPECT_EQ(zeilen[1].Werte.Werte.at(Spaltenzahl - 1), LeereZelle);
+}
+
 TEST_F(ReportList, GivesNoChildTheEntriesOfAnother) {
     const Schueler zoe = schueler(u"Zoé", u"Öz");
     const Schueler ben = schueler(u"Ben", u"Alt");

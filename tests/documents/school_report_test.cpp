@@ -1,4 +1,5 @@
 #include "common/word_launch.h"
+#include "documents/content/paper_text.h"
 #include "documents/content/school_report.h"
 #include "tests/documents/report_installation.h"
 #include "tests/support/failure_of.h"
@@ -57,46 +58,49 @@ Zoé Weiß
 geboren am 02.11.2017 in Köln
 Klasse 3a
 Versäumte Unterrichtstage: 5, davon unentschuldigt: 0
+Leistungen in den Fächern
+Deutsch
+sehr gut (1)
+Musik
+ungenügend (6)
+Mathematik
+gut (2)
+Kunst
+–
+Sachunterricht
+befriedigend (3)
+Textiles Gestalten
+gut (2)
+Englisch
+ausreichend (4)
+Gestaltendes Werken
+gut (2)
+Religion / Werte und Normen
+mangelhaft (5)
+Sport
+gut (2)
+Noten: 1 = sehr gut, 2 = gut, 3 = befriedigend, 4 = ausreichend, 5 = mangelhaft, 6 = ungenügend; – = nicht erteilt
+Förderunterricht und Arbeitsgemeinschaften
+Zoé singt im Chor.
+Besondere Interessen und Fähigkeiten
+Zoé liebt Tiere.
 Arbeitsverhalten
 Zoé arbeitet gern.
 Sie liest viel.
 Sozialverhalten
 Zoé hilft allen.
-Leistungen in den Fächern
-Deutsch
-Mathematik
-Sachunterricht
-Englisch
-Religion / Werte und Normen
-sehr gut (1)
-gut (2)
-befriedigend (3)
-ausreichend (4)
-mangelhaft (5)
-Musik
-Kunst
-Textiles Gestalten
-Gestaltendes Werken
-Sport
-ungenügend (6)
-–
-gut (2)
-gut (2)
-gut (2)
-Förderunterricht und Arbeitsgemeinschaften
-Zoé singt im Chor.
-Besondere Interessen
-Zoé liebt Tiere.
 Bemerkungen
 Zoé wird versetzt.
-Noten: 1 = sehr gut, 2 = gut, 3 = befriedigend, 4 = ausreichend, 5 = mangelhaft, 6 = ungenügend
-Konferenz vom 22.06.2027
+
+Konferenzbeschluss vom 22.06.2027
 Süderfehn, den 07.07.2027
+Grete Großmann
 Klassenlehrkraft
-Gesehen:
-Erziehungsberechtigte/r
 (Siegel)
 Schulleitung
+Zur Kenntnis genommen:
+Datum
+Erziehungsberechtigte/r
 )");
 }
 
@@ -106,38 +110,42 @@ TEST(SchoolReport, WhatIsMissingLeavesADashOrNoLine) {
     installation.Schule.Halbjahr = u"1";
     installation.write({{{}, u"", u" \r\n"}}, u"2a");
     EXPECT_EQ(shown(documentOf(installation).sections.at(0)), R"(–
-Zeugnis
+Halbjahreszeugnis
 Schuljahr –, 1. Halbjahr
 –
 Klasse 2a
 Versäumte Unterrichtstage: –, davon unentschuldigt: –
-Arbeitsverhalten
+Interessen, Fähigkeiten und Fertigkeiten
 –
-Sozialverhalten
-–
-Interessen und Fertigkeiten
-–
+Deutsch
 Sprechen und Zuhören
 –
 Lesen und mit Texten umgehen
 –
 Schreiben, Texte verfassen
 –
+Mathematik
 Zahlen und Operationen
 –
 Größen und Messen
 –
 Raum und Form
 –
+Arbeitsverhalten
+–
+Sozialverhalten
+–
 Bemerkungen
 –
-Konferenz vom –
+
+Konferenzbeschluss vom –
 –, den –
 Klassenlehrkraft
-Gesehen:
-Erziehungsberechtigte/r
 (Siegel)
 Schulleitung
+Zur Kenntnis genommen:
+Datum
+Erziehungsberechtigte/r
 )");
 }
 
@@ -146,24 +154,68 @@ TEST(SchoolReport, ShowsTheEightAreasOfYearsOneAndTwo) {
     installation.write(
         {{Zoe, u"AV.", u"SV.", {u"t0", u"t1", u"t2", u"t3", u"t4", u"t5", u"t6", u"t7"}}}, u"2b");
     const std::string text = shown(documentOf(installation).sections.at(0));
-    const size_t first = text.find("Interessen und");
-    EXPECT_EQ(text.substr(first, text.find("Konferenz") - first), R"(Interessen und Fertigkeiten
+    const size_t first = text.find("Interessen,");
+    EXPECT_EQ(text.substr(first, text.find("\nKonferenz") - first),
+              R"(Interessen, Fähigkeiten und Fertigkeiten
 t0
+Deutsch
 Sprechen und Zuhören
 t1
 Lesen und mit Texten umgehen
 t2
 Schreiben, Texte verfassen
 t3
+Mathematik
 Zahlen und Operationen
 t4
 Größen und Messen
 t5
 Raum und Form
 t6
+Arbeitsverhalten
+AV.
+Sozialverhalten
+SV.
 Bemerkungen
 t7
 )");
+}
+
+TEST(SchoolReport, FollowsTheLayoutOfTheSchool) {
+    ReportInstallation installation;
+    installation.write({{Zoe,
+                         u"AV.",
+                         u"SV.",
+                         {u"", u"",
+                          u"Zoé wird nicht in den 4. Schuljahrgang "
+                          u"versetzt."}}});
+    installation.write(u"Zeugnisaufbau.txt",
+                       u"\"Arbeits- und Sozialverhalten\",\"zuerst\"\r\n"
+                       u"\"Religionsfach\",\"Religion\"\r\n\"Kenntnisnahme\",\"keine\"\r\n"
+                       u"\"Namen unter den Unterschriften\",\"nein\"\r\n"
+                       u"\"Unbekanntes\",\"bleibt\"\r\n"
+                       u"\"Unterrichtsbeginn\",\"Der Unterricht beginnt am 5. August.\"\r\n"
+                       u"\"Rechtsbehelf\",\"Widerspruch ist möglich.\"\r\n");
+    const std::string text = shown(documentOf(installation).sections.at(0));
+    EXPECT_LT(text.find("Arbeitsverhalten"), text.find("Leistungen"));
+    EXPECT_NE(text.find("\nReligion\n"), std::string::npos);
+    const std::string end = text.substr(text.find("Bemerkungen"));
+    EXPECT_EQ(end, "Bemerkungen\nZoé wird nicht in den 4. Schuljahrgang versetzt.\n\n"
+                   "Widerspruch ist möglich.\nDer Unterricht beginnt am 5. August.\n"
+                   "Konferenzbeschluss vom 22.06.2027\nSüderfehn, den 07.07.2027\n"
+                   "Klassenlehrkraft\n(Siegel)\nSchulleitung\n");
+}
+
+TEST(SchoolReport, SetsQuotesAndLinesAsOnPaper) {
+    const std::vector<std::pair<const char16_t*, const char*>> cases = {
+        {u"Sie mag 'Chor' und ''Werken''.", "Sie mag „Chor“ und „Werken“."},
+        {u"Mats' Heft und Lars' Buch.", "Mats’ Heft und Lars’ Buch."},
+        {u"('gut')\r\n\r\n \r\nO'Neil sagt \"ja\".", "(„gut“)\nO’Neil sagt „ja“."},
+        {u"'offen bleibt offen", "’offen bleibt offen"},
+        {u"Bis 20. Sie lernt im 4. Schuljahrgang.", "Bis 20. Sie lernt im 4. Schuljahrgang."},
+    };
+    for (const auto& [text, paper] : cases)
+        EXPECT_EQ(utf8FromText(AufPapier(text)), paper);
 }
 
 TEST(SchoolReport, HasTheNameThatTheStartPageOpens) {

@@ -1,0 +1,101 @@
+#include "documents/window/report_window.h"
+
+#include "documents/app/report_files.h"
+#include "documents/window/layout_dialog.h"
+#include "documents/window/progress.h"
+#include "platform/failure.h"
+#include "toolkit/qt_text.h"
+
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QUrl>
+
+namespace zeugnis::dokumente {
+namespace {
+
+const auto LayoutTitle = QStringLiteral("Aufbau des Zeugnisses");
+const auto FilesTitle = QStringLiteral("Je Kind eine Datei");
+
+bool ask(QWidget* parent, const QString& title, const QString& text, const QString& yes) {
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
+    const QPushButton* take = box.addButton(yes, QMessageBox::AcceptRole);
+    QPushButton* leave = box.addButton(QStringLiteral("Abbrechen"), QMessageBox::RejectRole);
+    box.setDefaultButton(leave);
+    box.exec();
+    return box.clickedButton() == take;
+}
+
+} // namespace
+
+ReportWindow::ReportWindow(Arbeitsverzeichnis programmordner, Nachschauen nachschauen,
+                           std::function<void()> neuSchreiben)
+    : PreviewWindow(std::move(nachschauen)),
+      m_folder(std::move(programmordner)),
+      m_rewrite(std::move(neuSchreiben)) {
+    QPushButton* layout =
+        addAction(QStringLiteral("&Aufbau …"),
+                  QStringLiteral("Reihenfolge, Schulzeichen, Namen und Sätze am Ende festlegen"));
+    connect(layout, &QPushButton::clicked, this, &ReportWindow::changeLayout);
+    QPushButton* files =
+        addAction(QStringLiteral("&Je Kind eine Datei"),
+                  QStringLiteral("Für jedes Kind eine PDF-Datei mit Name und Klasse anlegen, dazu "
+                                 "eine mit allen"));
+    connect(files, &QPushButton::clicked, this, &ReportWindow::writeOneForEach);
+}
+
+bool ReportWindow::mayBeLost(const QString& title, const QString& question) {
+    return !IstBearbeitet(files()) || ask(this, title, question, QStringLiteral("Fortfahren"));
+}
+
+void ReportWindow::changeLayout() {
+    try {
+        const QTemporaryDir folder;
+        const Zeugnisaufbau before = ZeugnisaufbauLesen(m_folder);
+        LayoutDialog dialog(
+            before, Kopfbilder(m_folder),
+            [&](const Zeugnisaufbau& aufbau) {
+                return ProbezeugnisSchreiben(m_folder, aufbau, folder.path().toStdU16String());
+            },
+            this);
+        if (dialog.exec() != QDialog::Accepted || dialog.chosen() == before)
+            return;
+        if (!mayBeLost(LayoutTitle,
+                       QStringLiteral("Die Zeugnisse wurden in der Textverarbeitung geändert. Mit "
+                                      "dem neuen Aufbau werden sie neu geschrieben, und diese "
+                                      "Änderungen gehen verloren.")))
+            return;
+        ZeugnisaufbauSchreiben(m_folder, dialog.chosen());
+        m_rewrite();
+        load();
+    } catch (const Laufzeitfehler& failure) {
+        QMessageBox::warning(this, LayoutTitle, qString(failure.sentence()));
+    }
+}
+
+void ReportWindow::writeOneForEach() {
+    if (!mayBeLost(FilesTitle,
+                   QStringLiteral("Die Zeugnisse wurden in der Textverarbeitung geändert. Die "
+                                  "einzelnen Dateien entstehen aus den Texten des "
+                                  "Zeugnisprogramms, ohne diese Änderungen.")))
+        return;
+    try {
+        const std::filesystem::path folder =
+            withProgress(QStringLiteral("Die Dateien werden geschrieben …"), this,
+                         [this](const std::stop_token& abbruch) {
+                             Arbeitsverzeichnis verzeichnis = m_folder;
+                             return EinzelneZeugnisseSchreiben(verzeichnis, abbruch);
+                         });
+        if (ask(this, FilesTitle,
+                QStringLiteral("Die Dateien liegen im Ordner „%1“.")
+                    .arg(QString::fromStdU16String(folder.filename().u16string())),
+                QStringLiteral("Ordner &öffnen")))
+            QDesktopServices::openUrl(
+                QUrl::fromLocalFile(QString::fromStdU16String(folder.u16string())));
+    } catch (const Laufzeitfehler& failure) {
+        QMessageBox::warning(this, FilesTitle, qString(failure.sentence()));
+    }
+}
+
+} // namespace zeugnis::dokumente

@@ -1,0 +1,71 @@
+#include "documents/app/document_files.h"
+#include "documents/app/word_processor.h"
+#include "tests/documents/composed_class.h"
+#include "tests/documents/printed_pages.h"
+
+#include <gtest/gtest.h>
+
+#include <QStandardPaths>
+
+#include <cstdlib>
+
+namespace zeugnis::dokumente {
+namespace {
+
+struct Class {
+    const char16_t* Name;
+    const char16_t* HalfYear;
+};
+
+class ComposedClasses : public testing::TestWithParam<Class> {
+  protected:
+    ComposedClasses() : klasse(GetParam().Name, GetParam().HalfYear) {
+        Arbeitsverzeichnis verzeichnis(klasse.path());
+        files = DokumentBereitstellen(
+            verzeichnis, {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"});
+        if (const char* keep = std::getenv("KEEP_CLASSES"))
+            std::filesystem::copy(klasse.path(), std::filesystem::path(keep) / files.Doc.stem(),
+                                  std::filesystem::copy_options::recursive |
+                                      std::filesystem::copy_options::overwrite_existing);
+    }
+
+    test::ComposedClass klasse;
+    Dokumentdateien files;
+};
+
+TEST_P(ComposedClasses, FitOnTwoPagesAndKeepTheEndTogether) {
+    const auto reports = test::reportsIn(files.Pdf);
+    ASSERT_EQ(reports.size(), static_cast<size_t>(test::ComposedClass::Children));
+    for (size_t place = 0; place < reports.size(); ++place) {
+        const bool byHand = !test::remarksByHand(static_cast<int>(place)).empty();
+        EXPECT_LE(reports[place].pages.size(), byHand ? 3U : 2U) << "child " << place;
+        const QString last = reports[place].pages.back();
+        EXPECT_TRUE(last.contains(QStringLiteral("Klassenlehrkraft")));
+        // Two lines of text at least stand above the signatures.
+        EXPECT_GE(last.left(last.indexOf(QStringLiteral("Konferenzbeschluss"))).count(u'\n'), 2)
+            << last.toStdString();
+    }
+}
+
+TEST_P(ComposedClasses, HaveTheSamePagesInLibreOffice) {
+    if (QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty())
+        GTEST_SKIP() << "LibreOffice is not installed";
+    const test::TemporaryFolder folder;
+    const auto converted = inPdfUmwandeln(files.Doc, folder.path());
+    ASSERT_TRUE(converted.has_value());
+    const QStringList ours = test::pageTexts(files.Pdf);
+    const QStringList theirs = test::pageTexts(*converted);
+    ASSERT_EQ(theirs.size(), ours.size());
+    for (qsizetype page = 0; page < ours.size(); ++page)
+        EXPECT_EQ(test::firstDifference(theirs[page], ours[page]), "") << "page " << page + 1;
+}
+
+INSTANTIATE_TEST_SUITE_P(Years, ComposedClasses,
+                         testing::Values(Class{u"1a", u"2"}, Class{u"2b", u"1"}, Class{u"2b", u"2"},
+                                         Class{u"3a", u"1"}, Class{u"4c", u"2"}),
+                         [](const auto& one) {
+                             return utf8FromText(Text(one.param.Name) + one.param.HalfYear);
+                         });
+
+} // namespace
+} // namespace zeugnis::dokumente
