@@ -8,6 +8,10 @@ namespace zeugnis {
 class InsertionView : public ScreenWindow {
   public:
     InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* below);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void place() override;
 };
 
 } // namespace zeugnis
