@@ -64,7 +64,11 @@ void InsertionView::place() {
     const QRect best = placeBeside(*served, Wished, Least, Frame, screen()->availableGeometry());
     resize(best.size() - Frame);
     move(best.topLeft());
+    m_cameUpAt = pos();
 }
+
+// It serves one window after the other, unless the user has given it a place.
+bool InsertionView::isPlaced() const { return testAttribute(Qt::WA_Moved) && pos() != m_cameUpAt; }
 
 // Back to the window that it serves: by Escape or F6, or by a key of a button there.
 void InsertionView::keyPressEvent(QKeyEvent* event) {

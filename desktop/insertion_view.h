@@ -12,6 +12,10 @@ class InsertionView : public ScreenWindow {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void place() override;
+    [[nodiscard]] bool isPlaced() const override;
+
+  private:
+    QPoint m_cameUpAt;
 };
 
 } // namespace zeugnis

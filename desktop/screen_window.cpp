@@ -22,12 +22,14 @@ void ScreenWindow::refresh() {
     if (onTop != m_screen->AlwaysOnTop)
         setWindowFlag(Qt::WindowStaysOnTopHint, m_screen->AlwaysOnTop);
     if (isVisible() != m_screen->shown()) {
-        if (m_screen->shown() && !testAttribute(Qt::WA_Moved))
+        if (m_screen->shown() && !isPlaced())
             place();
         setVisible(m_screen->shown());
     }
     if (m_screen->shown() && m_raises != m_screen->raises()) {
         m_raises = m_screen->raises();
+        if (!isPlaced())
+            place();
         m_host.cameToFront(*m_screen);
         raise();
         activateWindow();

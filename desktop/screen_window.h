@@ -37,8 +37,9 @@ class ScreenWindow : public QWidget {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
-    /// Where the window comes up first.
+    /// Puts the window where it comes up, as long as it has no place of its own.
     virtual void place();
+    [[nodiscard]] virtual bool isPlaced() const { return testAttribute(Qt::WA_Moved); }
 
     /// What is lost if the user closes the window by its close box; without a text nothing is.
     void warnBeforeClosing(const QString& whatIsLost) { m_lostByClosing = whatIsLost; }

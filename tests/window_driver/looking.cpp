@@ -5,9 +5,12 @@
 #include "tests/window_driver/pointing.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -81,6 +84,26 @@ double leastContrastIn(QComboBox& combo) {
         least = std::min(least, contrastOf(view, index));
     }
     return least;
+}
+
+QImage displayNow() {
+    const QRect display = QGuiApplication::primaryScreen()->geometry();
+    QImage picture(display.size(), QImage::Format_RGB32);
+    picture.fill(QColor(0x50, 0x60, 0x70));
+    QPainter painter(&picture);
+    QWidgetList windows = QApplication::topLevelWidgets();
+    const auto rank = [](const QWidget* window) {
+        return window->windowType() == Qt::Popup   ? 3
+               : window->isActiveWindow()          ? 2
+               : window->parentWidget() != nullptr ? 1
+                                                   : 0;
+    };
+    std::stable_sort(windows.begin(), windows.end(),
+                     [&](const auto* a, const auto* b) { return rank(a) < rank(b); });
+    for (QWidget* window : windows)
+        if (window->isVisible())
+            painter.drawPixmap(window->pos() - display.topLeft(), window->grab());
+    return picture;
 }
 
 std::vector<std::string> doubleMnemonicsOf(const QWidget& window) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 
 #include <optional>
@@ -18,6 +19,9 @@ std::optional<QString> highlightedEntry(const QWidget& widget);
 /// The least contrast between ground and ink of the entries of an opened list, also of the one
 /// under the mouse.
 double leastContrastIn(QComboBox& combo);
+
+/// The display with all windows that are shown, the one in front last.
+QImage displayNow();
 
 /// The keys with Alt that two visible widgets of the window answer to.
 std::vector<std::string> doubleMnemonicsOf(const QWidget& window);

@@ -48,6 +48,7 @@ const std::vector<OwnWords::Word>& OwnWords::all() {
         {u"mnemonics", &OwnWords::mnemonics, 1},
         {u"covered", &OwnWords::covered, 2},
         {u"ownboxes", &OwnWords::ownBoxes, 0},
+        {u"picture", &OwnWords::picture, 1},
     };
     return All;
 }
@@ -191,5 +192,10 @@ void OwnWords::covered(const Words& words) {
 }
 
 void OwnWords::ownBoxes(const Words& /*words*/) { m_hand.m_dialogs.tellOwnBoxes(); }
+
+void OwnWords::picture(const Words& words) {
+    if (!displayNow().save(qString(words[1].text)))
+        throw driver::CommandError("the picture cannot be written");
+}
 
 } // namespace zeugnis::windowdriver

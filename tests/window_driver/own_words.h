@@ -41,6 +41,7 @@ class OwnWords {
     void mnemonics(const Words& words);
     void covered(const Words& words);
     void ownBoxes(const Words& words);
+    void picture(const Words& words);
 
     Screen& screen(const Text& name);
     ScreenWindow& window(const Text& name);
