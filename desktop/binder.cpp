@@ -4,11 +4,11 @@
 #include "controls/screen.h"
 #include "controls/text_box.h"
 #include "controls/user_actions.h"
-#include "desktop/entry_combo.h"
 #include "desktop/entry_list.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
+#include "toolkit/entry_combo.h"
 #include "toolkit/qt_text.h"
 
 #include <QFocusEvent>
@@ -230,20 +230,14 @@ ChoiceRow* Binder::choice(Control& control, ChoiceRow::Mark mark,
 
 ChoiceRow* Binder::option(OptionButton& control) {
     return choice(control, ChoiceRow::Mark::Option, [&control](ChoiceRow& row) {
-        if (row.text() != qString(control.Caption)) {
-            row.setText(qString(control.Caption));
-            row.updateGeometry();
-        }
+        row.setInscription(qString(control.Caption));
         row.setChecked(control.value());
     });
 }
 
 ChoiceRow* Binder::check(CheckBox& control) {
     return choice(control, ChoiceRow::Mark::Check, [&control](ChoiceRow& row) {
-        if (row.text() != qString(control.Caption)) {
-            row.setText(qString(control.Caption));
-            row.updateGeometry();
-        }
+        row.setInscription(qString(control.Caption));
         row.setChecked(control.value());
     });
 }

@@ -31,6 +31,14 @@ ChoiceRow::ChoiceRow(Mark mark, QWidget* parent)
     setSizePolicy(policy);
 }
 
+void ChoiceRow::setInscription(const QString& inscription) {
+    if (m_inscription == inscription)
+        return;
+    m_inscription = inscription;
+    setText(QString(inscription).replace(u'&', QStringLiteral("&&")));
+    updateGeometry();
+}
+
 void ChoiceRow::setTint(const QColor& tint) {
     if (m_tint == tint)
         return;
@@ -63,16 +71,18 @@ int ChoiceRow::heightForWidth(int width) const {
     if (!m_picture.isNull())
         return PictureSize + 2 * m_topPadding;
     const QRect area = textArea(width, 1000);
-    const int lines = fontMetrics()
-                          .boundingRect(QRect(0, 0, area.width(), 1000), Qt::TextWordWrap, text())
-                          .height();
+    const int lines =
+        fontMetrics()
+            .boundingRect(QRect(0, 0, area.width(), 1000), Qt::TextWordWrap, m_inscription)
+            .height();
     return std::max(lines, fontMetrics().height()) + 2 * m_topPadding + 2;
 }
 
 QSize ChoiceRow::sizeHint() const {
     if (!m_picture.isNull())
         return {textArea(0, 0).left() + PictureSize + Padding, heightForWidth(0)};
-    const int width = fontMetrics().horizontalAdvance(text()) + textArea(0, 0).left() + 2 * Padding;
+    const int width =
+        fontMetrics().horizontalAdvance(m_inscription) + textArea(0, 0).left() + 2 * Padding;
     return {std::min(width, 640), heightForWidth(std::min(width, 640))};
 }
 
@@ -140,7 +150,7 @@ void ChoiceRow::paintEvent(QPaintEvent*) {
         painter.drawPixmap(QRect(area.topLeft(), QSize(PictureSize, PictureSize)), m_picture);
         return;
     }
-    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, text());
+    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, m_inscription);
 }
 
 } // namespace zeugnis

@@ -15,6 +15,9 @@ class ChoiceRow : public QAbstractButton {
 
     explicit ChoiceRow(Mark mark, QWidget* parent = nullptr);
 
+    /// An ampersand in it is a character like any other.
+    void setInscription(const QString& inscription);
+    [[nodiscard]] const QString& inscription() const { return m_inscription; }
     void setTint(const QColor& tint);
     /// A key that is shown in front of the inscription, such as the number of a line.
     void setKeyHint(const QString& hint);
@@ -42,6 +45,7 @@ class ChoiceRow : public QAbstractButton {
 
     Mark m_mark;
     QColor m_tint;
+    QString m_inscription;
     QString m_keyHint;
     QPixmap m_picture;
     int m_topPadding;

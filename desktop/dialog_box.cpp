@@ -1,5 +1,6 @@
 #include "desktop/dialog_box.h"
 
+#include "desktop/text_line_ends.h"
 #include "desktop/theme.h"
 
 #include <QDialogButtonBox>
@@ -7,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -131,6 +133,14 @@ void DialogBox::addButton(Antwort antwort, bool isDefault) {
 
 QLineEdit* DialogBox::addInput() {
     auto* edit = new QLineEdit(this);
+    // A pasted cell ends with a line end that nobody means.
+    connect(edit, &QLineEdit::textChanged, edit, [edit](const QString& text) {
+        if (const QString line = inOneLine(text); line != text) {
+            const int cursor = edit->cursorPosition();
+            edit->setText(line);
+            edit->setCursorPosition(cursor);
+        }
+    });
     edit->setAccessibleName(windowTitle());
     m_column->addWidget(edit);
     addButton(Antwort::Ok, true);
@@ -140,7 +150,11 @@ QLineEdit* DialogBox::addInput() {
 }
 
 Antwort DialogBox::ask() {
+    const QPointer<QWidget> owner(parentWidget());
     exec();
+    // Where there are several windows, the desktop might choose another.
+    if (!owner.isNull())
+        owner->activateWindow();
     return m_answer;
 }
 

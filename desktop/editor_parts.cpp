@@ -20,6 +20,7 @@ QBoxLayout* head(Binder& binder, Label& title, Button& help) {
     QLabel* widget = binder.label(title);
     widget->setFont(theme::scaledFont(1.15, QFont::DemiBold));
     widget->setWordWrap(false);
+    widget->setMargin(4); // for the ring around it
     row->addWidget(widget);
     row->addStretch();
     row->addWidget(

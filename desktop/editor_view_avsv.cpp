@@ -58,7 +58,7 @@ EditorViewAVSV::EditorViewAVSV(GSAVSVAenderung& screen, WindowHost& host, QWidge
     layout->addStretch();
     layout->addWidget(editorparts::hint(bind(), m_editor.Label3));
     layout->addLayout(
-        editorparts::actions(bind(), {.ShowPlaceholders = {m_editor.Command8(0), u'z'},
+        editorparts::actions(bind(), {.ShowPlaceholders = {m_editor.Command8(0), u'P'},
                                       .HidePlaceholders = {m_editor.Command8(1), u'v'},
                                       .Save = {m_editor.Command5, u't'},
                                       .Leave = {m_editor.Command6, u'B'}}));

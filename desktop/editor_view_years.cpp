@@ -63,7 +63,7 @@ void EditorViewYears::build(const Parts& parts, const std::vector<EditorPage>& p
     layout->addStretch();
     layout->addWidget(editorparts::hint(bind(), parts.Hint));
     layout->addLayout(
-        editorparts::actions(bind(), {.ShowPlaceholders = {parts.Placeholders(0), u'z'},
+        editorparts::actions(bind(), {.ShowPlaceholders = {parts.Placeholders(0), u'P'},
                                       .HidePlaceholders = {parts.Placeholders(1), u'v'},
                                       .Save = {parts.Save, u't'},
                                       .Leave = {parts.Leave, u'B'}}));

@@ -20,6 +20,9 @@ void EntryList::pickCurrent() {
 }
 
 void EntryList::keyPressEvent(QKeyEvent* event) {
+    // Alt with a letter and Escape are the window's.
+    if (event->modifiers().testFlag(Qt::AltModifier) || event->key() == Qt::Key_Escape)
+        return event->ignore();
     const int before = currentRow();
     QListWidget::keyPressEvent(event);
     const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||

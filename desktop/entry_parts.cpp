@@ -3,10 +3,10 @@
 #include "controls/list_controls.h"
 #include "controls/text_box.h"
 #include "desktop/binder.h"
-#include "desktop/entry_combo.h"
 #include "desktop/picture_view.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
+#include "toolkit/entry_combo.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>

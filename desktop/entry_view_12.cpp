@@ -1,10 +1,10 @@
 #include "desktop/entry_view_12.h"
 
-#include "desktop/entry_combo.h"
 #include "desktop/entry_parts.h"
 #include "desktop/page_area.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
+#include "toolkit/entry_combo.h"
 #include "toolkit/qt_text.h"
 
 #include <QFrame>

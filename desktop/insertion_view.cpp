@@ -1,8 +1,11 @@
 #include "desktop/insertion_view.h"
 
 #include "desktop/entry_list.h"
+#include "desktop/place_beside.h"
+#include "desktop/window_host.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QScreen>
@@ -10,6 +13,9 @@
 
 namespace zeugnis {
 namespace {
+
+constexpr QSize Wished(430, 440);
+constexpr QSize Least(360, 270);
 
 // An entry of a placeholder list holds blanks that align its explanation in a type of one width.
 QString withDash(const QString& entry) {
@@ -45,11 +51,34 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
     layout->addLayout(buttons);
 
     bind().holdBack(screen.Command1(0), [&screen] { return !screen.EintragGewaehlt(); });
+    resize(Wished);
+}
 
-    // Beside the text that is being written, over the lines that are locked meanwhile.
-    const QRect desktop = this->screen()->availableGeometry();
-    resize(430, 440);
-    move(desktop.right() - 430 - 90, desktop.top() + 60);
+// Over the lines that are locked meanwhile, not over what the phrases are for.
+void InsertionView::place() {
+    const QWidget* served = host().frontWindow(this);
+    if (served == nullptr)
+        return ScreenWindow::place();
+    // Before a window is shown nobody knows how wide its frame is.
+    constexpr QSize Frame(12, 38);
+    const QRect best = placeBeside(*served, Wished, Least, Frame, screen()->availableGeometry());
+    resize(best.size() - Frame);
+    move(best.topLeft());
+    m_cameUpAt = pos();
+}
+
+// It serves one window after the other, unless the user has given it a place.
+bool InsertionView::isPlaced() const { return testAttribute(Qt::WA_Moved) && pos() != m_cameUpAt; }
+
+// Back to the window that it serves: by Escape or F6, or by a key of a button there.
+void InsertionView::keyPressEvent(QKeyEvent* event) {
+    ScreenWindow* served = host().frontWindow(this);
+    if (served == nullptr)
+        return ScreenWindow::keyPressEvent(event);
+    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F6)
+        served->activateWindow();
+    else if (event->modifiers() == Qt::AltModifier)
+        served->pressMnemonic(QKeySequence(event->keyCombination()));
 }
 
 } // namespace zeugnis

@@ -55,7 +55,6 @@ MasterDataView::MasterDataView(GsBasis& screen, WindowHost& host, QWidget* below
     areas->addWidget(pupilArea(), 66);
     layout->addLayout(areas, 1);
     layout->addLayout(actions());
-    followUnlocking();
     orderByUse();
     bind().follow([this] {
         warnBeforeClosing(m_basis.Ungesichert()
@@ -282,18 +281,6 @@ QBoxLayout* MasterDataView::actions() {
         row->addWidget(widget);
     });
     return row;
-}
-
-// The button that unlocked an area is gone; the keyboard goes to the area's first box.
-void MasterDataView::followUnlocking() {
-    for (TextBox* first : {&m_basis.Text1(0), &m_basis.Text2(1)})
-        bind().follow([this, first, open = first->Enabled]() mutable {
-            if (std::exchange(open, first->Enabled) == open)
-                return;
-            QWidget* editor = bind().widgetOf(*first);
-            QMetaObject::invokeMethod(
-                editor, [editor] { editor->setFocus(); }, Qt::QueuedConnection);
-        });
 }
 
 // A pupil after the other first, then what is done once.

@@ -31,7 +31,6 @@ class MasterDataView : public ScreenWindow {
     QBoxLayout* captioned(TextBox& box, const QString& name);
     QBoxLayout* schoolField(int index);
     QBoxLayout* pupilField(int index);
-    void followUnlocking();
     void orderByUse();
 
     [[nodiscard]] QString pupilRow(int index) const;

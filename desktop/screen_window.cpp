@@ -22,12 +22,15 @@ void ScreenWindow::refresh() {
     if (onTop != m_screen->AlwaysOnTop)
         setWindowFlag(Qt::WindowStaysOnTopHint, m_screen->AlwaysOnTop);
     if (isVisible() != m_screen->shown()) {
-        if (m_screen->shown() && !testAttribute(Qt::WA_Moved))
+        if (m_screen->shown() && !isPlaced())
             place();
         setVisible(m_screen->shown());
     }
     if (m_screen->shown() && m_raises != m_screen->raises()) {
         m_raises = m_screen->raises();
+        if (!isPlaced())
+            place();
+        m_host.cameToFront(*m_screen);
         raise();
         activateWindow();
     }
@@ -57,11 +60,30 @@ void ScreenWindow::detach() {
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (m_screen != nullptr && closingConfirmed())
+    if (m_screen == nullptr)
+        return;
+    const bool endsAll = m_screen == m_host.program().startScreen();
+    if (endsAll ? m_host.allMayClose() : mayClose())
         m_host.run([this] { user::close(*m_screen); });
 }
 
-bool ScreenWindow::closingConfirmed() {
+void ScreenWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_screen != nullptr)
+        m_host.cameToFront(*m_screen);
+}
+
+bool ScreenWindow::pressMnemonic(const QKeySequence& key) {
+    for (auto* button : findChildren<QAbstractButton*>())
+        if (button->isVisible() && button->isEnabled() && button->shortcut() == key) {
+            activateWindow();
+            button->click();
+            return true;
+        }
+    return false;
+}
+
+bool ScreenWindow::mayClose() {
     if (m_lostByClosing.isEmpty())
         return true;
     DialogBox box(qString(Programmtitel), m_lostByClosing, this);

@@ -27,21 +27,27 @@ class ScreenWindow : public QWidget {
     [[nodiscard]] QWidget* widgetOf(const Control& control) const {
         return m_binder.widgetOf(control);
     }
+    /// Asks, if something would be lost by closing the window.
+    bool mayClose();
+    /// Presses the button that the key brings with Alt, in this window, with the window in front.
+    bool pressMnemonic(const QKeySequence& key);
     /// Closes for good; the screen is gone.
     void detach();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    /// Puts the window where it comes up, as long as it has no place of its own.
+    virtual void place();
+    [[nodiscard]] virtual bool isPlaced() const { return testAttribute(Qt::WA_Moved); }
 
     /// What is lost if the user closes the window by its close box; without a text nothing is.
     void warnBeforeClosing(const QString& whatIsLost) { m_lostByClosing = whatIsLost; }
 
     [[nodiscard]] Binder& bind() { return m_binder; }
+    [[nodiscard]] WindowHost& host() const { return m_host; }
 
   private:
-    bool closingConfirmed();
-    void place();
-
     Screen* m_screen;
     WindowHost& m_host;
     Binder m_binder;

@@ -6,6 +6,7 @@
 #include "toolkit/qt_text.h"
 
 #include <QClipboard>
+#include <QDrag>
 #include <QDragLeaveEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
@@ -131,15 +132,8 @@ QString TextEditor::documentText() const {
 }
 
 // A cell that is copied from a table ends with a line end that nobody means.
-Text TextEditor::incoming(QString text) const {
-    if (!oneLine())
-        return fromQString(text);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    while (text.startsWith(u'\n'))
-        text.remove(0, 1);
-    while (text.endsWith(u'\n'))
-        text.chop(1);
-    return fromQString(text.replace(u'\n', u' '));
+Text TextEditor::incoming(const QString& text) const {
+    return fromQString(oneLine() ? inOneLine(text) : text);
 }
 
 void TextEditor::focusInEvent(QFocusEvent* event) {
@@ -273,7 +267,8 @@ QMimeData* TextEditor::createMimeDataFromSelection() const {
 // What is dragged within the box is taken out and put in as one change. Qt would do it in two, and
 // the text that the box says in between would bring back what was taken out.
 void TextEditor::dropEvent(QDropEvent* event) {
-    if (event->source() != viewport() && event->source() != this)
+    const bool isOwn = viewport()->findChild<QDrag*>() != nullptr;
+    if (!isOwn)
         return QPlainTextEdit::dropEvent(event);
     const int to = cursorForPosition(event->position().toPoint()).position();
     const bool copy = event->dropAction() == Qt::CopyAction;

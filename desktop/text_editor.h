@@ -52,7 +52,7 @@ class TextEditor : public QPlainTextEdit {
     [[nodiscard]] int textHeight() const;
     void growIfNeeded();
     [[nodiscard]] QString boxText() const;
-    [[nodiscard]] Text incoming(QString text) const;
+    [[nodiscard]] Text incoming(const QString& text) const;
     void keepToOneLine();
     void enter();
     void selectInBox();

@@ -18,6 +18,15 @@ QString documentText(TextView boxText) {
     return text;
 }
 
+QString inOneLine(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    while (text.startsWith(u'\n'))
+        text.remove(0, 1);
+    while (text.endsWith(u'\n'))
+        text.chop(1);
+    return text.replace(u'\n', u' ');
+}
+
 size_t boxPosition(TextView boxText, int documentPosition) {
     size_t at = 0;
     for (int i = 0; i < documentPosition && at < boxText.size(); ++i)

@@ -47,15 +47,23 @@ void WindowHost::refresh() {
     if (m_refreshing || m_program.ended())
         return;
     const QScopedValueRollback refreshing(m_refreshing, true);
-    openAndCloseWindows();
+    bool anyGone = closeWindows();
+    openWindows();
     // In the order of loading, so that of two new windows the later one is in front.
     for (const Screen* screen : m_program.screens())
-        if (const auto window = m_windows.find(screen); window != m_windows.end())
-            window->second->refresh();
+        if (ScreenWindow* window = windowOf(screen)) {
+            const bool wasVisible = window->isVisible();
+            window->refresh();
+            anyGone = anyGone || (wasVisible && !window->isVisible());
+        }
+    // Not whichever window the desktop would choose.
+    if (ScreenWindow* front = anyGone ? frontWindow() : nullptr)
+        front->activateWindow();
     followFocus();
 }
 
-void WindowHost::openAndCloseWindows() {
+bool WindowHost::closeWindows() {
+    bool anyGone = false;
     for (auto window = m_windows.begin(); window != m_windows.end();) {
         const auto& loaded = m_program.screens();
         if (std::find(loaded.begin(), loaded.end(), window->first) != loaded.end()) {
@@ -65,15 +73,40 @@ void WindowHost::openAndCloseWindows() {
         // The action may come from a widget of this window, so it must live a little longer.
         window->second->detach();
         window->second->deleteLater();
+        std::erase(m_order, window->first);
         window = m_windows.erase(window);
-        if (QWidget* start = windowOf(m_program.startScreen()))
-            start->activateWindow();
+        anyGone = true;
     }
+    return anyGone;
+}
+
+void WindowHost::openWindows() {
     for (Screen* screen : m_program.screens()) {
         if (!screen->shown() || m_windows.contains(screen))
             continue;
         m_windows.emplace(screen, makeWindow(*screen, *this, windowOf(m_program.startScreen())));
     }
+}
+
+void WindowHost::cameToFront(const Screen& screen) {
+    std::erase(m_order, &screen);
+    m_order.push_back(&screen);
+}
+
+ScreenWindow* WindowHost::frontWindow(const QWidget* butFor) const {
+    for (auto screen = m_order.rbegin(); screen != m_order.rend(); ++screen)
+        if (ScreenWindow* window = windowOf(*screen);
+            window != nullptr && window != butFor && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+bool WindowHost::allMayClose() const {
+    const std::vector<const Screen*> order(m_order.rbegin(), m_order.rend());
+    return std::all_of(order.begin(), order.end(), [this](const Screen* screen) {
+        ScreenWindow* window = windowOf(screen);
+        return window == nullptr || !window->isVisible() || window->mayClose();
+    });
 }
 
 void WindowHost::followFocus() {
@@ -112,9 +145,9 @@ void WindowHost::leaveForOtherProgram(Qt::ApplicationState state) {
 }
 
 QWidget* WindowHost::dialogParent() const {
-    if (QWidget* active = QApplication::activeWindow())
-        return active;
-    return windowOf(m_program.startScreen());
+    if (QWidget* box = QApplication::activeModalWidget())
+        return box;
+    return frontWindow();
 }
 
 ScreenWindow* WindowHost::windowOf(const Screen* screen) const {

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <map>
+#include <vector>
 
 namespace zeugnis {
 
@@ -40,6 +41,13 @@ class WindowHost : public QObject {
     /// The window that dialogs belong to, or null.
     [[nodiscard]] QWidget* dialogParent() const;
 
+    /// The window of the screen is in front of all others now.
+    void cameToFront(const Screen& screen);
+    /// The window that is in front, but for one; null if there is none.
+    [[nodiscard]] ScreenWindow* frontWindow(const QWidget* butFor = nullptr) const;
+    /// Asks what each window would ask that is closed with the start page.
+    [[nodiscard]] bool allMayClose() const;
+
     /// Null if the screen has not been shown yet.
     [[nodiscard]] ScreenWindow* windowOf(const Screen* screen) const;
 
@@ -48,7 +56,8 @@ class WindowHost : public QObject {
     void failed(const zeugnis::Laufzeitfehler& failure);
 
   private:
-    void openAndCloseWindows();
+    void openWindows();
+    bool closeWindows();
     void followFocus();
     void leaveForOtherProgram(Qt::ApplicationState state);
     void reportFailure(const Laufzeitfehler& failure);
@@ -57,6 +66,8 @@ class WindowHost : public QObject {
     // The window of the start page owns the others.
     std::map<const Screen*, QPointer<ScreenWindow>> m_windows;
     int m_depth = 0;
+    /// The screens whose windows are or were shown, the one in front last.
+    std::vector<const Screen*> m_order;
     /// The focus as the windows have followed it.
     const Control* m_followed = nullptr;
     bool m_refreshing = false;

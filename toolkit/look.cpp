@@ -21,6 +21,8 @@ QComboBox:focus { border: 2px solid #1F6F6B; padding: 0 7px; }
 QComboBox::drop-down { width: 28px; border: none; }
 QComboBox::down-arrow { image: none; width: 0; height: 0; margin-right: 10px;
     border-left: 5px solid white; border-right: 5px solid white; border-top: 6px solid #5F656C; }
+QComboBox QAbstractItemView::item { color: #242B33; }
+QComboBox QAbstractItemView::item:selected { background: #1F6F6B; color: white; }
 QListWidget { background: white; border: 1px solid #8C867A; border-radius: 6px; padding: 4px; }
 QListWidget:focus { border: 2px solid #1F6F6B; padding: 3px; }
 QListWidget::item { padding: 5px 6px; border-radius: 4px; color: #242B33; }

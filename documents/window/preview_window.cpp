@@ -4,6 +4,7 @@
 #include "documents/window/print_pages.h"
 #include "platform/failure.h"
 #include "platform/whole_file.h"
+#include "toolkit/entry_combo.h"
 #include "toolkit/qt_text.h"
 
 #include <QBoxLayout>
@@ -58,7 +59,7 @@ PreviewWindow::PreviewWindow(Nachschauen nachschauen, QWidget* parent)
       m_middle(new QHBoxLayout),
       m_view(new PageView),
       m_contents(new QListWidget),
-      m_zoom(new QComboBox),
+      m_zoom(new EntryCombo),
       m_hint(new QLabel),
       m_position(new QLabel),
       m_edit(nullptr) {

@@ -106,6 +106,15 @@ TEST_F(UserActions, DoubleClickIsClickThenDblClickWhereItStillArrives) {
     EXPECT_EQ(happened(), Log{});
 }
 
+TEST_F(UserActions, KeyThatIsOnlySeenPassesTheKeyHandlerAndLeavesTheText) {
+    char16_t seen = 0;
+    a->Text1(0).onKeyPress = [&](char16_t& key) { seen = key; };
+    EXPECT_TRUE(user::keySeen(a->Text1(0), 13));
+    EXPECT_EQ(seen, 13);
+    EXPECT_EQ(a->Text1(0).text(), u"");
+    EXPECT_EQ(programm.focus(), &a->Text1(0));
+}
+
 TEST_F(UserActions, NothingArrivesAfterTheEndOfTheProgram) {
     user::focus(a->Text1(0));
     user::close(*a); // the screen that the program was started with

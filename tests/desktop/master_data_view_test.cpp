@@ -60,7 +60,9 @@ class MasterDataViewTest : public MasterDataTest {
 };
 
 TEST_F(MasterDataViewTest, TypesPupilAfterPupilWithoutTheMouse) {
-    EXPECT_EQ(QApplication::focusWidget(), widget<TextEditor>("Nachname"));
+    widget<QListWidget>("Nummer")->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), widget<TextEditor>("Nachname"));
     QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_Y, QStringLiteral("y"),
                         Qt::AltModifier);
     EXPECT_EQ(widget<TextEditor>("Nachname")->toPlainText(), QStringLiteral("N1"));

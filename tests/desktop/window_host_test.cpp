@@ -5,6 +5,7 @@
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QWindow>
 
 namespace zeugnis::test {
 namespace {
@@ -44,6 +45,14 @@ TEST_F(WindowHostTest, OutlivesAScreenThatUnloadsItselfFromItsOwnButton) {
     EXPECT_FALSE(loaded());
     QTest::mouseClick(button("Listen und Formulare erstellen und drucken"), Qt::LeftButton);
     EXPECT_NE(button("Strichliste"), nullptr);
+}
+
+TEST_F(WindowHostTest, KeepsItsWindowsAboveTheStartPage) {
+    const QWidget* start = button("Programm beenden")->window();
+    EXPECT_EQ(window()->windowHandle()->transientParent(), start->windowHandle());
+    window()->activateWindow();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(host.dialogParent(), window());
 }
 
 TEST_F(WindowHostTest, ShowsAFailureAndEndsWithOne) {

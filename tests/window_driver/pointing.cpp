@@ -1,7 +1,10 @@
 #include "tests/window_driver/pointing.h"
 
 #include <QApplication>
+#include <QDrag>
+#include <QDragEnterEvent>
 #include <QFrame>
+#include <QMimeData>
 #include <QScrollArea>
 #include <QTest>
 #include <QWheelEvent>
@@ -81,13 +84,19 @@ void secondClick(QWidget& widget, const QPoint& place) {
     QApplication::setDoubleClickInterval(interval);
 }
 
-void drag(QWidget& widget, const QPoint& from, const QPoint& to) {
-    QWindow* window = windowOf(widget);
-    QTest::mousePress(window, Qt::LeftButton, {}, inWindow(widget, from));
-    constexpr int Steps = 8;
-    for (int i = 1; i <= Steps; ++i)
-        QTest::mouseMove(window, inWindow(widget, from + (to - from) * i / Steps));
-    QTest::mouseRelease(window, Qt::LeftButton, {}, inWindow(widget, to));
+// There is no drag and drop without a display, so what a display would tell the widget is told here
+// while a drag of its own is under way.
+void drag(QWidget& widget, const QPoint& to, const QString& text) {
+    const QDrag underWay(&widget);
+    QMimeData data;
+    data.setText(text);
+    const Qt::DropActions actions = Qt::MoveAction | Qt::CopyAction;
+    QDragEnterEvent enters(to, actions, &data, Qt::LeftButton, {});
+    QDragMoveEvent moves(to, actions, &data, Qt::LeftButton, {});
+    QDropEvent drops(to, actions, &data, Qt::LeftButton, {});
+    drops.setDropAction(Qt::MoveAction);
+    for (QEvent* event : std::initializer_list<QEvent*>{&enters, &moves, &drops})
+        QCoreApplication::sendEvent(&widget, event);
 }
 
 void turnWheel(QWidget& widget, const QPoint& place) {

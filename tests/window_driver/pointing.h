@@ -4,6 +4,7 @@
 
 #include <optional>
 
+class QString;
 class QWidget;
 
 /// The mouse of the hand: real events at a window, which finds its own way to the widget under it.
@@ -25,7 +26,8 @@ std::optional<QPoint> freePlace(const QWidget& widget, const QPoint& wished);
 void click(QWidget& widget, const QPoint& place);
 /// Makes a double click of the click before.
 void secondClick(QWidget& widget, const QPoint& place);
-void drag(QWidget& widget, const QPoint& from, const QPoint& to);
+/// Drags a selected text within the widget.
+void drag(QWidget& widget, const QPoint& to, const QString& text);
 /// One notch towards the user.
 void turnWheel(QWidget& widget, const QPoint& place);
 void moveTo(QWidget& widget, const QPoint& place);

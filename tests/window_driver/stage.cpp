@@ -3,6 +3,7 @@
 #include "desktop/theme.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QStyleHints>
 #include <QTimer>
 
@@ -27,9 +28,16 @@ void leaveOutPlatformNotes(QtMsgType /*type*/, const QMessageLogContext& context
 
 } // namespace
 
-Stage::Stage() {
+Stage::Stage() : m_display(QDir::tempPath() + QStringLiteral("/display-XXXXXX")) {
     qInstallMessageHandler(leaveOutPlatformNotes);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // As large as the smallest display that teachers have.
+    constexpr const char* Display = R"({ "windowFrameMargins": false, "screens": [
+        { "name": "display", "x": 0, "y": 0, "width": 1280, "height": 800,
+          "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1 } ] })";
+    if (m_display.open())
+        m_display.write(Display);
+    m_display.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + m_display.fileName().toUtf8());
     m_application = std::make_unique<QApplication>(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setCursorFlashTime(0);

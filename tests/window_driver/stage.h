@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QTemporaryFile>
+
 #include <functional>
 #include <memory>
 
@@ -18,6 +20,7 @@ class Stage {
     static int play(const std::function<int()>& play);
 
   private:
+    QTemporaryFile m_display;
     std::unique_ptr<QApplication> m_application;
 };
 

@@ -15,6 +15,8 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     if (key >= Qt::Key_A && key <= Qt::Key_Z)
         text = modifiers.testFlag(Qt::ControlModifier) ? QString(QChar(key - Qt::Key_A + 1))
                                                        : QString(QChar(key)).toLower();
+    else if (key >= Qt::Key_Space && key <= Qt::Key_At)
+        text = QChar(key);
     if (QWidget* target = QApplication::focusWidget() != nullptr ? QApplication::focusWidget()
                                                                  : QApplication::activeWindow())
         QTest::sendKeyEvent(QTest::Click, target, key, text, modifiers);

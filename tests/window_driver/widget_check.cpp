@@ -65,7 +65,7 @@ Difference inState(const Control& control, const QWidget& widget) {
 Difference inCaption(const CaptionedControl& control, const QWidget& widget) {
     const QString said = qString(control.Caption);
     if (const auto* row = qobject_cast<const ChoiceRow*>(&widget))
-        return unlessEqual("caption", row->text(), said);
+        return unlessEqual("caption", row->inscription(), said);
     if (const auto* button = qobject_cast<const TintedButton*>(&widget))
         return button->showsSign() ? std::nullopt
                                    : unlessEqual("caption", withoutMnemonic(button->text()), said);

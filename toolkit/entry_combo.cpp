@@ -1,4 +1,4 @@
-#include "desktop/entry_combo.h"
+#include "toolkit/entry_combo.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
@@ -26,6 +26,7 @@ void EntryCombo::keyPressEvent(QKeyEvent* event) {
     if (!isLetter(*event))
         return QComboBox::keyPressEvent(event);
     showPopup();
+    view()->keyboardSearch({}); // begins anew
     view()->keyboardSearch(event->text());
 }
 
