@@ -18,6 +18,7 @@ bool isLetter(const QKeyEvent& event) {
 // not the one that comes with the box.
 EntryCombo::EntryCombo(QWidget* parent) : QComboBox(parent) {
     setItemDelegate(new QStyledItemDelegate(this));
+    view()->setAccessibleName(tr("Auswahl"));
 }
 
 void EntryCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }

@@ -2,6 +2,7 @@
 
 #include "platform/code_page.h"
 #include "platform/failure.h"
+#include "toolkit/entry_combo.h"
 #include "toolkit/qt_text.h"
 
 #include <QCheckBox>
@@ -65,7 +66,7 @@ LayoutDialog::LayoutDialog(const Zeugnisaufbau& aufbau, const std::vector<Text>&
 
 QComboBox* LayoutDialog::choice(QFormLayout& form, const QString& label,
                                 const QStringList& entries) {
-    auto* combo = new QComboBox;
+    auto* combo = new EntryCombo;
     combo->addItems(entries);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     form.addRow(label, combo);
