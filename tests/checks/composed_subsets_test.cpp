@@ -1,6 +1,6 @@
 #include "checks/hunspell_spelling.h"
 #include "checks/text_checks.h"
-#include "driver/driver.h"
+#include "tests/support/model_driver.h"
 #include "tests/support/test_installation.h"
 
 #include <gtest/gtest.h>
@@ -115,10 +115,8 @@ class DriverRun {
 
     /// The texts that were asked for, in their order.
     std::vector<Text> results() {
-        std::istringstream commands(m_script + "quit\n");
         std::ostringstream events;
-        driver::Driver driver(events, m_folder, u"01.07.2027");
-        EXPECT_EQ(driver.run(commands), 0) << events.str();
+        EXPECT_EQ(test::ModelDriver(events, m_folder).play(m_script + "quit\n"), 0) << events.str();
         std::vector<Text> texts;
         std::istringstream lines(events.str());
         for (std::string line; std::getline(lines, line);) {

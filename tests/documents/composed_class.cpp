@@ -1,8 +1,7 @@
 #include "tests/documents/composed_class.h"
+#include "tests/support/model_driver.h"
 
 #include "documents/content/report_list.h"
-#include "driver/driver.h"
-#include "driver/model_hand.h"
 #include "files/file_catalogue.h"
 #include "files/pupil_records.h"
 #include "platform/record_writer.h"
@@ -255,11 +254,7 @@ void ComposedClass::compose() {
     else
         years34(script);
     std::ostringstream events;
-    std::istringstream input(script.text() + "quit\n");
-    driver::DialogScript answers(events);
-    driver::ModelHand hand(answers);
-    driver::Driver driver(events, {path(), u"01.07.2027"}, answers, hand);
-    EXPECT_EQ(driver.run(input), 0) << events.str();
+    EXPECT_EQ(ModelDriver(events, path()).play(script.text() + "quit\n"), 0) << events.str();
     EXPECT_EQ(events.str().find("unreachable"), std::string::npos) << events.str();
 }
 

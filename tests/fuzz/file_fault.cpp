@@ -1,14 +1,13 @@
 #include "tests/fuzz/file_fault.h"
 
 #include "documents/content/report_list.h"
-#include "driver/driver.h"
-#include "driver/model_hand.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/path_text.h"
 #include "platform/record_reader.h"
 #include "platform/record_writer.h"
 #include "tests/fuzz/memory_files.h"
+#include "tests/support/model_driver.h"
 #include "tests/support/test_installation.h"
 
 #include <algorithm>
@@ -142,18 +141,12 @@ std::string roadFault(const Target& target, const char* road, std::string_view b
     memory_files::reset();
     classIs(target.klasse);
     std::ostringstream printed;
-    driver::DialogScript script(printed);
-    driver::ModelHand hand(script);
-    driver::Driver driver(printed, {installation(), u"15.03.2027"}, script, hand);
-    const auto run = [&](const char* commands) {
-        std::istringstream lines(commands);
-        return driver.run(lines);
-    };
+    ModelDriver driver(printed, installation());
     if (road != Start)
-        run("start\n");
+        driver.play("start\n");
     memory_files::put(installation() / "Daten" / pathFromText(textFromUtf8(target.file)),
                       std::string(bytes));
-    run(road == Start ? "start\n" : road);
+    driver.play(road == Start ? "start\n" : road);
     return printed.str().find("fatal ") != std::string::npos &&
                    printed.str().find(" \"\"\n") != std::string::npos
                ? "a failure without a sentence"

@@ -3,8 +3,7 @@
 // further class what differs from how the screen opened first.
 
 #include "driver/command_line.h"
-#include "driver/driver.h"
-#include "driver/model_hand.h"
+#include "tests/support/model_driver.h"
 #include "tests/support/test_installation.h"
 
 #include <gtest/gtest.h>
@@ -156,23 +155,19 @@ class Run {
   public:
     Run(const std::string& klasse, const std::string& halbjahr) {
         layOut(m_folder.path(), klasse, halbjahr);
-        m_driver.emplace(m_printed, driver::Surroundings{m_folder.path(), u"15.03.2027"}, m_script,
-                         m_hand);
+        m_driver.emplace(m_printed, m_folder.path());
     }
 
     std::string command(const std::string& line) {
         m_printed.str({});
-        std::istringstream commands(line);
-        m_driver->run(commands);
+        m_driver->play(line);
         return m_printed.str();
     }
 
   private:
     TemporaryFolder m_folder;
     std::ostringstream m_printed;
-    driver::DialogScript m_script{m_printed};
-    driver::ModelHand m_hand{m_script};
-    std::optional<driver::Driver> m_driver;
+    std::optional<ModelDriver> m_driver;
 };
 
 std::string contentOf(const fs::path& path) {
