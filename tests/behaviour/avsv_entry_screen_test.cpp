@@ -42,28 +42,6 @@ class AVSVEntryScreen : public testing::Test {
     std::optional<TestProgramm> program;
 };
 
-TEST_F(AVSVEntryScreen, RebuildsTheTextInTheOrderOfTheCategories) {
-    GsArbeitsverhalten& screen = openTom();
-    const struct {
-        int category, line;
-        TextView text;
-    } steps[] = {
-        {3, 1, u"a31."},
-        {0, 2, u"Tom a02. a31."},
-        {1, 7, u"Tom a02, aber a17. a31."},
-        {2, 5, u"Tom a02, aber a17. Ihm a25. a31."},
-        {0, 0, u"Tom a17. Ihm a25. a31."},
-        {1, 0, u"Tom a25. a31."},
-    };
-    for (const auto& step : steps) {
-        choose(screen, step.category, step.line);
-        EXPECT_EQ(screen.Text1(0).text(), step.text);
-    }
-    EXPECT_EQ(screen.Command3(1).BackColor, Gelb) << "line 0 takes the choice away";
-    EXPECT_EQ(screen.Command5.Caption, u"Alle Eingaben beenden");
-    EXPECT_EQ(screen.Text1(1).text(), u"");
-}
-
 TEST_F(AVSVEntryScreen, ButtonsOfTheCategoriesShowChoicesAndWhereOneIs) {
     GsArbeitsverhalten& screen = openTom();
     const auto colours = [&] {
@@ -104,24 +82,6 @@ TEST_F(AVSVEntryScreen, NextChoiceOverwritesWhatWasTypedWithoutAClick) {
     choose(screen, 1, 3);
     EXPECT_EQ(screen.Text1(0).text(), u"Tom a02 und a13.");
     EXPECT_EQ(screen.Speicher.AV.Gesperrt[0], 0);
-}
-
-TEST_F(AVSVEntryScreen, DoubleClickExpandsAndReachesTheStoreWhenTheBoxIsLeft) {
-    GsArbeitsverhalten& screen = openTom();
-    TextBox& box = screen.Text1(0);
-    user::paste(box, u"<Vorname> singt <Ihm/Ihr>..");
-    user::doubleClick(box);
-    EXPECT_EQ(box.text(), u"Tom singt <Ihm/Ihr>.") << "with an empty clipboard as well";
-    program->clipboard.setText(u"als \"Sprecher<in>\"");
-    box.select(1, 3);
-    user::doubleClick(box);
-    user::doubleClick(box);
-    EXPECT_EQ(box.text(), u"Tom als 'Sprecher' singt <Ihm/Ihr>. als 'Sprecher'");
-    EXPECT_EQ(program->dialogs.shown.size(), 2U);
-    EXPECT_EQ(screen.Speicher.AV.Texte[0], u"");
-    EXPECT_EQ(screen.Speicher.AV.Gesperrt[0], 1);
-    user::blur(screen);
-    EXPECT_EQ(screen.Speicher.AV.Texte[0], box.text());
 }
 
 TEST_F(AVSVEntryScreen, SavedCountsUntilPupilSectionOrCategoryIsSelected) {

@@ -46,44 +46,64 @@ using Properties = std::map<std::string, std::string>;
 const Properties Defaults = {{"Caption", "\"\""}, {"ToolTip", "\"\""}, {"BackColor", "0xF0F0F0"},
                              {"Enabled", "1"},    {"Visible", "1"},    {"Locked", "0"}};
 
-// Lines of neighbours in an array that say the same become one: Option2(0..3).
+// Neighbours in an array of which the same properties have changed share a line, which names what
+// all have in common once: Option2(0..3) Enabled=1 Caption="a"|"b"|"c"|"d".
 class Lines {
   public:
+    using Changes = std::vector<std::pair<std::string, std::string>>; // property and value
+
     explicit Lines(std::ostream& out) : m_out(out) {}
     ~Lines() { flush(); }
     Lines(const Lines&) = delete;
     Lines& operator=(const Lines&) = delete;
 
-    void add(const std::string& control, const std::string& what) {
+    void add(const std::string& control, const Changes& changes) {
         const size_t paren = control.find('(');
         const std::string stem = control.substr(0, paren);
-        const std::string index =
-            paren == std::string::npos ? "" : control.substr(paren + 1, control.size() - paren - 2);
-        if (stem == m_stem && what == m_what && !index.empty()) {
-            m_last = index;
-            return;
-        }
-        flush();
+        const bool isArray = paren != std::string::npos;
+        if (!isArray || stem != m_stem || !sameProperties(changes))
+            flush();
         m_stem = stem;
-        m_what = what;
-        m_first = m_last = index;
+        if (isArray)
+            m_indices.push_back(control.substr(paren + 1, control.size() - paren - 2));
+        m_members.push_back(changes);
     }
 
   private:
+    [[nodiscard]] bool sameProperties(const Changes& changes) const {
+        return !m_members.empty() &&
+               std::equal(changes.begin(), changes.end(), m_members[0].begin(), m_members[0].end(),
+                          [](const auto& a, const auto& b) { return a.first == b.first; });
+    }
+
+    [[nodiscard]] std::string valuesOf(size_t property) const {
+        std::string all;
+        bool same = true;
+        for (const Changes& member : m_members) {
+            all += (all.empty() ? "" : "|") + member[property].second;
+            same = same && member[property] == m_members[0][property];
+        }
+        return same ? m_members[0][property].second : all;
+    }
+
     void flush() {
-        if (m_stem.empty())
+        if (m_members.empty())
             return;
         m_out << m_stem;
-        if (!m_first.empty())
-            m_out << '(' << m_first << (m_first == m_last ? "" : ".." + m_last) << ')';
-        m_out << m_what << '\n';
+        if (!m_indices.empty())
+            m_out << '(' << m_indices.front()
+                  << (m_indices.size() == 1 ? "" : ".." + m_indices.back()) << ')';
+        for (size_t i = 0; i < m_members[0].size(); ++i)
+            m_out << ' ' << m_members[0][i].first << '=' << valuesOf(i);
+        m_out << '\n';
+        m_indices.clear();
+        m_members.clear();
     }
 
     std::ostream& m_out;
     std::string m_stem;
-    std::string m_what;
-    std::string m_first;
-    std::string m_last;
+    std::vector<std::string> m_indices;
+    std::vector<Changes> m_members;
 };
 
 // What is known of the properties of one screen.
@@ -91,7 +111,7 @@ class Look {
   public:
     // Prints what has changed, control by control.
     void take(const std::string& dump, std::ostream& out) {
-        std::vector<std::pair<std::string, std::string>> changes;
+        std::vector<std::pair<std::string, Lines::Changes>> changes;
         std::istringstream lines(dump);
         for (std::string line; std::getline(lines, line);) {
             const size_t sign = line.find(" = ");
@@ -106,8 +126,8 @@ class Look {
                 continue;
             const std::string control = name.substr(0, dot);
             if (changes.empty() || changes.back().first != control)
-                changes.emplace_back(control, "");
-            changes.back().second += ' ' + usual->first + '=' + value;
+                changes.emplace_back(control, Lines::Changes());
+            changes.back().second.emplace_back(usual->first, value);
         }
         if (m_first.empty())
             printInventory(out);

@@ -40,47 +40,6 @@ class StartPage : public testing::Test {
     std::optional<EmptyProgramm> program;
 };
 
-TEST_F(StartPage, FollowsTheYearGroup) {
-    const struct {
-        TextView klasse;
-        TextView halbjahr;
-        bool years12;
-        TextView halfYearShown;
-        TextView reports;
-        TextView list;
-    } cases[] = {
-        {u"1a", u"2", true, u"2. Halbjahr", u"1aZeugnisse12", u"1aZeugnisliste12"},
-        {u"2b", u"1", true, u"1. Halbjahr", u"2bZeugnisse21", u"2bZeugnisliste21"},
-        {u"3a", u"1", false, u"1. Halbjahr", u"3aZeugnisse31", u"3aZeugnisliste31"},
-        {u"4 c", u"2", false, u"2. Halbjahr", u"4 cZeugnisse42", u"4 cZeugnisliste42"},
-    };
-    for (const auto& one : cases) {
-        installation.basisdaten(one.halbjahr, u"Erika Lehrer");
-        installation.klassenliste(one.klasse, EinKind);
-        GsStart& page = start();
-        EXPECT_EQ(page.Label1(0).Caption, u"Klasse " + Text(one.klasse));
-        EXPECT_EQ(page.Label1(1).Caption, u"Schuljahr 2026/2027");
-        EXPECT_EQ(page.Label1(2).Caption, one.halfYearShown);
-        EXPECT_EQ(page.Label5.Caption, u"Erika Lehrer");
-        EXPECT_EQ(page.Command1(1).Enabled, one.years12);
-        EXPECT_EQ(page.Command1(2).Enabled, !one.years12);
-        EXPECT_FALSE(page.Command1(5).Visible);
-        EXPECT_EQ(page.Command1(5).Caption,
-                  one.years12
-                      ? u"Textbausteine für Interessen, Kompetenzen und Bemerkungen ändern"
-                      : u"Textbausteine für Förder und AG, Interessen und Bemerkungen ändern");
-        EXPECT_EQ(page.Command5.Caption,
-                  one.years12 ? u"Versäumnisliste aufrufen" : u"Zeugnisliste aufrufen");
-        user::click(page.Command6);
-        user::click(page.Command5);
-        EXPECT_EQ(program->launcher.started,
-                  (std::vector<Text>{u"Winword.exe " + Text(one.reports) + u".doc",
-                                     u"Winword.exe " + Text(one.list) + u".doc"}));
-        EXPECT_EQ(program->launcher.folders.at(0), std::filesystem::canonical(installation.path()));
-        EXPECT_FALSE(installation.has(u"Basisdaten.txt")) << "only year 1 is corrected";
-    }
-}
-
 TEST_F(StartPage, CorrectsTheFirstHalfYearOfYear1InTheProgramFolderOnly) {
     installation.basisdaten(u"1", u"Erika Lehrer");
     installation.klassenliste(u"1a", EinKind);

@@ -7,28 +7,6 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-TEST_F(EntryScreen12, OpensOnePageBeforeAChildIsSelected) {
-    open();
-    EXPECT_EQ(screen->Combo1.Inscription, u"Namensliste");
-    EXPECT_EQ(screen->Combo1.entries().at(2), u"Çelik,  Emir");
-    EXPECT_EQ(screen->Label2.Caption, u"2b");
-    for (int page = 0; page < 8; ++page)
-        EXPECT_EQ(screen->Command1(page).Enabled, page == 2);
-    EXPECT_FALSE(screen->Command2.Enabled || screen->Command4.Enabled);
-    EXPECT_EQ(screen->Command3.BackColor, 0x8080FFU);
-    turnTo(2);
-    EXPECT_FALSE(screen->Label7.Visible);
-    choose({u"Option6(0)"});
-    EXPECT_EQ(text(2), u".") << "an inscription without a text, for the first child";
-    select(Emir);
-    EXPECT_EQ(screen->Label7.Caption,
-              u"Klicken Sie oben auf den Bereich, den Sie bearbeiten möchten!");
-    EXPECT_EQ(screen->aktSeite, 2);
-    EXPECT_EQ(screen->Speicher.Sperre[2][Lena], 1);
-    EXPECT_EQ(control<OptionButton>(u"Option6(0)").Caption, u"Le3-0");
-    EXPECT_TRUE(screen->Command1(7).Enabled);
-}
-
 TEST_F(EntryScreen12, TakingTicksOffRunsForTheNewChild) {
     open(Lena, 0);
     choose({u"Option1(3)", u"Check1(1)"});
@@ -166,61 +144,6 @@ TEST_F(EntryScreen12, LineEndOfAVersetzungStaysUntilTheReset) {
     click(u"Command4");
     choose({u"Check3(0)"});
     EXPECT_EQ(text(7), u"Im Fach Deutsch übt er weiter.");
-}
-
-TEST_F(EntryScreen12, AsksOnLeavingWhatIsNotSaved) {
-    const struct {
-        std::function<void()> actions;
-        bool asks;
-    } cases[] = {
-        {[] {}, false},
-        {[this] { user::click(screen->Command1(2)); }, true},
-        {[this] { select(Lena); }, true},
-        {[this] {
-             select(Lena);
-             user::click(screen->Command2);
-         },
-         false},
-        {[this] {
-             select(Lena);
-             user::click(screen->Command2);
-             turnTo(1);
-         },
-         false},
-        {[this] {
-             select(Lena);
-             user::click(screen->Command2);
-             choose({u"Option1(1)"});
-         },
-         true},
-        {[this] {
-             select(Lena);
-             user::click(screen->Command2);
-             user::click(screen->Text1(0));
-         },
-         true},
-    };
-    for (const auto& one : cases) {
-        open();
-        one.actions();
-        program->dialogs.answers = {Antwort::Nein};
-        user::click(screen->Command3);
-        EXPECT_EQ(program->dialogs.answers.empty(), one.asks);
-        EXPECT_EQ(program->programm.find(bildschirme::Kompetenzen), nullptr);
-        if (one.asks) {
-            EXPECT_EQ(program->dialogs.shown.back().text,
-                      u"Wollen Sie die Eintragungen noch speichern?");
-        }
-    }
-}
-
-TEST_F(EntryScreen12, TypingIntoTheListTakesTheResetAway) {
-    open(Tim, 0);
-    EXPECT_TRUE(screen->Command4.Enabled);
-    user::type(screen->Combo1, u"M");
-    EXPECT_FALSE(screen->Command4.Enabled);
-    EXPECT_EQ(screen->Command4.BackColor, Weiss);
-    EXPECT_EQ(screen->aktSchueler, Tim);
 }
 
 TEST_F(EntryScreen12, TakesAListOf36) {

@@ -3,73 +3,6 @@
 namespace zeugnis::test {
 namespace {
 
-TEST_F(EntryScreen34, OpensWithTheChoiceOfAPupilOnly) {
-    GSAGFI& screen = open();
-    EXPECT_EQ(screen.Title, u"Förder Interessen");
-    EXPECT_EQ(screen.Label2.Caption, u"Wählen Sie bitte einen Namen aus!");
-    EXPECT_EQ(screen.Combo1.entries(), (std::vector<Text>{u"Ahlers,  Tom", u"Bäcker,  Lena"}));
-    EXPECT_EQ(screen.Command1(1).Caption, u"Abbrechen");
-    EXPECT_EQ(screen.Command1(1).BackColor, Rosa);
-    for (const Control* control : screen.controls()) {
-        if (!control->takesFocus() || control == &screen.Combo1)
-            continue;
-        EXPECT_EQ(control->reachable(),
-                  control == &screen.Command1(1) || control == &screen.Command8)
-            << utf8FromText(control->fullName());
-    }
-    user::pick(screen.Combo1, Lena);
-    EXPECT_EQ(screen.Label2.Caption,
-              u"Klicken Sie oben auf den Bereich, den Sie bearbeiten wollen!");
-    EXPECT_TRUE(screen.Label2.Visible && screen.Command2(2).reachable());
-    EXPECT_FALSE(screen.Frame1.Visible || screen.Picture2.Visible);
-    user::click(screen.Command2(2));
-    EXPECT_FALSE(screen.Label2.Visible || screen.Frame1.Visible || screen.Text1.Visible);
-    EXPECT_TRUE(screen.Frame3.Visible && screen.Text3.reachable());
-    EXPECT_EQ(std::pair(screen.Command2(1).BackColor, screen.Command2(2).BackColor),
-              std::pair(Grau, Fensterfarbe));
-    EXPECT_EQ(screen.Command1(0).BackColor, Gruen);
-    user::click(screen.Command8);
-    EXPECT_EQ(program->launcher.started, std::vector<Text>{u"Winword.exe Texte\\Hilfe4.doc"});
-}
-
-TEST_F(EntryScreen34, StoredTextComesBackLocked) {
-    stored(u"\"alt\",\"\",\"\"", u"0,1,0");
-    GSAGFI& screen = openPage(Lena, 0);
-    EXPECT_TRUE(screen.Picture2.Visible);
-    EXPECT_FALSE(user::click(screen.Check1(0)));
-    EXPECT_EQ(std::pair(screen.Command1(2).Enabled, screen.Command1(2).BackColor),
-              std::pair(true, Gruen));
-    user::click(screen.Command2(1));
-    EXPECT_FALSE(screen.Picture2.Visible) << "the lock follows the text, whatever the file says";
-    EXPECT_TRUE(screen.Option1(0).reachable());
-    user::click(screen.Command2(0));
-    user::click(screen.Command1(2));
-    EXPECT_EQ(screen.Text1.text(), u"");
-    EXPECT_FALSE(screen.Picture2.Visible);
-    EXPECT_EQ(std::pair(screen.Command1(2).Enabled, screen.Command1(2).BackColor),
-              std::pair(false, Fensterfarbe));
-    EXPECT_TRUE(user::click(screen.Check1(0)));
-    EXPECT_EQ(screen.Text1.text(), u"Lena nahm am Lesen teil.\r\n");
-}
-
-TEST_F(EntryScreen34, ClickIntoAFilledTextLocksThePage) {
-    for (const int page : {0, 1, 2}) {
-        GSAGFI& screen = openPage(Lena, page);
-        TextBox& box = *screen.Textfelder.at(static_cast<size_t>(page));
-        user::click(box);
-        EXPECT_FALSE(screen.Picture2.Visible);
-        EXPECT_EQ(screen.Command1(2).Enabled, page == 2)
-            << "the reset of the last page is always there";
-        EXPECT_EQ(screen.Command1(1).Caption, u"Alle Eingaben beenden");
-        user::type(box, u"Text.");
-        user::click(box);
-        EXPECT_TRUE(screen.Picture2.Visible && screen.Command1(2).Enabled);
-        EXPECT_FALSE(screen.Rahmen.at(static_cast<size_t>(page))->Enabled);
-        user::type(box, u" Mehr.");
-        EXPECT_EQ(box.text(), u"Text. Mehr.") << "the text itself stays open";
-    }
-}
-
 TEST_F(EntryScreen34, LockFollowsTheBoxWhenItIsLeft) {
     GSAGFI& screen = openPage(Lena, 0);
     user::type(screen.Text1, u"Getippt.");
@@ -233,55 +166,6 @@ TEST_F(EntryScreen34, SavesOnLeavingWithYesBeforeTheChoicesAreEmptied) {
     }
     EXPECT_EQ(saved(u"34Sperre.txt", u"Lena"), u"1,0,0\r\n");
     EXPECT_TRUE(installation.has(u"Daten/Sicherheit/34Sperre15.03.2027.txt"));
-}
-
-TEST_F(EntryScreen34, DoubleClickInsertsAndExpands) {
-    GSAGFI& screen = openPage(Lena, 1);
-    user::type(screen.Text2, u"Lena malt <Konferenz> gern und <sie/er> singt.");
-    screen.Text2.select(5, 9);
-    program->clipboard.setText(u"als Helfer<in>");
-    user::doubleClick(screen.Text2);
-    EXPECT_EQ(screen.Text2.text(), u"Lena malt als Helferin 22.06.2027 gern und sie singt.");
-    EXPECT_EQ(screen.Speicher.Texte[1][Lena], u"") << "the table follows when the box is left";
-    user::focus(screen.Combo1);
-    EXPECT_EQ(screen.Speicher.Texte[1][Lena], screen.Text2.text());
-    program->clipboard.clear();
-    user::click(screen.Command2(0));
-    user::type(screen.Text1, u"<Er/Sie>  x");
-    user::doubleClick(screen.Text1);
-    EXPECT_EQ(screen.Text1.text(), u"Sie ") << "the clean-up runs and eats what follows two blanks";
-}
-
-TEST_F(EntryScreen34, TypedQuotesBecomeApostrophesAndPastedOnesStay) {
-    for (const int page : {0, 1, 2}) {
-        GSAGFI& screen = openPage(Lena, page);
-        TextBox& box = *screen.Textfelder.at(static_cast<size_t>(page));
-        user::type(box, u"\"a");
-        EXPECT_EQ(box.text(), u"'a");
-        ASSERT_EQ(program->dialogs.shown.size(), 1U);
-        EXPECT_EQ(program->dialogs.shown[0].titel, u"Hinweis");
-        user::paste(box, u"\"b\"");
-        EXPECT_EQ(box.text(), u"'a\"b\"");
-        EXPECT_EQ(program->dialogs.shown.size(), 1U);
-    }
-}
-
-TEST_F(EntryScreen34, InsertionWindowIsOfferedAfterAClickIntoAText) {
-    GSAGFI& screen = openPage(Lena, 2);
-    EXPECT_FALSE(screen.Command7(0).Enabled);
-    user::click(screen.Text3);
-    EXPECT_EQ(std::pair(screen.Command7(0).Enabled, screen.Command7(0).BackColor),
-              std::pair(true, Gruen));
-    user::click(screen.Command7(0));
-    EXPECT_TRUE(program->programm.find(bildschirme::Einfuegungen)->shown());
-    EXPECT_EQ(std::pair(screen.Command7(0).BackColor, screen.Command7(1).BackColor),
-              std::pair(Weiss, Gruen));
-    user::click(screen.Text3);
-    EXPECT_FALSE(screen.Command7(0).Enabled);
-    program->clipboard.setText(u"oft");
-    user::click(screen.Command7(1));
-    EXPECT_FALSE(program->programm.find(bildschirme::Einfuegungen)->shown());
-    EXPECT_EQ(program->clipboard.text(), u"");
 }
 
 TEST_F(EntryScreen34, ShowsThePictureOrTheStandardOne) {
