@@ -54,10 +54,7 @@ double contrastOf(QAbstractItemView& view, const QModelIndex& index) {
     return contrastIn(view.viewport()->grab(place).toImage());
 }
 
-QString mnemonicIn(const QString& text) {
-    const QString key = QKeySequence::mnemonic(text).toString();
-    return key;
-}
+QString mnemonicIn(const QString& text) { return QKeySequence::mnemonic(text).toString(); }
 
 } // namespace
 
