@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <ranges>
 
 namespace zeugnis {
 
@@ -92,14 +93,15 @@ void WindowHost::cameToFront(const Screen& screen) {
 }
 
 ScreenWindow* WindowHost::frontWindow(const QWidget* butFor) const {
-    for (auto screen = m_order.rbegin(); screen != m_order.rend(); ++screen)
-        if (ScreenWindow* window = windowOf(*screen);
+    for (const Screen* screen : std::views::reverse(m_order))
+        if (ScreenWindow* window = windowOf(screen);
             window != nullptr && window != butFor && window->isVisible())
             return window;
     return nullptr;
 }
 
 bool WindowHost::allMayClose() const {
+    // Each question may bring another window to the front.
     const std::vector<const Screen*> order(m_order.rbegin(), m_order.rend());
     return std::all_of(order.begin(), order.end(), [this](const Screen* screen) {
         ScreenWindow* window = windowOf(screen);
