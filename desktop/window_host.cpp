@@ -11,7 +11,6 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
-#include <ranges>
 
 namespace zeugnis {
 
@@ -93,11 +92,11 @@ void WindowHost::cameToFront(const Screen& screen) {
 }
 
 ScreenWindow* WindowHost::frontWindow(const QWidget* butFor) const {
-    for (const Screen* screen : std::views::reverse(m_order))
-        if (ScreenWindow* window = windowOf(screen);
-            window != nullptr && window != butFor && window->isVisible())
-            return window;
-    return nullptr;
+    const auto front = std::find_if(m_order.rbegin(), m_order.rend(), [&](const Screen* screen) {
+        const ScreenWindow* window = windowOf(screen);
+        return window != nullptr && window != butFor && window->isVisible();
+    });
+    return front == m_order.rend() ? nullptr : windowOf(*front);
 }
 
 bool WindowHost::allMayClose() const {
