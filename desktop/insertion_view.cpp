@@ -15,7 +15,7 @@ namespace zeugnis {
 namespace {
 
 constexpr QSize Wished(430, 440);
-constexpr QSize Least(360, 270);
+constexpr int LeastListHeight = 110;
 
 // An entry of a placeholder list holds blanks that align its explanation in a type of one width.
 QString withDash(const QString& entry) {
@@ -39,6 +39,7 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
         if (screen.KopfzeileBeendet())
             list->item(0)->setFlags(Qt::NoItemFlags);
     });
+    list->setMinimumHeight(LeastListHeight);
     layout->addWidget(list, 1);
     layout->addWidget(bind().check(screen.Check1));
     auto* buttons = new QVBoxLayout;
@@ -61,7 +62,10 @@ void InsertionView::place() {
         return ScreenWindow::place();
     // Before a window is shown nobody knows how wide its frame is.
     constexpr QSize Frame(12, 38);
-    const QRect best = placeBeside(*served, Wished, Least, Frame, screen()->availableGeometry());
+    const int leastHeight = layout()->minimumHeightForWidth(Wished.width());
+    const QSize wished(Wished.width(), qMax(Wished.height(), leastHeight));
+    const QRect best = placeBeside(*served, wished, {wished.width(), leastHeight}, Frame,
+                                   screen()->availableGeometry());
     resize(best.size() - Frame);
     move(best.topLeft());
     m_cameUpAt = pos();

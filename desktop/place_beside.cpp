@@ -14,37 +14,46 @@ namespace {
 
 constexpr int Step = 10;
 
-// In the coordinates of the display. Choices are locked while phrases are inserted, so they may be
-// covered.
-std::vector<QRect> keptFree(const QWidget& served) {
-    std::vector<QRect> rects;
-    const auto add = [&](const QWidget& widget) {
+// In the coordinates of the display.
+struct KeptFree {
+    QRect rect;
+    int weight;
+};
+
+// Choices are locked while phrases are inserted, so they may be covered. A text box can be scrolled
+// or comes free when the window is moved; a button must never look as if it were gone.
+std::vector<KeptFree> keptFree(const QWidget& served) {
+    constexpr int Button = 100;
+    constexpr int Text = 1;
+    std::vector<KeptFree> all;
+    const auto add = [&](const QWidget& widget, int weight) {
         if (widget.isVisible() && widget.isEnabled())
-            rects.emplace_back(widget.mapToGlobal(QPoint(0, 0)), widget.size());
+            all.push_back({QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size()), weight});
     };
     for (const auto* button : served.findChildren<QPushButton*>())
-        add(*button);
-    for (const auto* text : served.findChildren<QPlainTextEdit*>())
-        add(*text);
+        add(*button, Button);
     for (const auto* list : served.findChildren<QComboBox*>())
-        add(*list);
-    return rects;
+        add(*list, Button);
+    for (const auto* text : served.findChildren<QPlainTextEdit*>())
+        add(*text, Text);
+    return all;
 }
 
-int coveredOf(const std::vector<QRect>& rects, const QRect& place) {
-    int area = 0;
-    for (const QRect& rect : rects) {
-        const QRect common = rect.intersected(place);
-        area += common.width() * common.height();
+int coveredOf(const std::vector<KeptFree>& all, const QRect& place) {
+    int covered = 0;
+    for (const KeptFree& one : all) {
+        const QRect common = one.rect.intersected(place);
+        if (!common.isEmpty())
+            covered += one.weight * common.width() * common.height();
     }
-    return area;
+    return covered;
 }
 
 } // namespace
 
 QRect placeBeside(const QWidget& served, QSize wished, QSize least, QSize frame,
                   const QRect& available) {
-    const std::vector<QRect> rects = keptFree(served);
+    const std::vector<KeptFree> rects = keptFree(served);
     QRect best;
     int leastCovered = std::numeric_limits<int>::max();
     for (int share = 4; share >= 0 && leastCovered > 0; --share) {

@@ -18,9 +18,7 @@ ScreenWindow::ScreenWindow(Screen& screen, WindowHost& host, QWidget* below)
 
 void ScreenWindow::refresh() {
     m_binder.refresh();
-    const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
-    if (onTop != m_screen->AlwaysOnTop)
-        setWindowFlag(Qt::WindowStaysOnTopHint, m_screen->AlwaysOnTop);
+    keepOnTop(m_screen->AlwaysOnTop);
     if (isVisible() != m_screen->shown()) {
         if (m_screen->shown() && !isPlaced())
             place();
@@ -34,6 +32,15 @@ void ScreenWindow::refresh() {
         raise();
         activateWindow();
     }
+}
+
+// Qt hides a window whose flags change.
+void ScreenWindow::keepOnTop(bool onTop) {
+    if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == onTop)
+        return;
+    const bool wasVisible = isVisible();
+    setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
+    setVisible(wasVisible);
 }
 
 // In the middle of the display, and never larger than it.

@@ -48,6 +48,8 @@ class ScreenWindow : public QWidget {
     [[nodiscard]] WindowHost& host() const { return m_host; }
 
   private:
+    void keepOnTop(bool onTop);
+
     Screen* m_screen;
     WindowHost& m_host;
     Binder m_binder;

@@ -94,14 +94,15 @@ void WindowHost::cameToFront(const Screen& screen) {
 }
 
 ScreenWindow* WindowHost::frontWindow(const QWidget* butFor) const {
-    for (auto screen = m_order.rbegin(); screen != m_order.rend(); ++screen)
-        if (ScreenWindow* window = windowOf(*screen);
-            window != nullptr && window != butFor && window->isVisible())
-            return window;
-    return nullptr;
+    const auto front = std::find_if(m_order.rbegin(), m_order.rend(), [&](const Screen* screen) {
+        const ScreenWindow* window = windowOf(screen);
+        return window != nullptr && window != butFor && window->isVisible();
+    });
+    return front == m_order.rend() ? nullptr : windowOf(*front);
 }
 
 bool WindowHost::allMayClose() const {
+    // Each question may bring another window to the front.
     const std::vector<const Screen*> order(m_order.rbegin(), m_order.rend());
     return std::all_of(order.begin(), order.end(), [this](const Screen* screen) {
         ScreenWindow* window = windowOf(screen);

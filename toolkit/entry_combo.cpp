@@ -16,9 +16,11 @@ bool isLetter(const QKeyEvent& event) {
 
 // The style draws the entries of an opened list with the list's own rules only if the delegate is
 // not the one that comes with the box.
-EntryCombo::EntryCombo(QWidget* parent) : QComboBox(parent) {
-    setItemDelegate(new QStyledItemDelegate(this));
-    view()->setAccessibleName(tr("Auswahl"));
+void EntryCombo::showPopup() {
+    if (qobject_cast<QStyledItemDelegate*>(itemDelegate()) == nullptr)
+        setItemDelegate(new QStyledItemDelegate(this));
+    view()->setAccessibleName(accessibleName());
+    QComboBox::showPopup();
 }
 
 void EntryCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }

@@ -10,7 +10,9 @@ class EntryCombo : public QComboBox {
     Q_OBJECT
 
   public:
-    explicit EntryCombo(QWidget* parent = nullptr);
+    using QComboBox::QComboBox;
+
+    void showPopup() override;
 
   protected:
     void wheelEvent(QWheelEvent* event) override;

@@ -1,6 +1,5 @@
 #include "tests/window_driver/looking.h"
 
-#include "desktop/text_editor.h"
 #include "desktop/tinted_button.h"
 #include "tests/window_driver/pointing.h"
 
@@ -54,10 +53,7 @@ double contrastOf(QAbstractItemView& view, const QModelIndex& index) {
     return contrastIn(view.viewport()->grab(place).toImage());
 }
 
-QString mnemonicIn(const QString& text) {
-    const QString key = QKeySequence::mnemonic(text).toString();
-    return key;
-}
+QString mnemonicIn(const QString& text) { return QKeySequence::mnemonic(text).toString(); }
 
 } // namespace
 
@@ -121,9 +117,9 @@ std::vector<std::string> doubleMnemonicsOf(const QWidget& window) {
     return doubles;
 }
 
-bool isButtonOrText(const QWidget& widget) {
+bool isButton(const QWidget& widget) {
     return qobject_cast<const TintedButton*>(&widget) != nullptr ||
-           qobject_cast<const TextEditor*>(&widget) != nullptr;
+           qobject_cast<const QComboBox*>(&widget) != nullptr;
 }
 
 } // namespace zeugnis::windowdriver

@@ -26,7 +26,7 @@ QImage displayNow();
 /// The keys with Alt that two visible widgets of the window answer to.
 std::vector<std::string> doubleMnemonicsOf(const QWidget& window);
 
-/// What a user has to be able to see while another window lies above.
-bool isButtonOrText(const QWidget& widget);
+/// What must not lie under another window: a button, or a list to open.
+bool isButton(const QWidget& widget);
 
 } // namespace zeugnis::windowdriver

@@ -176,13 +176,13 @@ void OwnWords::mnemonics(const Words& words) {
         m_out << "mnemonic twice " << one << '\n';
 }
 
-// Which buttons and boxes of a screen lie under the window of another.
+// Which buttons and lists of a screen lie under the window of another.
 void OwnWords::covered(const Words& words) {
     const QRect above = window(words[2].text).frameGeometry();
     std::string names;
     for (const Control* one : screen(words[1].text).controls()) {
         const QWidget* widget = window(words[1].text).widgetOf(*one);
-        if (widget == nullptr || !one->reachable() || !isButtonOrText(*widget))
+        if (widget == nullptr || !one->reachable() || !isButton(*widget))
             continue;
         const QRect place(widget->mapToGlobal(QPoint(0, 0)), widget->size());
         if (above.intersects(place.intersected(widget->window()->frameGeometry())))

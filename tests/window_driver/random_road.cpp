@@ -44,12 +44,13 @@ class RoadFinder {
     explicit RoadFinder(unsigned seed) : m_chance(seed) {}
 
     std::vector<std::string> beginning() {
-        std::vector<std::string> commands;
         constexpr int Answers = 30;
+        std::vector<std::string> commands;
+        commands.reserve(2 * Answers + 1);
         for (int i = 0; i < Answers; ++i)
             commands.push_back("answer " + oneOf(std::array<std::string, 2>{"yes", "no"}));
         for (int i = 0; i < Answers; ++i)
-            commands.push_back("input " + (below(6) == 0 ? "cancel" : text()));
+            commands.push_back("input " + (below(6) == 0 ? "cancel" : line()));
         commands.emplace_back("start");
         return commands;
     }
@@ -76,6 +77,12 @@ class RoadFinder {
 
   private:
     std::string text() { return oneOf(Texts); }
+
+    // The line of an input box takes no line end.
+    std::string line() {
+        const std::string chosen = text();
+        return chosen.find("\\n") == std::string::npos ? chosen : "\"zwei\"";
+    }
 
     static const Screen* lastShown(const std::vector<Screen*>& screens) {
         const auto found = std::find_if(screens.rbegin(), screens.rend(),

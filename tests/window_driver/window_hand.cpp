@@ -311,7 +311,10 @@ bool WindowHand::type(TextBox& box, const Text& characters) {
     return true;
 }
 
-bool WindowHand::key(TextBox& box, char16_t key) { return type(box, Text(1, key)); }
+// No keyboard has a line feed; as a character of a text it means Enter.
+bool WindowHand::key(TextBox& box, char16_t key) {
+    return type(box, key == u'\n' ? Text() : Text(1, key));
+}
 
 // On the closed list a letter opens it; a list of names takes no text of its own.
 bool WindowHand::type(ComboBox& combo, const Text& characters) {
