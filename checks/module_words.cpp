@@ -123,7 +123,7 @@ Bausteinwoerter BausteinwoerterLesen(Arbeitsverzeichnis& verzeichnis) {
     }
     for (const Text& anfang : einzeln)
         for (const Text& zelle : zellen)
-            if (Text beide = ersteWorte(anfang + u" " + zelle); !beide.empty())
+            if (Text beide = ersteWorte(Text(anfang).append(u" ").append(zelle)); !beide.empty())
                 alle.Satzanfaenge.push_back(std::move(beide));
     return alle;
 }
