@@ -123,11 +123,13 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
              .Gesehen = [&](const Befund& befund) { AlsGesehenMerken(programmordner, befund); },
              .Lernen =
                  [&](const Befund& befund) { WoerterLernen(programmordner, befund.Woerter); }});
-        return zeigen(std::move(fenster));
+        const Fenster offen = std::move(fenster);
+        return zeigen(offen);
     }
     const Text hinweis = IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : Text();
-    Fenster fenster = std::make_unique<PreviewWindow>(nachschauen(dateien, umwandlungen, hinweis));
-    const int ende = zeigen(std::move(fenster));
+    const Fenster fenster =
+        std::make_unique<PreviewWindow>(nachschauen(dateien, umwandlungen, hinweis));
+    const int ende = zeigen(fenster);
     texte.setAutoRemove(!IstAnzeigetext(aufruf) || !WirdBearbeitet(dateien));
     return ende;
 }

@@ -204,7 +204,7 @@ class ComposedSubsets : public testing::TestWithParam<const char16_t*> {
         for (const Group& group : groups) {
             Text sentence = captions.at(next++);
             if (!group.Label.empty())
-                sentence = captions.at(next++) + u" " + sentence;
+                sentence.insert(0, captions.at(next++) + u" ");
             if (!sentence.ends_with(u'.'))
                 sentence += u'.';
             sentences.push_back(expanded(sentence, sex));
