@@ -112,9 +112,10 @@ class ComposedRemarks : public test::TestInstallation {
         for (unsigned subset = 1; subset < 1U << m_page.Choices.size(); ++subset) {
             for (size_t i = 0; i < m_page.Choices.size(); ++i)
                 if ((subset >> i & 1U) != 0)
-                    script += "click " + screen + m_page.Choices[i] + "\n";
-            script += "get " + screen + m_page.Box + ".Text\nclick " + screen + m_page.Box +
-                      "\nclick " + screen + m_page.Reset + "\n";
+                    script.append("click ").append(screen).append(m_page.Choices[i]).append("\n");
+            script.append("get ").append(screen).append(m_page.Box).append(".Text\nclick ");
+            script.append(screen).append(m_page.Box).append("\nclick ");
+            script.append(screen).append(m_page.Reset).append("\n");
         }
         std::istringstream commands(script + "quit\n");
         std::ostringstream events;

@@ -242,10 +242,11 @@ void ComposedClass::compose() {
         const Ordnerwechsel in(verzeichnis, dateien::Daten);
         for (const auto& [datei, sperren] :
              {std::pair(dateien::Sperre12, Abschnitte12), std::pair(dateien::Sperre34, 3)})
-            JeSchuelerSchreiben(verzeichnis, datei, liste, [&](RecordWriter& writer, int) {
-                for (int i = 0; i < sperren; ++i)
-                    writer.add(0);
-            });
+            JeSchuelerSchreiben(verzeichnis, datei, liste,
+                                [&, anzahl = sperren](RecordWriter& writer, int) {
+                                    for (int i = 0; i < anzahl; ++i)
+                                        writer.add(0);
+                                });
     }
     Script script;
     script.line("start");
