@@ -54,7 +54,7 @@ constexpr auto Formen = std::to_array<Platzhalterform>({
     {u"<Sein/Ihr>", u"Sein", u"Ihr"},
     {u"<in>", u"", u"in"},
 });
-constexpr size_t Anfangsworte = 3;
+constexpr size_t Anfangsworte = 4;
 
 Text eingesetzt(Text text, TextView Platzhalterform::*form) {
     for (const Platzhalterform& eine : Formen)
@@ -80,7 +80,7 @@ std::vector<Text> texteDerDatei(const Arbeitsverzeichnis& verzeichnis, TextView 
     return texte;
 }
 
-// The first words, at most three and up to the end of the last of them; empty for a single one.
+// The first words, at most four and up to the end of the last of them; empty for a single one.
 Text ersteWorte(const Text& text) {
     const std::vector<Wort> woerter = WoerterVon(text);
     if (woerter.size() < 2 || woerter[0].Stelle != 0)
@@ -117,13 +117,13 @@ Bausteinwoerter BausteinwoerterLesen(Arbeitsverzeichnis& verzeichnis) {
                 merken(alle, eingesetzt(text, form), kannOeffnen);
             if (sindAnfaenge && WoerterVon(text).size() == 1)
                 einzeln.push_back(text);
-            else if (!text.empty() && IstKlein(text.front()))
+            else if (kannOeffnen && !text.empty() && IstKlein(text.front()))
                 zellen.push_back(eingesetzt(text, &Platzhalterform::Weiblich));
         }
     }
     for (const Text& anfang : einzeln)
         for (const Text& zelle : zellen)
-            if (Text beide = ersteWorte(anfang + u" " + zelle); !beide.empty())
+            if (Text beide = ersteWorte(Text(anfang).append(u" ").append(zelle)); !beide.empty())
                 alle.Satzanfaenge.push_back(std::move(beide));
     return alle;
 }

@@ -83,7 +83,8 @@ std::vector<Satz> SaetzeVon(TextView text) {
         anfang = ende;
     };
     for (size_t i = 0; i < text.size(); ++i) {
-        const bool punkt = text[i] == u'.' && !IstAbkuerzungspunkt(text, i);
+        const bool einzeln = (i == 0 || text[i - 1] != u'.') && text.substr(i + 1, 1) != u".";
+        const bool punkt = text[i] == u'.' && einzeln && !IstAbkuerzungspunkt(text, i);
         if (punkt || text[i] == u'!' || text[i] == u'?')
             schliesse(i + 1);
         else if (text[i] == u'\n')

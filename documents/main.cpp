@@ -2,6 +2,7 @@
 #include "documents/app/report_list_files.h"
 #include "documents/app/review_document.h"
 #include "documents/app/word_processor.h"
+#include "documents/content/report_marks.h"
 #include "documents/window/preview_window.h"
 #include "documents/window/progress.h"
 #include "documents/window/report_list_window.h"
@@ -99,10 +100,6 @@ Fenster listenfenster(const Arbeitsverzeichnis& programmordner, bool neu,
         });
 }
 
-std::vector<Befund> gepruefteKlasse(Arbeitsverzeichnis verzeichnis) {
-    return ZeugnissePruefen(ZeugnisdatenLesen(verzeichnis), PlatzhalterLesen(verzeichnis));
-}
-
 int zeigen(const Fenster& fenster) {
     fenster->show();
     QApplication::setQuitOnLastWindowClosed(true);
@@ -117,12 +114,22 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
     if (art == Fensterart::Zeugnisse) {
         std::unique_ptr<PreviewWindow> fenster =
             zeugnisfenster(programmordner, dateien, umwandlungen);
-        fenster->showChecks([&] { return gepruefteKlasse(programmordner); });
-        return zeigen(std::move(fenster));
+        fenster->showChecks(
+            {.Pruefen =
+                 [&] {
+                     Arbeitsverzeichnis verzeichnis = programmordner;
+                     return OffeneBefunde(verzeichnis);
+                 },
+             .Gesehen = [&](const Befund& befund) { AlsGesehenMerken(programmordner, befund); },
+             .Lernen =
+                 [&](const Befund& befund) { WoerterLernen(programmordner, befund.Woerter); }});
+        const Fenster offen = std::move(fenster);
+        return zeigen(offen);
     }
     const Text hinweis = IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : Text();
-    Fenster fenster = std::make_unique<PreviewWindow>(nachschauen(dateien, umwandlungen, hinweis));
-    const int ende = zeigen(std::move(fenster));
+    const Fenster fenster =
+        std::make_unique<PreviewWindow>(nachschauen(dateien, umwandlungen, hinweis));
+    const int ende = zeigen(fenster);
     texte.setAutoRemove(!IstAnzeigetext(aufruf) || !WirdBearbeitet(dateien));
     return ende;
 }

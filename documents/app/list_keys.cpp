@@ -20,7 +20,7 @@ constexpr char16_t Leerformular[] = u"Leerformular";
 
 template <const auto& Art>
 Text stamm(Arbeitsverzeichnis& verzeichnis) {
-    return Klassenstamm(FormulardatenLesen(verzeichnis), Art);
+    return Klassenstamm(StammdatenLesen(verzeichnis), Art);
 }
 
 template <Document (*Bilden)(const Stammdaten&)>
@@ -55,7 +55,7 @@ constexpr std::array<Schluessel, 5> AlleListen = {{
      .Stamm = stamm<Leerformular>,
      .Inhalt =
          [](Arbeitsverzeichnis& verzeichnis) {
-             Stammdaten stamm = FormulardatenLesen(verzeichnis);
+             Stammdaten stamm = StammdatenLesen(verzeichnis);
              stamm.Kopfbild = KopfbildLesen(verzeichnis, stamm.Aufbau.Kopfbild);
              return LeerformularBilden(stamm);
          }},

@@ -99,7 +99,7 @@ fs::path EinzelneZeugnisseSchreiben(Arbeitsverzeichnis& verzeichnis,
                                     const std::stop_token& abbruch) {
     const Zeugnisdaten daten = ZeugnisdatenMitBild(verzeichnis);
     const Text stamm = Klassenstamm(daten.Stamm, u"Zeugnisse");
-    const fs::path ordner = verzeichnis.current() / stamm;
+    fs::path ordner = verzeichnis.current() / stamm;
     fs::create_directories(ordner);
     const Arbeitsverzeichnis ziel(ordner);
     std::set<Text> vergeben;

@@ -19,6 +19,7 @@ const Text ZumEintragen(16, u'_');
 
 // Fills the pages evenly. Sections are counted from 0, in the order of the report.
 constexpr int Zeilen = 5;
+constexpr int ZeilenUnterBild = 4; // on the page that has a picture in its head
 constexpr std::array<int, 2> SeitenanfaengeUnten = {3, 7};
 constexpr std::array<int, 1> SeitenanfaengeOben = {3};
 
@@ -83,12 +84,14 @@ void bereicheAnfuegen(std::vector<Block>& seiten, const Stammdaten& stamm) {
             kopf.style = StyleId::Lernbereich;
         seiten.emplace_back(std::move(kopf));
         std::get<Paragraph>(seiten[anfang]).startsPage =
-            std::find(anfaenge.begin(), anfaenge.end(), nummer++) != anfaenge.end();
+            std::find(anfaenge.begin(), anfaenge.end(), nummer) != anfaenge.end();
+        const bool nebenBild = stamm.Kopfbild && nummer < anfaenge.front();
+        ++nummer;
         if (plan.Woher == Abschnittsplan::Quelle::Noten) {
             seiten.emplace_back(notentabelle(stamm.Aufbau));
             seiten.emplace_back(Notenschluessel(true));
         } else {
-            seiten.emplace_back(Schreiblinien(Zeilen));
+            seiten.emplace_back(Schreiblinien(nebenBild ? ZeilenUnterBild : Zeilen));
         }
     }
 }

@@ -17,11 +17,16 @@ Laufzeitfehler fremdeTexte(TextView wozu, TextView abhilfe) {
 
 Stammdaten StammdatenLesen(Arbeitsverzeichnis& verzeichnis) {
     Stammdaten daten;
+    daten.Liste = NamenLaden(verzeichnis);
+    if (daten.Liste.Klasse.empty())
+        throw Laufzeitfehler(Fehlerart::InvalidCall,
+                             u"In der Namensliste steht noch keine Klasse. Tragen Sie sie im "
+                             u"Zeugnisprogramm unter „Basisdaten“ ein. Es wurde nichts "
+                             u"geschrieben.");
     {
         const Ordnerwechsel in(verzeichnis, dateien::Daten);
         daten.Schule = BasisdatenLesen(verzeichnis, BasisdatenFelder);
     }
-    daten.Liste = NamenLaden(verzeichnis);
     daten.Jahrgang =
         numberFromText(daten.Liste.Klasse.substr(0, 1), u"Das erste Zeichen der Klasse");
     daten.Halbjahr = daten.Schule.Halbjahr;

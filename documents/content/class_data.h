@@ -19,7 +19,8 @@ struct Stammdaten {
     std::optional<Image> Kopfbild = {}; ///< the picture that the layout names; not read here
 };
 
-/// Fails as the readers of Basisdaten.txt, Namen.Txt and the layout do, and with type-mismatch for
+/// Fails with invalid-call if there is no class, as the readers of Namen.Txt, Basisdaten.txt and
+/// the layout do, and with type-mismatch for
 /// a class that does not begin with a digit or a half-year that is no number.
 Stammdaten StammdatenLesen(Arbeitsverzeichnis& verzeichnis);
 

@@ -133,6 +133,19 @@ class Leser {
     bool m_neueSeite = false;
 };
 
+bool istAufzaehlung(const std::vector<Block>& bloecke, size_t i) {
+    const auto* absatz = i < bloecke.size() ? std::get_if<Paragraph>(&bloecke[i]) : nullptr;
+    return absatz != nullptr && absatz->style == StyleId::Hilfeschritt;
+}
+
+// The last item of a list does not stand alone on a new page.
+void letztePunkteHalten(std::vector<Block>& bloecke) {
+    for (size_t i = 0; i + 1 < bloecke.size(); ++i)
+        if (istAufzaehlung(bloecke, i) && istAufzaehlung(bloecke, i + 1) &&
+            !istAufzaehlung(bloecke, i + 2))
+            std::get<Paragraph>(bloecke[i]).keepWithNext = true;
+}
+
 Text titelAus(const std::vector<Block>& bloecke) {
     for (const Block& block : bloecke)
         if (const auto* absatz = std::get_if<Paragraph>(&block);
@@ -155,6 +168,7 @@ Document HilfeAusMarkup(TextView markup, const Bildquelle& bilder) {
     }
     Section seiten;
     seiten.blocks = leser.fertig();
+    letztePunkteHalten(seiten.blocks);
     const Text titel = titelAus(seiten.blocks);
     seiten.footer = verbunden(u"Zeugnisprogramm", u" – ", titel);
     return {.title = titel, .sections = {std::move(seiten)}};

@@ -20,17 +20,8 @@ bool hatKinder(const Namensliste& liste) {
 
 } // namespace
 
-Stammdaten FormulardatenLesen(Arbeitsverzeichnis& verzeichnis) {
-    if (NamenLaden(verzeichnis).Klasse.empty())
-        throw Laufzeitfehler(Fehlerart::InvalidCall,
-                             u"In der Namensliste steht noch keine Klasse. Tragen Sie sie im "
-                             u"Zeugnisprogramm unter „Basisdaten“ ein. Es wurde nichts "
-                             u"geschrieben.");
-    return StammdatenLesen(verzeichnis);
-}
-
 Stammdaten ListendatenLesen(Arbeitsverzeichnis& verzeichnis) {
-    Stammdaten stamm = FormulardatenLesen(verzeichnis);
+    Stammdaten stamm = StammdatenLesen(verzeichnis);
     if (!hatKinder(stamm.Liste))
         throw Laufzeitfehler(Fehlerart::InvalidCall,
                              u"In der Namensliste steht noch kein Kind. Es wurde nichts "

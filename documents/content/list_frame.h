@@ -7,11 +7,8 @@
 namespace zeugnis::dokumente {
 
 /// The master data for a list. Fails as StammdatenLesen does, and with invalid-call if there is no
-/// class, or no child with a name.
+/// child with a name.
 Stammdaten ListendatenLesen(Arbeitsverzeichnis& verzeichnis);
-
-/// As above, but nobody has to be in the class.
-Stammdaten FormulardatenLesen(Arbeitsverzeichnis& verzeichnis);
 
 /// The name of a list with its class: "Klassenliste der Klasse 3a".
 Text Klassentitel(TextView art, const Text& klasse);

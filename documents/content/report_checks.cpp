@@ -1,6 +1,7 @@
 #include "documents/content/report_checks.h"
 
 #include "documents/content/report_frame.h"
+#include "documents/content/report_text_checks.h"
 #include "documents/content/wording.h"
 #include "files/insertion_files.h"
 #include "platform/record_reader.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <set>
 
 namespace zeugnis::dokumente {
@@ -28,7 +30,8 @@ using Klassentexte = std::vector<std::vector<Abschnitt>>;
 struct Pruefling {
     const Zeugnisdaten& Daten;
     const Klassentexte& Texte;
-    const std::vector<Text>& Platzhalter;
+    const Pruefmittel& Mittel;
+    const std::set<Text>& Bekannte;
     int Platz;
 
     [[nodiscard]] const Schueler& kind(int platz) const { return Daten.Stamm.Liste.Kinder[platz]; }
@@ -116,7 +119,7 @@ void jeAbschnitt(const Pruefling& pruefling, Befunde& befunde) {
 
 Text platzhalterImText(const Pruefling& pruefling, const Text& text) {
     std::vector<Text> gefunden;
-    for (const Text& mark : pruefling.Platzhalter)
+    for (const Text& mark : pruefling.Mittel.Platzhalter)
         if (text.find(mark) != Text::npos)
             gefunden.push_back(mark);
     if (gefunden.empty())
@@ -196,34 +199,80 @@ void versaeumnisse(const Pruefling& pruefling, Befunde& befunde) {
         return;
     const Eintrag& eintrag = pruefling.Daten.Liste->Eintraege[pruefling.Platz];
     if (eintrag.Werte[SpalteTage] == LeereZelle)
-        befunde.push_back(
-            {pruefling.Platz, pruefling.name(), {}, u"Noch keine Versäumnisse eingetragen."});
+        befunde.push_back({pruefling.Platz,
+                           pruefling.name(),
+                           {},
+                           u"Noch keine Versäumnisse eingetragen.",
+                           Befundart::Liste});
     else if (eintrag.Werte[SpalteUnentschuldigt] == LeereZelle)
         befunde.push_back({pruefling.Platz,
                            pruefling.name(),
                            {},
                            u"Versäumnisse: Es ist nicht eingetragen, wie viele Tage "
-                           u"unentschuldigt sind."});
+                           u"unentschuldigt sind.",
+                           Befundart::Liste});
 }
 
 void noten(const Pruefling& pruefling, Befunde& befunde) {
     if (!pruefling.Daten.Liste || !HatNoten(pruefling.Daten.Stamm.Jahrgang))
         return;
     if (!pruefling.Daten.Liste->Eintraege[pruefling.Platz].hatNoten()) {
-        befunde.push_back(
-            {pruefling.Platz, pruefling.name(), {}, u"Noch keine Noten eingetragen."});
+        befunde.push_back({pruefling.Platz,
+                           pruefling.name(),
+                           {},
+                           u"Noch keine Noten eingetragen.",
+                           Befundart::Liste});
         return;
     }
     if (const std::vector<Text> faecher = fehlendeNoten(pruefling); !faecher.empty())
         befunde.push_back({pruefling.Platz,
                            pruefling.name(),
                            {},
-                           u"Es fehlt die Note in " + enumerated(faecher) + u"."});
+                           u"Es fehlt die Note in " + enumerated(faecher) + u".",
+                           Befundart::Liste});
+}
+
+void saetzeUndWoerter(const Pruefling& pruefling, Befunde& befunde) {
+    const Schueler& kind = pruefling.kind(pruefling.Platz);
+    const Textumstand umstand{.Vorname = trimmed(kind.Vorname),
+                              .Geschlecht = kind.Geschlecht,
+                              .Bausteine = pruefling.Mittel.Bausteine,
+                              .Woerterbuch = pruefling.Mittel.Woerterbuch,
+                              .Bekannt = &pruefling.Bekannte};
+    for (const Abschnitt& abschnitt : pruefling.abschnitte(pruefling.Platz))
+        for (Textbefund& befund : TextbefundeVon(abschnitt.Gedruckt, umstand))
+            befunde.push_back({.Platz = pruefling.Platz,
+                               .Kind = pruefling.name(),
+                               .Abschnitt = abschnitt.Ueberschrift,
+                               .Satz = Text(abschnitt.Ueberschrift) + u": " + befund.Satz,
+                               .Woerter = std::move(befund.Woerter)});
+}
+
+Text einschraenkung(const Pruefling& /*pruefling*/, const Text& text) {
+    return IstUnbegruendetEingeschraenkt(text)
+               ? u"Die Gesamtbewertung ist eingeschränkt, aber kein Satz sagt, warum."
+               : u"";
+}
+
+void versetzung(const Pruefling& pruefling, Befunde& befunde) {
+    const Abschnitt& bemerkungen = pruefling.abschnitte(pruefling.Platz).back();
+    if (IstZahl(pruefling.Daten.Stamm.Halbjahr, 2) && !bemerkungen.Gedruckt.empty() &&
+        !NenntVersetzung(bemerkungen.Gedruckt))
+        befunde.push_back(
+            {pruefling.Platz, pruefling.name(), bemerkungen.Ueberschrift,
+             Text(bemerkungen.Ueberschrift) + u": Es steht kein Satz zur Versetzung da."});
+}
+
+void angaben(const Pruefling& pruefling, Befunde& befunde) {
+    if (Text satz = FehlendeAngaben(pruefling.kind(pruefling.Platz)); !satz.empty())
+        befunde.push_back(
+            {pruefling.Platz, pruefling.name(), {}, std::move(satz), Befundart::Angaben});
 }
 
 using Pruefung = void (*)(const Pruefling& pruefling, Befunde& befunde);
 
-constexpr std::array<Pruefung, 8> Pruefungen = {
+constexpr std::array<Pruefung, 12> Pruefungen = {
+    angaben,
     versaeumnisse,
     noten,
     ohneText,
@@ -231,8 +280,35 @@ constexpr std::array<Pruefung, 8> Pruefungen = {
     jeAbschnitt<luecke>,
     jeAbschnitt<fremderName>,
     jeAbschnitt<doppelteZeichen>,
+    saetzeUndWoerter,
+    jeAbschnitt<einschraenkung>,
+    versetzung,
     gleicherText,
 };
+
+// FNV-1a over what is said about whom, and over the text that it is said about.
+Text vermerk(const Befund& befund, const Text& gedruckt) {
+    std::uint64_t summe = 14695981039346656037U;
+    for (const Text& teil : {befund.Kind, befund.Satz, gedruckt})
+        for (const char16_t zeichen : teil + u"|")
+            summe = (summe ^ zeichen) * 1099511628211U;
+    constexpr TextView Ziffern = u"0123456789abcdef";
+    Text hex;
+    for (int stelle = 60; stelle >= 0; stelle -= 4)
+        hex += Ziffern[summe >> static_cast<unsigned>(stelle) & 0xFU];
+    return hex;
+}
+
+void vermerken(Befunde& befunde, const Klassentexte& texte) {
+    for (Befund& befund : befunde) {
+        Text gedruckt;
+        if (befund.Platz != AlleKinder)
+            for (const Abschnitt& abschnitt : texte[static_cast<size_t>(befund.Platz)])
+                if (abschnitt.Ueberschrift == befund.Abschnitt)
+                    gedruckt = abschnitt.Gedruckt;
+        befund.Vermerk = vermerk(befund, gedruckt);
+    }
+}
 
 void listePruefen(const Zeugnisdaten& daten, Befunde& befunde) {
     const Text name(Listenname(daten.Stamm.Jahrgang));
@@ -242,12 +318,14 @@ void listePruefen(const Zeugnisdaten& daten, Befunde& befunde) {
         befunde.push_back({.Satz = u"Die " + name +
                                    u" dieser Klasse ist noch nicht angelegt. In "
                                    u"allen Zeugnissen stehen bei " +
-                                   Text(was) + u" Striche."});
+                                   Text(was) + u" Striche.",
+                           .Art = Befundart::Liste});
     else if (!daten.Liste->OhneKind.empty())
         befunde.push_back({.Satz = u"In der " + name +
                                    u" stehen Einträge, zu denen es kein Kind "
                                    u"gibt: " +
-                                   enumerated(daten.Liste->OhneKind) + u"."});
+                                   enumerated(daten.Liste->OhneKind) + u".",
+                           .Art = Befundart::Liste});
 }
 
 Klassentexte texteDerKlasse(const Zeugnisdaten& daten) {
@@ -260,15 +338,23 @@ Klassentexte texteDerKlasse(const Zeugnisdaten& daten) {
 
 } // namespace
 
-std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten,
-                                     const std::vector<Text>& platzhalter) {
+std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten, const Pruefmittel& mittel) {
     Befunde befunde;
+    if (Text satz = FehlendeSchulangaben(daten.Stamm.Schule); !satz.empty())
+        befunde.push_back({.Satz = std::move(satz), .Art = Befundart::Angaben});
     listePruefen(daten, befunde);
     const Klassentexte texte = texteDerKlasse(daten);
+    std::set<Text> bekannte = NamenDerKlasse(daten.Stamm);
+    bekannte.insert(mittel.Gelernte.begin(), mittel.Gelernte.end());
     for (int platz = 0; platz < daten.Stamm.Liste.Schuelerzahl; ++platz)
         for (const Pruefung pruefung : Pruefungen)
-            pruefung({.Daten = daten, .Texte = texte, .Platzhalter = platzhalter, .Platz = platz},
+            pruefung({.Daten = daten,
+                      .Texte = texte,
+                      .Mittel = mittel,
+                      .Bekannte = bekannte,
+                      .Platz = platz},
                      befunde);
+    vermerken(befunde, texte);
     return befunde;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "checks/text_checks.h"
 #include "documents/content/school_report.h"
 
 /// What a careful colleague would notice in the reports of a class before they are printed.
@@ -8,17 +9,29 @@ namespace zeugnis::dokumente {
 /// `Platz` of what concerns no single child.
 inline constexpr int AlleKinder = -1;
 
+/// What a finding is about, to choose from.
+enum class Befundart { Text, Liste, Angaben };
+
 struct Befund {
     int Platz = AlleKinder;
     Text Kind = {};          ///< its name as it stands on every page of its report
     TextView Abschnitt = {}; ///< the heading below which it stands; empty for none
     Text Satz;
+    Befundart Art = Befundart::Text;
+    std::vector<Text> Woerter = {}; ///< that can be learnt
+    Text Vermerk = {};              ///< another one as soon as the text is another
 };
 
-/// Child by child in the order of the class list; what concerns all comes first. `platzhalter` are
-/// the marks that must not be left in a text, for example "<Vorname>".
-std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten,
-                                     const std::vector<Text>& platzhalter);
+/// What texts are held against.
+struct Pruefmittel {
+    std::vector<Text> Platzhalter; ///< marks that must not be left in a text, "<Vorname>"
+    const Bausteinwoerter* Bausteine = nullptr;
+    const Rechtschreibung* Woerterbuch = nullptr;
+    std::set<Text> Gelernte = {};
+};
+
+/// Child by child in the order of the class list; what concerns all comes first.
+std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten, const Pruefmittel& mittel);
 
 /// The marks of Platzhalter.txt; none if there is no such file. Fails as the record reader does.
 std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis);

@@ -144,7 +144,7 @@ namespace {
 
 // PDF/A knows no transparency.
 QImage opaque(const std::string& png) {
-    const QImage picture = QImage::fromData(QByteArray::fromStdString(png));
+    QImage picture = QImage::fromData(QByteArray::fromStdString(png));
     if (!picture.hasAlphaChannel())
         return picture;
     QImage onWhite(picture.size(), QImage::Format_RGB32);

@@ -161,6 +161,7 @@ std::vector<LaidStrip> layParagraph(const Paragraph& paragraph, Twips width) {
 std::vector<size_t> lineStarts(const Paragraph& paragraph, Twips width, double more) {
     const std::shared_ptr<QTextLayout> layout = brokenIntoLines(paragraph, width, more);
     std::vector<size_t> starts;
+    starts.reserve(static_cast<size_t>(layout->lineCount()));
     for (int line = 0; line < layout->lineCount(); ++line)
         starts.push_back(static_cast<size_t>(layout->lineAt(line).textStart()));
     return starts;

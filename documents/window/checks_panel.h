@@ -5,31 +5,47 @@
 #include <QWidget>
 #include <functional>
 
+class QComboBox;
 class QLabel;
 class QListWidget;
+class QListWidgetItem;
+class QPushButton;
 
 namespace zeugnis::dokumente {
 
-/// What is to be looked at before the reports are printed. It changes nothing.
+/// What is to be looked at before the reports are printed, child by child.
 class ChecksPanel : public QWidget {
     Q_OBJECT
 
   public:
-    /// May fail; then the panel says why.
-    using Pruefen = std::function<std::vector<Befund>()>;
+    /// Each may fail; then the panel says why. The last two may be missing.
+    struct Quelle {
+        std::function<std::vector<Befund>()> Pruefen;
+        std::function<void(const Befund&)> Gesehen; ///< it is not to be shown again
+        std::function<void(const Befund&)> Lernen;  ///< its words are right
+    };
 
-    explicit ChecksPanel(const Pruefen& pruefen, QWidget* parent = nullptr);
+    explicit ChecksPanel(Quelle quelle, QWidget* parent = nullptr);
 
   signals:
     void chosen(const Befund& befund);
 
   private:
-    void fill(const Pruefen& pruefen);
-    void choose(int row);
+    QWidget* buttons();
+    void check();
+    void show();
+    void choose(const QListWidgetItem* item);
+    void finish(const std::function<void(const Befund&)>& how);
+    void followSelection();
+    [[nodiscard]] const Befund* findingOf(const QListWidgetItem* item) const;
 
+    Quelle m_quelle;
     std::vector<Befund> m_befunde;
     QLabel* m_summary;
+    QComboBox* m_kind;
     QListWidget* m_list;
+    QPushButton* m_seen = nullptr;
+    QPushButton* m_learn = nullptr;
 };
 
 } // namespace zeugnis::dokumente

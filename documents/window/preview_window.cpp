@@ -240,8 +240,8 @@ void PreviewWindow::goTo(int row) {
         m_view->showPlace(m_lines[static_cast<size_t>(row)].place);
 }
 
-void PreviewWindow::showChecks(const ChecksPanel::Pruefen& pruefen) {
-    auto* panel = new ChecksPanel(pruefen);
+void PreviewWindow::showChecks(const ChecksPanel::Quelle& quelle) {
+    auto* panel = new ChecksPanel(quelle);
     connect(panel, &ChecksPanel::chosen, this, &PreviewWindow::goToFinding);
     m_middle->addWidget(panel);
     resize(WidthWithChecks, WindowHeight);

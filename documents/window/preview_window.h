@@ -26,7 +26,7 @@ class PreviewWindow : public QWidget {
     explicit PreviewWindow(Nachschauen nachschauen, QWidget* parent = nullptr);
 
     /// Shows beside the pages what to look at before they are printed.
-    void showChecks(const ChecksPanel::Pruefen& pruefen);
+    void showChecks(const ChecksPanel::Quelle& quelle);
 
   protected:
     void changeEvent(QEvent* event) override;

@@ -202,7 +202,7 @@ class ComposedSubsets : public testing::TestWithParam<const char16_t*> {
         for (const Group& group : groups) {
             Text sentence = captions.at(next++);
             if (!group.Label.empty())
-                sentence = captions.at(next++) + u" " + sentence;
+                sentence.insert(0, captions.at(next++) + u" ");
             if (!sentence.ends_with(u'.'))
                 sentence += u'.';
             sentences.push_back(expanded(sentence, sex));
@@ -290,6 +290,49 @@ TEST_P(ComposedSubsets, EveryBrokenOneIsFoundAndNoOtherRaisesAnAlarm) {
     std::cout << total << " texts, " << broken << " broken, " << missed << " of them missed, "
               << alarms << " false alarms\n";
     EXPECT_GT(broken, 0);
+}
+
+// Work and social behaviour: whatever is chosen is composed to whole sentences.
+TEST_P(ComposedSubsets, NoTextOnBehaviourRaisesAnAlarm) {
+    const std::set<Text> names = {u"Mats", u"Lena"};
+    int total = 0;
+    for (const Sex& sex : Sexes)
+        for (int line = 1; line <= 9; ++line)
+            for (const auto& [button, box, categories] :
+                 {std::tuple("Command1", 0, 7), {"Command2", 1, 6}}) {
+                DriverRun run(installation.path());
+                run.say("start\nclick GsStart.Command1(0)");
+                run.say("select GsArbeitsverhalten.Combo1 " + std::to_string(sex.Form));
+                run.say(std::string("click GsArbeitsverhalten.") + button);
+                for (unsigned subset = 1; subset < 1U << static_cast<unsigned>(categories);
+                     ++subset) {
+                    for (int i = 0; i < categories; ++i) {
+                        const bool isRating = i == categories - 1;
+                        const bool isChosen = (subset >> static_cast<unsigned>(i) & 1U) != 0;
+                        if (!isChosen || (isRating && line > 5))
+                            continue;
+                        run.say("click GsArbeitsverhalten.Command3(" + std::to_string(i) + ")");
+                        run.say("click GsArbeitsverhalten.Option1(" + std::to_string(line) + ")");
+                    }
+                    const std::string text =
+                        "GsArbeitsverhalten.Text1(" + std::to_string(box) + ")";
+                    run.get(text + ".Text");
+                    run.say("click " + text);
+                    run.say("click GsArbeitsverhalten.Command6");
+                }
+                for (const Text& text : run.results()) {
+                    const auto found = TextPruefen(text, {.Vorname = sex.Name,
+                                                          .Geschlecht = sex.Letter,
+                                                          .Bausteine = &words,
+                                                          .Woerterbuch = dictionary.get(),
+                                                          .Bekannt = &names});
+                    ++total;
+                    if (!found.empty())
+                        ADD_FAILURE() << "alarm: " << utf8FromText(text) << " at "
+                                      << utf8FromText(found[0].Stelle);
+                }
+            }
+    std::cout << total << " texts\n";
 }
 
 INSTANTIATE_TEST_SUITE_P(Years, ComposedSubsets, testing::Values(u"1a", u"2b"),

@@ -46,7 +46,6 @@ struct Page {
 
 const std::vector<Page>& pages12() {
     static const std::vector<Page> Pages = {
-        {0, {{"Option1", 16}}},
         {1, {{"Option2", 4}, {"Option3", 4}, {"Option44", 4}}},
         {2,
          {{"Option4", 7},
@@ -138,6 +137,8 @@ void years12(Script& script, bool first, bool yearOne) {
     script.click("GsStart.Command1(1)");
     for (int place = 0; place < ComposedClass::Children; ++place) {
         script.pick("Kompetenzen.Combo1", place);
+        script.click("Kompetenzen.Command1(0)");
+        script.click("Kompetenzen.Option1", 1 + place % 15);
         for (const Page& page : pages12()) {
             script.click("Kompetenzen.Command1", page.Number);
             int number = page.Number;
@@ -189,7 +190,7 @@ std::vector<Zeugniskind> emptyChildren() {
         const Name& name = Names.at(static_cast<size_t>(place) % Names.size());
         Schueler kind = schueler(name.Vorname, name.Nachname, u"14.03.2018", u"Süderfehn");
         if (static_cast<size_t>(place) >= Names.size()) // no two with the same name
-            kind.Nachname += u"-" + Text(1, static_cast<char16_t>(u'A' + place));
+            kind.Nachname += u"-" + Text(1, static_cast<char16_t>(u'A' + place % 26));
         kind.Geschlecht = name.Junge ? u"m" : u"w";
         kind.AG[0] = u"Chor";
         if (place % 3 == 0)
@@ -241,10 +242,11 @@ void ComposedClass::compose() {
         const Ordnerwechsel in(verzeichnis, dateien::Daten);
         for (const auto& [datei, sperren] :
              {std::pair(dateien::Sperre12, Abschnitte12), std::pair(dateien::Sperre34, 3)})
-            JeSchuelerSchreiben(verzeichnis, datei, liste, [&](RecordWriter& writer, int) {
-                for (int i = 0; i < sperren; ++i)
-                    writer.add(0);
-            });
+            JeSchuelerSchreiben(verzeichnis, datei, liste,
+                                [&, anzahl = sperren](RecordWriter& writer, int) {
+                                    for (int i = 0; i < anzahl; ++i)
+                                        writer.add(0);
+                                });
     }
     Script script;
     script.line("start");

@@ -94,32 +94,75 @@ TEST_F(PreviewWindowTest, AFindingLeadsToThePageWithItsSection) {
     const auto finding = [](int place, const Text& name, TextView section) {
         return Befund{.Platz = place, .Kind = name, .Abschnitt = section, .Satz = u"Satz."};
     };
-    window->showChecks([&] {
-        return std::vector{finding(AlleKinder, u"", u""), finding(2, u"Kim Çelik", u"Bemerkungen"),
-                           finding(0, u"Kim Ahlers", u"Arbeitsverhalten"),
-                           // As in a document without bookmarks: found by its name.
-                           finding(9, u"Kim Çelik", u"")};
-    });
+    std::vector<Befund> findings = {finding(AlleKinder, u"", u""),
+                                    finding(2, u"Kim Çelik", u"Bemerkungen"),
+                                    finding(0, u"Kim Ahlers", u"Arbeitsverhalten"),
+                                    // As in a document without bookmarks: found by its name.
+                                    finding(9, u"Kim Çelik", u"")};
+    window->showChecks({.Pruefen = [&] { return findings; }, .Gesehen = {}, .Lernen = {}});
     auto* list = window->findChild<ChecksPanel*>()->findChild<QListWidget*>();
-    ASSERT_EQ(list->count(), 4);
-    EXPECT_EQ(list->item(1)->text(), QStringLiteral("Kim Çelik\nSatz."));
+    ASSERT_EQ(list->count(), 7);
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral("Kim Çelik"));
+    EXPECT_EQ(list->item(2)->text(), QStringLiteral("Satz."));
     list->setFocus();
-    const int pages[] = {0, 8, 0, 6};
-    for (int row = 0; row < list->count(); ++row) {
+    for (const auto& [row, page] : {std::pair(0, 0), {2, 8}, {4, 0}, {6, 6}}) {
         list->setCurrentRow(row);
         QTest::keyClick(list, Qt::Key_Return);
-        EXPECT_EQ(view->currentPage(), pages[row]) << row;
+        EXPECT_EQ(view->currentPage(), page) << row;
     }
 }
 
+TEST(ChecksPanelTest, ShowsAKindCountsChildrenAndLetsGoWhatWasSeenOrLearnt) {
+    std::vector<Befund> findings = {
+        {.Platz = 0, .Kind = u"Kim", .Satz = u"eins", .Woerter = {u"Wort"}},
+        {.Platz = 0, .Kind = u"Kim", .Satz = u"zwei"},
+        {.Platz = 1, .Kind = u"Zoé", .Satz = u"drei", .Art = Befundart::Liste}};
+    std::vector<Text> seen;
+    std::vector<Text> learnt;
+    ChecksPanel panel({.Pruefen = [&] { return findings; },
+                       .Gesehen =
+                           [&](const Befund& one) {
+                               seen.push_back(one.Satz);
+                               findings.erase(findings.begin() + 1);
+                           },
+                       .Lernen =
+                           [&](const Befund& one) {
+                               learnt = one.Woerter;
+                               findings.erase(findings.begin());
+                           }});
+    panel.QWidget::show();
+    auto* list = panel.findChild<QListWidget*>();
+    auto* summary = panel.findChild<QLabel*>(QStringLiteral("leise"));
+    const auto buttons = panel.findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 2);
+    EXPECT_TRUE(summary->text().startsWith(QStringLiteral("3 Hinweise bei 2 Kindern.")));
+    EXPECT_FALSE(buttons[0]->isEnabled());
+    list->setCurrentRow(2);
+    EXPECT_FALSE(buttons[1]->isEnabled());
+    QTest::mouseClick(buttons[0], Qt::LeftButton);
+    list->setCurrentRow(1);
+    QTest::mouseClick(buttons[1], Qt::LeftButton);
+    EXPECT_EQ(seen, std::vector<Text>{u"zwei"});
+    EXPECT_EQ(learnt, std::vector<Text>{u"Wort"});
+    EXPECT_TRUE(summary->text().startsWith(QStringLiteral("Ein Hinweis bei einem Kind.")));
+    auto* kind = panel.findChild<QComboBox*>();
+    QTest::keyClick(kind, Qt::Key_Down);
+    EXPECT_EQ(summary->text(), QStringLiteral("Hier ist nichts aufgefallen."));
+    QTest::keyClick(kind, Qt::Key_Down);
+    EXPECT_EQ(list->count(), 2);
+}
+
 TEST_F(PreviewWindowTest, SaysThatNothingWasNoticedOrNothingCouldBeChecked) {
-    const ChecksPanel fine([] { return std::vector<Befund>(); });
+    const ChecksPanel fine(
+        {.Pruefen = [] { return std::vector<Befund>(); }, .Gesehen = {}, .Lernen = {}});
     EXPECT_TRUE(fine.findChild<QLabel*>(QStringLiteral("leise"))
                     ->text()
                     .startsWith(QStringLiteral("Es ist nichts aufgefallen.")));
-    const ChecksPanel broken([]() -> std::vector<Befund> {
-        throw Laufzeitfehler(Fehlerart::EndOfFile, u"Es fehlt etwas.");
-    });
+    const ChecksPanel broken({.Pruefen = []() -> std::vector<Befund> {
+                                  throw Laufzeitfehler(Fehlerart::EndOfFile, u"Es fehlt etwas.");
+                              },
+                              .Gesehen = {},
+                              .Lernen = {}});
     EXPECT_TRUE(broken.findChild<QLabel*>(QStringLiteral("leise"))
                     ->text()
                     .contains(QStringLiteral("nicht geprüft werden. Es fehlt etwas.")));

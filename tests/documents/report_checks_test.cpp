@@ -1,4 +1,6 @@
+#include "checks/hunspell_spelling.h"
 #include "documents/content/report_checks.h"
+#include "documents/content/report_marks.h"
 #include "tests/documents/report_installation.h"
 
 #include <gtest/gtest.h>
@@ -23,6 +25,9 @@ Zeugnisdaten tadellos() {
     for (int platz = 0; platz < 4; ++platz) {
         daten.Stamm.Liste.Kinder[platz].Vorname = vonUtf8(namen[platz]);
         daten.Stamm.Liste.Kinder[platz].Nachname = u"Nr" + textFromNumber(platz + 1);
+        daten.Stamm.Liste.Kinder[platz].Geschlecht = platz % 2 == 0 ? u"w" : u"m";
+        daten.Stamm.Liste.Kinder[platz].Geburtsdatum = u"01.02.2018";
+        daten.Stamm.Liste.Kinder[platz].Geburtsort = u"Köln";
         const Text text = vonUtf8(namen[platz]) + u" liest. Gut.";
         daten.AVSV[0][platz] = text;
         daten.AVSV[1][platz] = text;
@@ -32,12 +37,15 @@ Zeugnisdaten tadellos() {
         daten.Liste->Eintraege[platz].Werte.back() = LeereZelle;
     }
     daten.Stamm.Liste.Schuelerzahl = 4;
+    daten.Stamm.Halbjahr = u"1";
+    daten.Stamm.Schule = test::ReportInstallation().Schule;
     return daten;
 }
 
 std::string befunde(const Zeugnisdaten& daten) {
     std::string zeilen;
-    for (const Befund& befund : ZeugnissePruefen(daten, {u"<Vorname>", u"<sie/er>"}))
+    for (const Befund& befund :
+         ZeugnissePruefen(daten, {.Platzhalter = {u"<Vorname>", u"<sie/er>"}}))
         zeilen += std::to_string(befund.Platz) + " " + utf8FromText(befund.Satz) + "\n";
     return zeilen;
 }
@@ -55,8 +63,8 @@ TEST(ReportChecks, FindsWhatIsWrongInATextAndNothingElse) {
                                              "<Vorname> und <sie/er>."},
         {"Ben ?????", "Sozialverhalten: Hier fehlt noch etwas, im Text steht „?????“."},
         {"Mit Anna, Anna.", "Sozialverhalten: Im Text steht der Name eines anderen Kindes: Anna."},
-        {"(Anna Sophie)", "Sozialverhalten: Im Text steht der Name eines anderen Kindes: "
-                          "Anna Sophie und Anna."},
+        {"(Anna Sophie.)", "Sozialverhalten: Im Text steht der Name eines anderen Kindes: "
+                           "Anna Sophie und Anna."},
         {"Gut..", "Sozialverhalten: doppelter Punkt."},
         {"Sehr  gut.", "Sozialverhalten: doppeltes Leerzeichen."},
         {"Gut.. Sehr  gut.", "Sozialverhalten: doppelter Punkt und doppeltes Leerzeichen."},
@@ -66,6 +74,55 @@ TEST(ReportChecks, FindsWhatIsWrongInATextAndNothingElse) {
         daten.AVSV[1][1] = vonUtf8(fall.Text);
         EXPECT_EQ(befunde(daten), fall.Befund.empty() ? "" : "1 " + fall.Befund + "\n");
     }
+}
+
+TEST(ReportChecks, TellsOfBrokenSentencesWrongPronounsAndWhatIsMissing) {
+    Zeugnisdaten daten = tadellos();
+    daten.Stamm.Halbjahr = u"2";
+    daten.Stamm.Schule.Konferenzdatum = u" ";
+    daten.Stamm.Liste.Kinder[1].Geburtsort.clear();
+    daten.Stamm.Liste.Kinder[1].Geschlecht.clear();
+    for (const int platz : {0, 1, 2, 3})
+        daten.Bereiche[2][platz] += u" Das Kind rückt auf.";
+    daten.AVSV[0][0] = u"Anna Sophie liest. gene Texte schreibt er";
+    daten.AVSV[1][2] = u"Das Sozialverhalten entspricht den Erwartungen mit Einschränkungen.";
+    daten.Bereiche[2][3] = u"Ben liest.";
+    EXPECT_EQ(befunde(daten),
+              "-1 In den Angaben zur Schule fehlt: Datum der Konferenz.\n"
+              "0 Arbeitsverhalten: Ein Satz beginnt klein: „gene Texte schreibt er“.\n"
+              "0 Arbeitsverhalten: Der Punkt oder der Rest des Satzes fehlt hinter „er“.\n"
+              "0 Arbeitsverhalten: Dieses Fürwort passt nicht zum Kind: „er“.\n"
+              "1 In den Stammdaten fehlt: Geburtsort und Geschlecht.\n"
+              "2 Sozialverhalten: Die Gesamtbewertung ist eingeschränkt, aber kein Satz sagt, "
+              "warum.\n"
+              "3 Bemerkungen: Es steht kein Satz zur Versetzung da.\n");
+}
+
+TEST(ReportChecks, WhatWasSeenStaysSeenUntilTheTextIsAnotherAndWordsAreLearnt) {
+    test::ReportInstallation installation;
+    Schueler kind = test::schueler(u"Mats", u"Ahlers", u"01.02.2018", u"Köln");
+    kind.Geschlecht = u"m";
+    const auto open = [&](const Text& text) {
+        installation.write({{kind, text, u"Mats hilft.", {u"Ja.", u"Ja.", u"Mats rückt auf."}}});
+        Arbeitsverzeichnis verzeichnis(installation.path());
+        std::vector<Befund> found = OffeneBefunde(verzeichnis);
+        std::erase_if(found, [](const Befund& one) { return one.Art != Befundart::Text; });
+        return found;
+    };
+    const Arbeitsverzeichnis verzeichnis(installation.path());
+    const std::vector<Befund> found = open(u"Mats lacht. kurz");
+    ASSERT_EQ(found.size(), 2U);
+    AlsGesehenMerken(verzeichnis, found[0]);
+    AlsGesehenMerken(verzeichnis, found[1]);
+    EXPECT_EQ(open(u"Mats lacht. kurz").size(), 0U);
+    EXPECT_EQ(open(u"Mats lacht gern. kurz").size(), 2U);
+    if (!DeutscheRechtschreibung())
+        GTEST_SKIP() << "no German dictionary";
+    const std::vector<Befund> words = open(u"Mats flitzbogelt.");
+    ASSERT_EQ(words.size(), 1U);
+    EXPECT_EQ(words[0].Woerter, std::vector<Text>{u"flitzbogelt"});
+    WoerterLernen(verzeichnis, words[0].Woerter);
+    EXPECT_EQ(open(u"Mats flitzbogelt gern.").size(), 0U);
 }
 
 TEST(ReportChecks, AChildsOwnNameIsNoneOfAnother) {
@@ -80,7 +137,7 @@ TEST(ReportChecks, AChildsOwnNameIsNoneOfAnother) {
 TEST(ReportChecks, TellsOfTheSameTextOnlyIfItIsLong) {
     Zeugnisdaten daten = tadellos();
     for (const int platz : {0, 1, 2, 3})
-        daten.Bereiche[2][platz] = vonUtf8(Lang).substr(0, 60);
+        daten.Bereiche[2][platz] = vonUtf8(Lang).substr(0, 59) + u".";
     EXPECT_EQ(befunde(daten), "");
     for (const int platz : {0, 2})
         daten.Bereiche[2][platz] = vonUtf8(Lang);

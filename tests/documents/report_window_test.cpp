@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -54,6 +55,28 @@ TEST_F(ReportWindowTest, WritesAFileForEachChildAndOneOfAll) {
     EXPECT_EQ(names, (std::vector<std::string>{"3aZeugnisse32.pdf", "O'Neil- jr., Kim (3a).pdf",
                                                "Weiß, Zoé (3a) 3.pdf", "Weiß, Zoé (3a).pdf"}));
     EXPECT_TRUE(textOfPages(folder / "Weiß, Zoé (3a).pdf").contains(QStringLiteral("AV.")));
+}
+
+TEST_F(ReportWindowTest, AFormWithAPictureInItsHeadTakesNoFurtherPage) {
+    QImage picture(400, 300, QImage::Format_RGB32);
+    picture.fill(Qt::green);
+    ASSERT_TRUE(picture.save(
+        QString::fromStdString((installation.path() / "Bild" / "ZeugnKOPF.jpg").string())));
+    const auto pagesOfForm = [&] {
+        const auto files = DokumentBereitstellen(
+            verzeichnis, {.Dokument = u"Leerformular.doc", .Makro = u"Leerformular"});
+        return PdfPages(files.Pdf).count();
+    };
+    for (const auto& [klasse, pages] : {std::pair(u"3a", 2), {u"2b", 3}}) {
+        installation.write({{test::schueler(u"Zoé", u"Weiß"), u"", u""}}, klasse);
+        ZeugnisaufbauSchreiben(verzeichnis, {});
+        EXPECT_EQ(pagesOfForm(), pages);
+        ZeugnisaufbauSchreiben(verzeichnis, {.Schulleitung = {},
+                                             .Kopfbild = u"ZeugnKOPF.jpg",
+                                             .Unterricht = {},
+                                             .Rechtsbehelf = {}});
+        EXPECT_EQ(pagesOfForm(), pages);
+    }
 }
 
 TEST_F(ReportWindowTest, TheLayoutShowsEachChoiceOnThePagesAndKeepsIt) {
