@@ -1,6 +1,6 @@
 #include "checks/hunspell_spelling.h"
 #include "checks/text_checks.h"
-#include "driver/driver.h"
+#include "tests/support/model_driver.h"
 #include "tests/support/test_installation.h"
 
 #include <gtest/gtest.h>
@@ -117,10 +117,8 @@ class ComposedRemarks : public test::TestInstallation {
             script.append(screen).append(m_page.Box).append("\nclick ");
             script.append(screen).append(m_page.Reset).append("\n");
         }
-        std::istringstream commands(script + "quit\n");
         std::ostringstream events;
-        driver::Driver driver(events, path(), u"01.07.2027");
-        EXPECT_EQ(driver.run(commands), 0) << events.str();
+        EXPECT_EQ(test::ModelDriver(events, path()).play(script + "quit\n"), 0) << events.str();
         std::vector<Text> found;
         std::istringstream lines(events.str());
         for (std::string line; std::getline(lines, line);) {
