@@ -68,8 +68,9 @@ const std::vector<Driver::Command>& Driver::commands() {
     return Commands;
 }
 
-Driver::Driver(std::ostream& out, std::filesystem::path folder, std::optional<Text> date)
-    : m_out(out), m_dialogs(out), m_launcher(out), m_folder(std::move(folder)) {
+Driver::Driver(std::ostream& out, std::filesystem::path folder, std::optional<Text> date,
+               WriteWatcher* watcher)
+    : m_out(out), m_dialogs(out), m_launcher(out), m_folder(std::move(folder)), m_watcher(watcher) {
     if (date)
         m_calendar = std::make_unique<FixedCalendar>(*date);
     else
@@ -121,6 +122,7 @@ void Driver::start(const Words&) {
     if (!m_program) {
         m_program = std::make_unique<Programm>(
             Machine{m_dialogs, m_clipboard, *m_calendar, m_pictures, m_launcher}, m_folder);
+        m_program->directory().watchWrites(m_watcher);
         BildschirmeAnmelden(*m_program);
     }
     m_program->show(bildschirme::GsStart);

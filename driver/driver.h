@@ -17,8 +17,10 @@ namespace zeugnis::driver {
 /// what happens, one event a line.
 class Driver {
   public:
-    /// `date` is today's date (dd.mm.yyyy); without one the system's is taken.
-    Driver(std::ostream& out, std::filesystem::path folder, std::optional<Text> date);
+    /// `date` is today's date (dd.mm.yyyy); without one the system's is taken. A watcher of what is
+    /// written must outlive the driver.
+    Driver(std::ostream& out, std::filesystem::path folder, std::optional<Text> date,
+           WriteWatcher* watcher = nullptr);
 
     /// The exit code: 0 at the end of the program or the commands, 1 after a run-time failure,
     /// 2 after a command that makes no sense.
@@ -68,6 +70,7 @@ class Driver {
     std::unique_ptr<Calendar> m_calendar;
     JpegMarkPictures m_pictures;
     std::filesystem::path m_folder;
+    WriteWatcher* m_watcher;
     std::unique_ptr<Programm> m_program;
     bool m_quit = false;
 };

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/write_watcher.h"
+#include "safety/journal.h"
+#include "safety/paths.h"
+
+#include <functional>
+#include <memory>
+#include <set>
+#include <span>
+
+namespace zeugnis::safety {
+
+/// Makes one piece of what an action of the user writes. Before a file is touched for the first
+/// time in a unit, what it holds is on the disk in the unit's journal; when the unit has ended the
+/// journal becomes a former state. A unit that the machine broke is taken back at once, or at the
+/// next start by takeBackInterrupted().
+class Guard : public WriteWatcher {
+  public:
+    explicit Guard(const std::filesystem::path& programFolder, Clock clock = now);
+    ~Guard() override;
+    Guard(const Guard&) = delete;
+    Guard& operator=(const Guard&) = delete;
+
+    enum class Outcome {
+        Kept,      ///< all of it stands
+        TakenBack, ///< everything is as before
+        Pending,   ///< the disk has failed, too: the next start takes it back
+    };
+
+    /// Called once, with a German sentence, when Notsicherung cannot be written. The program then
+    /// works without the net. Must not write data files.
+    std::function<void(const Text& sentence)> onUnavailable;
+
+    /// Called after each unit that has changed or tried to change a file.
+    std::function<void(Outcome outcome)> onUnitEnd;
+
+    /// What the former state of the unit under way will say that was done.
+    void nameUnit(const Text& action);
+
+    void unitBegins() noexcept override;
+    void unitEnds(bool failed) noexcept override;
+    void beforeWrite(const std::filesystem::path& file, const FormerContent& former,
+                     std::string_view bytes) noexcept override;
+    void afterWrite(const std::filesystem::path& file, std::string_view bytes,
+                    bool done) noexcept override;
+    void beforeRemoval(std::span<const std::filesystem::path> files) noexcept override;
+    void afterRemoval(std::span<const std::filesystem::path> files) noexcept override;
+    void machineFailed() noexcept override;
+
+  private:
+    struct Unit;
+
+    Unit& unit();
+    void setDown(std::vector<Former> files);
+    int appendToJournal(std::string_view records);
+    int openJournal();
+    void goWithoutJournal(int error);
+    void endUnit(bool takeBack);
+    void keep();
+    void takeBack();
+    void syncTouchedFolders();
+    bool closeJournal(bool asState);
+    void retryPending();
+    void sayUnavailable(int error);
+
+    Paths m_paths;
+    Clock m_clock;
+    std::unique_ptr<Unit> m_unit;
+    bool m_bracketed = false; ///< inside unitBegins and unitEnds
+    bool m_said = false;
+    std::set<std::filesystem::path> m_pending; ///< journals that would not go
+};
+
+} // namespace zeugnis::safety
