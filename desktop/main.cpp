@@ -43,6 +43,7 @@ int main(int argc, char** argv) {
     if (!startCleanly(dialogs, programFolder))
         return 1;
     zeugnis::safety::Guard guard(programFolder);
+    guard.thinOutStates();
     zeugnis::Programm program({dialogs, clipboard, calendar, pictures, launcher}, programFolder);
     program.directory().watchWrites(&guard);
     zeugnis::BildschirmeAnmelden(program);

@@ -20,8 +20,9 @@ class WriteWatcher {
   public:
     virtual ~WriteWatcher() = default;
 
-    /// What is written between these two calls belongs together. Units do not nest; a write outside
-    /// of them is a unit of its own. `failed` tells that a run-time failure has ended it.
+    /// What is written between these two calls belongs together. Of units within each other the
+    /// outermost counts; a write outside of them is a unit of its own. `failed` tells that a
+    /// run-time failure has ended it.
     virtual void unitBegins() noexcept = 0;
     virtual void unitEnds(bool failed) noexcept = 0;
 

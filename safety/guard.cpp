@@ -15,6 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int NamesPerSecond = 1000;
+constexpr std::uintmax_t SpareRoom = 1'000'000;
 
 // Nothing that goes wrong here may reach the one who writes.
 template <typename Work>
@@ -74,13 +75,21 @@ Guard::Unit& Guard::unit() {
 
 void Guard::nameUnit(const Text& action) { unit().action = action; }
 
+void Guard::thinOutStates() {
+    const States states(m_paths.program);
+    states.thinOut(m_clock());
+    m_statesSize = states.size();
+}
+
 void Guard::unitBegins() noexcept {
-    m_unit.reset();
-    m_bracketed = true;
+    if (m_depth++ == 0)
+        m_unit.reset();
 }
 
 void Guard::unitEnds(bool failed) noexcept {
-    m_bracketed = false;
+    if (--m_depth > 0)
+        return;
+    m_depth = 0;
     quietly([&] { endUnit(failed && m_unit && m_unit->broken); });
     m_unit.reset();
 }
@@ -101,7 +110,7 @@ void Guard::beforeWrite(const fs::path& file, const FormerContent& former,
 }
 
 void Guard::afterWrite(const fs::path& /*file*/, std::string_view /*bytes*/, bool done) noexcept {
-    if (!m_bracketed)
+    if (m_depth == 0)
         unitEnds(!done);
 }
 
@@ -126,12 +135,12 @@ void Guard::beforeRemoval(std::span<const fs::path> files) noexcept {
 }
 
 void Guard::afterRemoval(std::span<const fs::path> /*files*/) noexcept {
-    if (!m_bracketed)
+    if (m_depth == 0)
         unitEnds(false);
 }
 
 void Guard::machineFailed() noexcept {
-    if (m_unit || m_bracketed)
+    if (m_unit || m_depth > 0)
         quietly([&] { unit().broken = true; });
 }
 
@@ -157,13 +166,19 @@ int Guard::appendToJournal(std::string_view records) {
             return error;
     std::string bytes = first ? journalHead(unit().begin) : std::string();
     bytes += records;
-    int error = raw::write(unit().handle, bytes);
-    if (error == 0)
-        error = raw::sync(unit().handle);
+    int error = writeAndSync(bytes);
+    if (error == ENOSPC && States(m_paths.program).makeRoom(bytes.size() + SpareRoom) &&
+        raw::truncate(unit().handle, unit().length) == 0)
+        error = writeAndSync(bytes);
     if (error == 0 && first)
         error = raw::syncFolder(m_paths.states);
     unit().length += bytes.size();
     return error;
+}
+
+int Guard::writeAndSync(std::string_view bytes) {
+    const int error = raw::write(unit().handle, bytes);
+    return error == 0 ? raw::sync(unit().handle) : error;
 }
 
 int Guard::openJournal() {
@@ -216,6 +231,8 @@ void Guard::keep() {
         if (asState)
             raw::write(running.handle, journalEnd(action));
         outcome = closeJournal(asState) ? Outcome::Kept : Outcome::Pending;
+        if (asState && m_statesSize && (*m_statesSize += running.length) > StatesLimit)
+            thinOutStates();
     }
     if (onUnitEnd)
         onUnitEnd(outcome);
@@ -233,7 +250,7 @@ void Guard::syncTouchedFolders() {
 }
 
 void Guard::takeBack() {
-    const bool done = restore(m_paths, m_unit->formers).empty();
+    const bool done = restore(m_paths, m_unit->formers).complete();
     if (!done && m_unit->handle >= 0)
         raw::close(std::exchange(m_unit->handle, -1));
     closeJournal(false);

@@ -3,6 +3,7 @@
 #include "platform/write_watcher.h"
 #include "safety/journal.h"
 #include "safety/paths.h"
+#include "safety/states.h"
 
 #include <functional>
 #include <memory>
@@ -38,6 +39,9 @@ class Guard : public WriteWatcher {
     /// What the former state of the unit under way will say that was done.
     void nameUnit(const Text& action);
 
+    /// Gives up former states that are not worth their room any more; for the start.
+    void thinOutStates();
+
     void unitBegins() noexcept override;
     void unitEnds(bool failed) noexcept override;
     void beforeWrite(const std::filesystem::path& file, const FormerContent& former,
@@ -54,6 +58,7 @@ class Guard : public WriteWatcher {
     Unit& unit();
     void setDown(std::vector<Former> files);
     int appendToJournal(std::string_view records);
+    int writeAndSync(std::string_view bytes);
     int openJournal();
     void goWithoutJournal(int error);
     void endUnit(bool takeBack);
@@ -67,9 +72,10 @@ class Guard : public WriteWatcher {
     Paths m_paths;
     Clock m_clock;
     std::unique_ptr<Unit> m_unit;
-    bool m_bracketed = false; ///< inside unitBegins and unitEnds
+    int m_depth = 0; ///< of units within each other
     bool m_said = false;
-    std::set<std::filesystem::path> m_pending; ///< journals that would not go
+    std::optional<std::uintmax_t> m_statesSize; ///< empty until it is asked for
+    std::set<std::filesystem::path> m_pending;  ///< journals that would not go
 };
 
 } // namespace zeugnis::safety

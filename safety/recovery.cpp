@@ -3,6 +3,7 @@
 #include "platform/raw_file.h"
 #include "safety/actions.h"
 #include "safety/restore.h"
+#include "safety/states.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -52,12 +53,15 @@ class Interrupted {
                             shownName("Notsicherung/Staende/" + m_journal.filename().string()) +
                             u"“.");
         const Journal journal = readJournal(content.bytes);
-        if (const std::vector<std::string> failed = restore(m_paths, journal.files);
-            !failed.empty())
+        Restored restored = restore(m_paths, journal.files);
+        // What is old may have to give way to what is needed.
+        if (restored.diskFull && States(m_paths.program).makeRoom(2 * content.bytes.size()))
+            restored = restore(m_paths, journal.files);
+        if (!restored.complete())
             return obstacle(u"Die Speicherung " + whenAndWhat(journal) +
                             u" wurde unterbrochen und kann noch nicht zurückgenommen werden. "
                             u"Nicht beschreiben lässt sich: " +
-                            namesOf(failed) + u".");
+                            namesOf(restored.failed) + u".");
         remove(journal);
     }
 
