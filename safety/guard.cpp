@@ -2,11 +2,14 @@
 
 #include "platform/raw_file.h"
 #include "safety/actions.h"
+#include "safety/latest.h"
 #include "safety/restore.h"
+#include "safety/seal.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <exception>
+#include <map>
 #include <system_error>
 #include <utility>
 
@@ -14,7 +17,6 @@ namespace zeugnis::safety {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr int NamesPerSecond = 1000;
 constexpr std::uintmax_t SpareRoom = 1'000'000;
 
 // Nothing that goes wrong here may reach the one who writes.
@@ -24,16 +26,6 @@ void quietly(Work work) noexcept {
         work();
     } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): memory at most
     }
-}
-
-// Sorts by time: "20261123-070059-000".
-std::string fileStem(Moment begin, int number) {
-    std::string stem = stampOf(begin) + '-' + std::to_string(NamesPerSecond + number).substr(1);
-    std::erase(stem, ':');
-    stem.erase(7, 1);
-    stem.erase(4, 1);
-    std::replace(stem.begin(), stem.end(), ' ', '-');
-    return stem;
 }
 
 bool isNothing(const fs::path& file) {
@@ -50,9 +42,10 @@ bool isRegular(const fs::path& file) {
 } // namespace
 
 struct Guard::Unit {
-    std::set<std::string> touched; ///< written or deleted, changed or not
-    std::vector<Former> formers;   ///< of all that has been changed
-    std::set<std::string> known;   ///< their names
+    std::set<std::string> touched;              ///< written or deleted, changed or not
+    std::vector<Former> formers;                ///< of all that has been changed
+    std::set<std::string> known;                ///< their names
+    std::map<std::string, std::string> written; ///< what the data files hold now
     Text action;
     bool broken = false;      ///< the machine has failed
     bool unjournaled = false; ///< the journal could not be kept up
@@ -109,7 +102,12 @@ void Guard::beforeWrite(const fs::path& file, const FormerContent& former,
     });
 }
 
-void Guard::afterWrite(const fs::path& /*file*/, std::string_view /*bytes*/, bool done) noexcept {
+void Guard::afterWrite(const fs::path& file, std::string_view bytes, bool done) noexcept {
+    quietly([&] {
+        const std::optional<std::string> name = m_paths.nameOf(file);
+        if (done && m_unit && name && Latest::covers(*name))
+            m_unit->written[*name] = bytes;
+    });
     if (m_depth == 0)
         unitEnds(!done);
 }
@@ -187,8 +185,8 @@ int Guard::openJournal() {
         return error;
     unit().begin = m_clock();
     int error = EEXIST;
-    for (int number = 0; error == EEXIST && number < NamesPerSecond; ++number) {
-        const std::string stem = fileStem(unit().begin, number);
+    for (int number = 0; error == EEXIST && number < journalsPerSecond; ++number) {
+        const std::string stem = journalStem(unit().begin, number);
         // A former state of the same second keeps its name.
         if (!isNothing(m_paths.states / (stem + std::string(FormerState))))
             continue;
@@ -211,8 +209,10 @@ void Guard::goWithoutJournal(int error) {
 }
 
 void Guard::endUnit(bool broken) {
-    if (!m_unit || m_unit->formers.empty())
+    if (!m_unit)
         return;
+    if (m_unit->formers.empty())
+        return keepLatest();
     if (broken)
         takeBack();
     else
@@ -234,8 +234,21 @@ void Guard::keep() {
         if (asState && m_statesSize && (*m_statesSize += running.length) > StatesLimit)
             thinOutStates();
     }
+    keepLatest();
     if (onUnitEnd)
         onUnitEnd(outcome);
+}
+
+// These copies are for comparing only, so they need not be on the disk at once.
+void Guard::keepLatest() {
+    for (const auto& [name, content] : m_unit->written) {
+        const std::uint64_t sum = checksum(content);
+        if (const auto known = m_latestSums.find(name);
+            known != m_latestSums.end() && known->second == sum)
+            continue;
+        if (Latest(m_paths.program).keep(name, content) == 0)
+            m_latestSums[name] = sum;
+    }
 }
 
 // Names that came or went must be on the disk before the journal goes.

@@ -6,6 +6,7 @@
 #include "safety/states.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <span>
@@ -63,6 +64,7 @@ class Guard : public WriteWatcher {
     void goWithoutJournal(int error);
     void endUnit(bool takeBack);
     void keep();
+    void keepLatest();
     void takeBack();
     void syncTouchedFolders();
     bool closeJournal(bool asState);
@@ -72,7 +74,8 @@ class Guard : public WriteWatcher {
     Paths m_paths;
     Clock m_clock;
     std::unique_ptr<Unit> m_unit;
-    int m_depth = 0; ///< of units within each other
+    std::map<std::string, std::uint64_t> m_latestSums; ///< of the copies made so far
+    int m_depth = 0;                                   ///< of units within each other
     bool m_said = false;
     std::optional<std::uintmax_t> m_statesSize; ///< empty until it is asked for
     std::set<std::filesystem::path> m_pending;  ///< journals that would not go

@@ -151,6 +151,15 @@ class Reading {
 
 } // namespace
 
+std::string journalStem(Moment begin, int number) {
+    std::string stem = stampOf(begin) + '-' + std::to_string(journalsPerSecond + number).substr(1);
+    std::erase(stem, ':');
+    stem.erase(7, 1);
+    stem.erase(4, 1);
+    std::replace(stem.begin(), stem.end(), ' ', '-');
+    return stem;
+}
+
 std::string journalHead(Moment begin) { return markedLine(std::string(Head) + stampOf(begin)); }
 
 std::string journalRecord(const Former& file, const std::vector<Former>& before) {

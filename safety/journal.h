@@ -24,6 +24,11 @@ struct Journal {
     bool damaged = false; ///< something between the records could not be read
 };
 
+/// The name of its file without the ending, "20261123-070059-000", which sorts by time. `number`
+/// tells those of one second apart.
+inline constexpr int journalsPerSecond = 1000;
+std::string journalStem(Moment begin, int number);
+
 /// The first line.
 std::string journalHead(Moment begin);
 

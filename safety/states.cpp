@@ -4,7 +4,7 @@
 #include "safety/actions.h"
 
 #include <algorithm>
-#include <array>
+#include <cerrno>
 #include <map>
 #include <set>
 #include <system_error>
@@ -80,6 +80,23 @@ std::optional<Journal> States::read(const std::string& id) const {
     if (content.error != 0)
         return std::nullopt;
     return readJournal(content.bytes);
+}
+
+int States::add(Moment when, const Text& action, const std::vector<Former>& files) const {
+    if (const int error = makeFolder(m_paths, m_paths.states); error != 0)
+        return error;
+    std::string bytes = journalHead(when);
+    for (size_t i = 0; i < files.size(); ++i)
+        bytes += journalRecord(files[i], {files.begin(), files.begin() + std::ptrdiff_t(i)});
+    bytes += journalEnd(action);
+    std::error_code ignored;
+    for (int number = 0; number < journalsPerSecond; ++number) {
+        const fs::path file =
+            m_paths.states / (journalStem(when, number) + std::string(FormerState));
+        if (!fs::exists(file, ignored))
+            return raw::replaceByRename(file, bytes, raw::Durability::AtOnce);
+    }
+    return EEXIST;
 }
 
 std::vector<Former> States::allBefore(const std::string& id) const {

@@ -28,6 +28,9 @@ class States {
 
     [[nodiscard]] std::optional<Journal> read(const std::string& id) const;
 
+    /// A state that no unit has left. Gives 0 or the number of an error.
+    int add(Moment when, const Text& action, const std::vector<Former>& files) const;
+
     /// What the whole installation held right before the action, as far as it differs from now by
     /// what is kept: of each file the oldest content that was kept then or later.
     [[nodiscard]] std::vector<Former> allBefore(const std::string& id) const;
