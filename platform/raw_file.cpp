@@ -98,7 +98,11 @@ int sync(int handle) { return ::fsync(handle) == 0 ? 0 : errno; }
 
 int close(int handle) { return ::close(handle) == 0 ? 0 : errno; }
 
-bool tryLock(int handle) { return ::flock(handle, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
+Lock tryLock(int handle) {
+    if (::flock(handle, LOCK_EX | LOCK_NB) == 0)
+        return Lock::Taken;
+    return errno == EWOULDBLOCK ? Lock::Held : Lock::NotOffered;
+}
 
 int rename(const std::filesystem::path& from, const std::filesystem::path& to) {
     return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;

@@ -39,9 +39,13 @@ int truncate(int handle, size_t length);
 int sync(int handle);
 int close(int handle);
 
-/// The exclusive lock of an open file, until it is closed. False if another program has it. Where
-/// files cannot be locked nobody has it.
-bool tryLock(int handle);
+/// The exclusive lock of an open file, until it is closed or the program ends in any way.
+enum class Lock {
+    Taken,
+    Held,       ///< by another opening of the file
+    NotOffered, ///< files cannot be locked here
+};
+Lock tryLock(int handle);
 
 int rename(const std::filesystem::path& from, const std::filesystem::path& to);
 

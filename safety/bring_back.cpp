@@ -80,21 +80,14 @@ bool takeOver(Pending& pending, const Former& former, const Text& pupil, size_t 
     const Text content = decodeWindows1252(*former.content);
     const std::vector<Record> records = recordsOf(content);
     Pending::File& file = pending.file(former.name);
-    const auto recordOf = [&](const std::vector<Record>& all) {
-        return std::find_if(all.begin(), all.end(), [&](const Record& record) {
-            return record.fields.size() >= layout->fields.size() &&
-                   record.fields[layout->familyName].value + u", " +
-                           record.fields[layout->familyName + 1].value ==
-                       pupil;
-        });
-    };
-    const auto then = recordOf(records);
-    const auto now = recordOf(file.records);
-    if (then == records.end() || now == file.records.end())
+    const Record* then = recordFor(records, *layout, pupil);
+    const Record* now = recordFor(file.records, *layout, pupil);
+    if (then == nullptr || now == nullptr || then->fields.size() < layout->fields.size() ||
+        now->fields.size() < layout->fields.size())
         return false;
     for (size_t i = from; i < std::min(to, layout->fields.size()); ++i)
         if (const Field& field = then->fields[i]; field.value != now->fields[i].value)
-            file.changes.push_back({static_cast<size_t>(now - file.records.begin()), i,
+            file.changes.push_back({static_cast<size_t>(now - file.records.data()), i,
                                     content.substr(field.begin, field.end - field.begin)});
     return true;
 }

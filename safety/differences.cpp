@@ -11,13 +11,6 @@
 namespace zeugnis::safety {
 namespace {
 
-Text pupilIn(const Record& record, const Layout& layout) {
-    if (!layout.byPupil || record.fields.size() < layout.familyName + 2)
-        return {};
-    return record.fields[layout.familyName].value + u", " +
-           record.fields[layout.familyName + 1].value;
-}
-
 Text lineOf(const Record& record) {
     Text line;
     for (const Field& field : record.fields)
@@ -53,7 +46,7 @@ class Pairing {
 
   private:
     [[nodiscard]] Text key(const Record& record, size_t position) const {
-        const Text pupil = pupilIn(record, m_layout);
+        const Text pupil = pupilOf(record, m_layout);
         return pupil.empty() ? textFromNumber(static_cast<int>(position)) : pupil;
     }
 
@@ -74,7 +67,7 @@ class Comparing {
             else
                 m_found.push_back({Difference::Kind::OnlyFormer,
                                    m_file,
-                                   pupilIn(former[i], m_layout),
+                                   pupilOf(former[i], m_layout),
                                    u"Eintrag",
                                    lineOf(former[i]),
                                    {},
@@ -84,7 +77,7 @@ class Comparing {
         for (const size_t place : pairing.left())
             m_found.push_back({Difference::Kind::OnlyNow,
                                m_file,
-                               pupilIn(current[place], m_layout),
+                               pupilOf(current[place], m_layout),
                                u"Eintrag",
                                {},
                                lineOf(current[place]),
@@ -100,7 +93,7 @@ class Comparing {
             const Text before = i < former.fields.size() ? former.fields[i].value : Text();
             const Text now = i < current.fields.size() ? current.fields[i].value : Text();
             if (before != now)
-                m_found.push_back({Difference::Kind::Changed, m_file, pupilIn(current, m_layout),
+                m_found.push_back({Difference::Kind::Changed, m_file, pupilOf(current, m_layout),
                                    nameOf(i, place), before, now, place, i});
         }
     }

@@ -57,13 +57,6 @@ bool concerns(const std::string& name, const ClassSize& size) {
     return is(dateien::AVSVspeicher) || is(dateien::AVSVWahl);
 }
 
-Text pupilOf(const Record& record, const Layout& layout) {
-    if (!layout.byPupil || record.fields.size() < layout.familyName + 2)
-        return {};
-    return record.fields[layout.familyName].value + u", " +
-           record.fields[layout.familyName + 1].value;
-}
-
 std::optional<Flaw> flawOfRecord(const Record& record, const Layout& layout, bool last) {
     const size_t count = record.fields.size();
     const size_t wanted = layout.fields.size();

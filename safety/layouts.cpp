@@ -164,6 +164,23 @@ std::optional<Layout> layoutOf(std::string_view name) {
     return moduleLayout(file);
 }
 
+Text pupilOf(const Record& record, const Layout& layout) {
+    if (!layout.byPupil || record.fields.size() < layout.familyName + 2)
+        return {};
+    return record.fields[layout.familyName].value + u", " +
+           record.fields[layout.familyName + 1].value;
+}
+
+const Record* recordFor(const std::vector<Record>& records, const Layout& layout, const Text& pupil,
+                        size_t number) {
+    if (!layout.byPupil)
+        return number >= 1 && number <= records.size() ? &records[number - 1] : nullptr;
+    const auto found = std::find_if(records.begin(), records.end(), [&](const Record& record) {
+        return pupilOf(record, layout) == pupil;
+    });
+    return found == records.end() ? nullptr : &*found;
+}
+
 std::string lockStoreOf(std::string_view name) {
     constexpr std::array<std::pair<Speicherdatei, Speicherdatei>, 3> Pairs = {
         {{speicherdateien::AVSVTexte, speicherdateien::AVSVWahl},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
+#include "safety/records.h"
 
 #include <optional>
 #include <string>
@@ -21,6 +22,13 @@ struct Layout {
 /// The layout of a file by its name from the program folder; a copy in Sicherheit or Standard has
 /// that of its original. Empty for a file of no such form.
 std::optional<Layout> layoutOf(std::string_view name);
+
+/// "Ahlers, Tom"; empty for a record that has no names.
+Text pupilOf(const Record& record, const Layout& layout);
+
+/// The record of a pupil, or of a number from 1 in a file without pupils. Null if there is none.
+const Record* recordFor(const std::vector<Record>& records, const Layout& layout, const Text& pupil,
+                        size_t number = 0);
 
 /// The store that holds the locks of a store of texts, in the same fields; empty if it has none.
 std::string lockStoreOf(std::string_view name);

@@ -42,7 +42,7 @@ class Interrupted {
 
     void takeBack() {
         m_opened = raw::openForWriting(m_journal);
-        if (m_opened.error == 0 && !raw::tryLock(m_opened.handle))
+        if (m_opened.error == 0 && raw::tryLock(m_opened.handle) == raw::Lock::Held)
             return; // of a program that is running
         const raw::Content content = raw::read(m_journal);
         if (content.error == ENOENT)
