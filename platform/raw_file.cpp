@@ -124,7 +124,7 @@ int syncFolder(const std::filesystem::path& folder) {
 int replaceByRename(const std::filesystem::path& path, std::string_view bytes,
                     Durability durability) {
     std::filesystem::path beside = path;
-    beside += ".neu";
+    beside += BesideEnding;
     ::unlink(beside.c_str()); // what a killed program has left
     const Opened opened = createNew(beside);
     if (opened.error != 0)

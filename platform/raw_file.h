@@ -54,7 +54,8 @@ int syncFolder(const std::filesystem::path& folder);
 
 enum class Durability { Eventually, AtOnce };
 
-/// Puts a file in the place of another, as a whole, by way of a file beside it.
+/// Puts a file in the place of another, as a whole, by way of a file beside it with this ending.
+inline constexpr std::string_view BesideEnding = ".neu";
 int replaceByRename(const std::filesystem::path& path, std::string_view bytes,
                     Durability durability);
 

@@ -4,7 +4,6 @@
 #include "safety/actions.h"
 #include "safety/latest.h"
 #include "safety/restore.h"
-#include "safety/seal.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -242,12 +241,9 @@ void Guard::keep() {
 // These copies are for comparing only, so they need not be on the disk at once.
 void Guard::keepLatest() {
     for (const auto& [name, content] : m_unit->written) {
-        const std::uint64_t sum = checksum(content);
-        if (const auto known = m_latestSums.find(name);
-            known != m_latestSums.end() && known->second == sum)
-            continue;
-        if (Latest(m_paths.program).keep(name, content) == 0)
-            m_latestSums[name] = sum;
+        const Latest latest(m_paths.program);
+        if (m_unit->known.contains(name) || latest.of(name) != content)
+            latest.keep(name, content);
     }
 }
 
@@ -264,11 +260,12 @@ void Guard::syncTouchedFolders() {
 
 void Guard::takeBack() {
     const bool done = restore(m_paths, m_unit->formers).complete();
+    const bool journaled = m_unit->handle >= 0 && !m_unit->unjournaled;
     if (!done && m_unit->handle >= 0)
         raw::close(std::exchange(m_unit->handle, -1));
     closeJournal(false);
     if (onUnitEnd)
-        onUnitEnd(done ? Outcome::TakenBack : Outcome::Pending);
+        onUnitEnd(done ? Outcome::TakenBack : journaled ? Outcome::Pending : Outcome::Broken);
 }
 
 // From here on the next start takes nothing back. False if the journal could not be got rid of in

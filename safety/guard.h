@@ -6,7 +6,6 @@
 #include "safety/states.h"
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <set>
 #include <span>
@@ -28,6 +27,7 @@ class Guard : public WriteWatcher {
         Kept,      ///< all of it stands
         TakenBack, ///< everything is as before
         Pending,   ///< the disk has failed, too: the next start takes it back
+        Broken,    ///< it failed without a net, and the files may be half old and half new
     };
 
     /// Called once, with a German sentence, when Notsicherung cannot be written. The program then
@@ -74,8 +74,7 @@ class Guard : public WriteWatcher {
     Paths m_paths;
     Clock m_clock;
     std::unique_ptr<Unit> m_unit;
-    std::map<std::string, std::uint64_t> m_latestSums; ///< of the copies made so far
-    int m_depth = 0;                                   ///< of units within each other
+    int m_depth = 0; ///< of units within each other
     bool m_said = false;
     std::optional<std::uintmax_t> m_statesSize; ///< empty until it is asked for
     std::set<std::filesystem::path> m_pending;  ///< journals that would not go

@@ -115,6 +115,9 @@ std::vector<Former> States::allBefore(const std::string& id) const {
 }
 
 void States::thinOut(Moment today, std::uintmax_t limit) const {
+    for (const fs::path& folder : {m_paths.states, m_paths.latest, m_paths.typed})
+        for (const fs::path& rest : filesEndingIn(folder, raw::BesideEnding))
+            raw::remove(rest);
     const auto drop = [this](const State& state) {
         return raw::remove(m_paths.states / (state.id + std::string(FormerState))) == 0;
     };

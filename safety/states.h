@@ -36,7 +36,8 @@ class States {
     [[nodiscard]] std::vector<Former> allBefore(const std::string& id) const;
 
     /// Keeps all of today, of the last month the first of each day for each file, of the last
-    /// half-year the first of each week, and nothing older; then as many as the limit allows.
+    /// half-year the first of each week, and nothing older; then as many as the limit allows. Also
+    /// takes away what a kill has left in Notsicherung.
     void thinOut(Moment today, std::uintmax_t limit = StatesLimit) const;
 
     /// Gives up the oldest states until there is that much more room. False if there was none.
