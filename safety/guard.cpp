@@ -44,6 +44,7 @@ struct Guard::Unit {
     std::set<std::string> touched;              ///< written or deleted, changed or not
     std::vector<Former> formers;                ///< of all that has been changed
     std::set<std::string> known;                ///< their names
+    std::set<std::string> writes;               ///< written with other bytes than before
     std::map<std::string, std::string> written; ///< what the data files hold now
     Text action;
     bool broken = false;      ///< the machine has failed
@@ -93,11 +94,18 @@ void Guard::beforeWrite(const fs::path& file, const FormerContent& former,
         if (!name || !isRegular(file))
             return;
         unit().touched.insert(*name);
-        if (unit().known.contains(*name) || former.bytes == bytes)
+        if (former.bytes == bytes)
+            return;
+        unit().writes.insert(*name);
+        if (unit().known.contains(*name))
             return;
         if (former.stood ? !former.bytes : !isNothing(file))
             return goWithoutJournal(EACCES);
-        setDown({{*name, former.bytes}});
+        std::vector<Former> files(1);
+        files.front() = {*name, former.bytes};
+        if (unit().formers.empty())
+            addHabits(files);
+        setDown(std::move(files));
     });
 }
 
@@ -141,13 +149,30 @@ void Guard::machineFailed() noexcept {
         quietly([&] { unit().broken = true; });
 }
 
+// Each putting on the disk takes its time, so what is likely to come goes there with the first.
+void Guard::addHabits(std::vector<Former>& files) {
+    const auto habit = m_habits.find(files.front().name);
+    if (habit == m_habits.end())
+        return;
+    for (const std::string& name : habit->second) {
+        const std::optional<fs::path> file = m_paths.fileOf(name);
+        if (!file || name == files.front().name)
+            continue;
+        if (raw::Content content = raw::read(*file); content.error == 0)
+            files.push_back({name, std::move(content.bytes)});
+        else if (isNothing(*file))
+            files.push_back({name});
+    }
+}
+
 // The formers go to memory in any case: with them a unit can be taken back even if the journal
 // could not be written.
 void Guard::setDown(std::vector<Former> files) {
     Unit& running = unit();
     std::string records;
     for (Former& file : files) {
-        records += journalRecord(file, running.formers);
+        std::string record = journalRecord(file, running.formers);
+        records = records.empty() ? std::move(record) : std::move(records) + record;
         running.known.insert(file.name);
         running.formers.push_back(std::move(file));
     }
@@ -161,15 +186,19 @@ int Guard::appendToJournal(std::string_view records) {
     if (first)
         if (const int error = openJournal(); error != 0)
             return error;
-    std::string bytes = first ? journalHead(unit().begin) : std::string();
-    bytes += records;
-    int error = writeAndSync(bytes);
-    if (error == ENOSPC && States(m_paths.program).makeRoom(bytes.size() + SpareRoom) &&
+    if (first) {
+        const std::string head = journalHead(unit().begin);
+        if (const int error = raw::write(unit().handle, head); error != 0)
+            return error;
+        unit().length = head.size();
+    }
+    int error = writeAndSync(records);
+    if (error == ENOSPC && States(m_paths.program).makeRoom(records.size() + SpareRoom) &&
         raw::truncate(unit().handle, unit().length) == 0)
-        error = writeAndSync(bytes);
+        error = writeAndSync(records);
     if (error == 0 && first)
         error = raw::syncFolder(m_paths.states);
-    unit().length += bytes.size();
+    unit().length += records.size();
     return error;
 }
 
@@ -220,6 +249,12 @@ void Guard::endUnit(bool broken) {
 
 void Guard::keep() {
     Unit& running = *m_unit;
+    std::vector<std::string> habit;
+    for (const Former& one : running.formers)
+        if (running.writes.contains(one.name))
+            habit.push_back(one.name);
+    if (!habit.empty())
+        m_habits[habit.front()] = habit;
     const bool wanted = std::any_of(running.formers.begin(), running.formers.end(),
                                     [](const Former& one) { return worthKeeping(one.name); });
     Outcome outcome = Outcome::Kept;
@@ -240,11 +275,10 @@ void Guard::keep() {
 
 // These copies are for comparing only, so they need not be on the disk at once.
 void Guard::keepLatest() {
-    for (const auto& [name, content] : m_unit->written) {
-        const Latest latest(m_paths.program);
+    const Latest latest(m_paths);
+    for (const auto& [name, content] : m_unit->written)
         if (m_unit->known.contains(name) || latest.of(name) != content)
             latest.keep(name, content);
-    }
 }
 
 // Names that came or went must be on the disk before the journal goes.

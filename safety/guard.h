@@ -6,6 +6,7 @@
 #include "safety/states.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <span>
@@ -58,6 +59,7 @@ class Guard : public WriteWatcher {
 
     Unit& unit();
     void setDown(std::vector<Former> files);
+    void addHabits(std::vector<Former>& files);
     int appendToJournal(std::string_view records);
     int writeAndSync(std::string_view bytes);
     int openJournal();
@@ -75,6 +77,9 @@ class Guard : public WriteWatcher {
     Clock m_clock;
     std::unique_ptr<Unit> m_unit;
     int m_depth = 0; ///< of units within each other
+    /// The files that the last unit wrote which began with a file: the next one likely writes them
+    /// again, so they are set down together.
+    std::map<std::string, std::vector<std::string>> m_habits;
     bool m_said = false;
     std::optional<std::uintmax_t> m_statesSize; ///< empty until it is asked for
     std::set<std::filesystem::path> m_pending;  ///< journals that would not go

@@ -171,7 +171,9 @@ std::string journalRecord(const Former& file, const std::vector<Former>& before)
     std::string record =
         markedLine(std::string(known ? Same : File) + checksumText(*file.content) + ' ' +
                    std::to_string(file.content->size()) + ' ' + escaped(file.name));
-    return known ? record : record + *file.content + '\n';
+    if (!known)
+        record.append(*file.content) += '\n';
+    return record;
 }
 
 std::string journalEnd(const Text& action) {

@@ -44,8 +44,15 @@ bool Latest::covers(const std::string& name) {
 int Latest::keep(const std::string& name, std::string_view content) const {
     if (const int error = makeFolder(m_paths, m_paths.latest); error != 0)
         return error;
-    return raw::replaceByRename(m_paths.latest / fileNameOf(name), sealed(Kind, content),
-                                raw::Durability::Eventually);
+    const raw::Opened opened = raw::openForWriting(m_paths.latest / fileNameOf(name));
+    if (opened.error != 0)
+        return opened.error;
+    const std::string bytes = sealed(Kind, content);
+    int error = raw::write(opened.handle, bytes);
+    if (error == 0)
+        error = raw::truncate(opened.handle, bytes.size());
+    const int closing = raw::close(opened.handle);
+    return error != 0 ? error : closing;
 }
 
 std::optional<std::string> Latest::of(const std::string& name) const {

@@ -9,11 +9,13 @@ namespace zeugnis::safety {
 class Latest {
   public:
     explicit Latest(const std::filesystem::path& programFolder) : m_paths(programFolder) {}
+    explicit Latest(const Paths& paths) : m_paths(paths) {}
 
     /// Whether copies of the file are kept: of all in Daten but work files and dated copies.
     [[nodiscard]] static bool covers(const std::string& name);
 
-    /// Gives 0 or the number of an error.
+    /// In place and not at once on the disk: it is for comparing. Gives 0 or the number of an
+    /// error.
     int keep(const std::string& name, std::string_view content) const;
 
     [[nodiscard]] std::optional<std::string> of(const std::string& name) const;

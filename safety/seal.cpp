@@ -27,7 +27,9 @@ std::string checksumText(std::string_view bytes) {
 }
 
 std::string sealed(std::string_view kind, std::string_view content) {
-    return headOf(kind, content).append(content);
+    std::string bytes = headOf(kind, content);
+    bytes.reserve(bytes.size() + content.size());
+    return bytes.append(content);
 }
 
 std::optional<std::string> unsealed(std::string_view kind, std::string_view bytes) {

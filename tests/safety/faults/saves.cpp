@@ -1,5 +1,7 @@
 #include "tests/safety/faults/saves.h"
 
+#include <string>
+
 namespace zeugnis::test::faults {
 namespace {
 
@@ -45,6 +47,14 @@ constexpr const char* Pupils = "start\n"
 } // namespace
 
 const std::vector<Save>& allSaves() {
+    static const std::string AvsvAgain = std::string(Avsv) +
+                                         "click GsArbeitsverhalten.Command4\n"
+                                         "click GsArbeitsverhalten.Option1(3)\n";
+    static const std::string PupilsAgain =
+        std::string(Pupils) +
+        "click GsBasis.Command1(0)\n"
+        "settext GsBasis.Text1(0) \"Schule am Berg\"\nfocus GsBasis.Text2(1)\n"
+        "settext GsBasis.Text2(1) \"Zimmer\"\nfocus GsBasis.Text2(2)\n";
     static const std::vector<Save> All = {
         {"work and social behaviour, save",
          "klasse3a",
@@ -61,6 +71,11 @@ const std::vector<Save>& allSaves() {
          {},
          Avsv,
          "select GsArbeitsverhalten.Combo1 1\n"},
+        {"work and social behaviour, a further save",
+         "klasse3a",
+         {},
+         AvsvAgain.c_str(),
+         "click GsArbeitsverhalten.Command4\n"},
         {"years 1 and 2, save", "klasse2b", {}, Years12, "click Kompetenzen.Command2\n"},
         {"years 1 and 2, leave with a save",
          "klasse2b",
@@ -74,6 +89,11 @@ const std::vector<Save>& allSaves() {
          Years34,
          "answer yes\nclick GSAGFI.Command1(1)\n"},
         {"master data, save", "klasse3a", {}, Pupils, "click GsBasis.Command1(0)\n"},
+        {"master data, a further save",
+         "klasse3a",
+         {},
+         PupilsAgain.c_str(),
+         "click GsBasis.Command1(0)\n"},
         {"master data, sort", "klasse3a", {}, Pupils, "click GsBasis.Command6\n"},
         {"master data, new list", "klasse3a", {}, Pupils, "click GsBasis.Command4(0)\n"},
         {"master data, delete a child", "klasse3a", {}, Pupils, "click GsBasis.Command4(1)\n"},
