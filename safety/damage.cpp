@@ -2,6 +2,7 @@
 
 #include "files/file_catalogue.h"
 #include "files/section_stores.h"
+#include "platform/failure.h"
 #include "platform/path_text.h"
 #include "platform/raw_file.h"
 #include "platform/whole_file.h"
@@ -19,16 +20,26 @@ namespace zeugnis::safety {
 namespace fs = std::filesystem;
 namespace {
 
-const std::string Data = utf8FromText(dateien::Daten);
+// Whatever its case; as it is written if it is not there.
+fs::path resolved(const Paths& paths, TextView name) {
+    try {
+        return Arbeitsverzeichnis(paths.program).path(name);
+    } catch (const Laufzeitfehler&) {
+        return paths.program / pathFromText(name);
+    }
+}
+
+fs::path dataFolder(const Paths& paths) { return resolved(paths, dateien::Daten); }
 
 // All files of Daten that have a form, and all that were there.
 std::set<std::string> filesToExamine(const Paths& paths, const Latest& latest) {
     std::set<std::string> names;
     std::error_code failed;
-    for (fs::directory_iterator entry(paths.program / Data, failed), end; !failed && entry != end;
+    std::error_code ignored;
+    for (fs::directory_iterator entry(dataFolder(paths), failed), end; !failed && entry != end;
          entry.increment(failed))
         if (const std::optional<std::string> name = paths.nameOf(entry->path());
-            name && Latest::covers(*name) && layoutOf(*name))
+            name && entry->is_regular_file(ignored) && Latest::covers(*name) && layoutOf(*name))
             names.insert(*name);
     for (const std::string& name : latest.names())
         if (layoutOf(name))
@@ -40,7 +51,7 @@ std::set<std::string> filesToExamine(const Paths& paths, const Latest& latest) {
 std::vector<fs::path> copiesOf(const Paths& paths, const std::string& name) {
     std::vector<std::pair<fs::file_time_type, fs::path>> dated;
     std::error_code ignored;
-    for (const fs::path& file : filesEndingIn(paths.program / Data / "Sicherheit", ".txt"))
+    for (const fs::path& file : filesEndingIn(dataFolder(paths) / "Sicherheit", ".txt"))
         for (const Speicherdatei& store : speicherdateien::Alle)
             if (sameIgnoringCase(shownName(name),
                                  Text(dateien::Daten) + u"\\" + Text(store.Datei)) &&
@@ -59,11 +70,13 @@ class Examination {
   public:
     explicit Examination(const fs::path& programFolder)
         : m_paths(programFolder), m_latest(programFolder), m_states(programFolder) {
-        const raw::Content names = raw::read(m_paths.program / Data / "Namen.Txt");
+        const fs::path list =
+            resolved(m_paths, Text(dateien::Daten) + u"\\" + Text(dateien::Namen));
+        const std::string name = m_paths.nameOf(list).value_or(std::string());
+        const raw::Content names = raw::read(list);
         m_size = classSizeOf(names.bytes);
         // A damaged list is no measure for the others.
-        if (const auto kept = m_latest.of(Data + "/Namen.Txt");
-            kept && flawOf(Data + "/Namen.Txt", names.bytes, m_size))
+        if (const auto kept = m_latest.of(name); kept && flawOf(name, names.bytes, m_size))
             m_size = classSizeOf(*kept);
     }
 
@@ -78,7 +91,12 @@ class Examination {
 
   private:
     std::optional<Finding> examineOne(const std::string& name) {
-        const raw::Content held = raw::read(*m_paths.fileOf(name));
+        const std::optional<fs::path> file = m_paths.fileOf(name);
+        std::error_code ignored;
+        // Reading anything else may never end.
+        if (!file || (fs::exists(*file, ignored) && !fs::is_regular_file(*file, ignored)))
+            return finding(name, {.kind = Damage::Unreadable}, {}, m_latest.of(name));
+        const raw::Content held = raw::read(*file);
         const std::optional<std::string> kept = m_latest.of(name);
         if (held.error == ENOENT)
             return finding(name, {.kind = Damage::Missing}, held.bytes, kept);

@@ -6,6 +6,7 @@
 #include "safety/records.h"
 
 #include <algorithm>
+#include <deque>
 #include <map>
 
 namespace zeugnis::safety {
@@ -28,11 +29,11 @@ class Pairing {
     }
 
     std::optional<size_t> take(const Record& former, size_t position) {
-        std::vector<size_t>& places = m_places[key(former, position)];
+        std::deque<size_t>& places = m_places[key(former, position)];
         if (places.empty())
             return std::nullopt;
         const size_t place = places.front();
-        places.erase(places.begin());
+        places.pop_front();
         return place;
     }
 
@@ -51,7 +52,7 @@ class Pairing {
     }
 
     const Layout& m_layout;
-    std::map<Text, std::vector<size_t>> m_places;
+    std::map<Text, std::deque<size_t>> m_places;
 };
 
 class Comparing {

@@ -9,6 +9,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace zeugnis::safety::test {
 namespace {
 namespace fs = std::filesystem;
@@ -101,6 +103,16 @@ TEST_F(DamageTest, IsNamedWithFileRecordAndField) {
     }
     folder.remove(Store);
     EXPECT_EQ(only().kind, Damage::Missing);
+    ASSERT_EQ(mkfifo((folder.path() / fs::path(Store)).c_str(), 0600), 0);
+    EXPECT_EQ(only().kind, Damage::Unreadable);
+}
+
+TEST_F(DamageTest, IsSeenWhateverTheCaseOfTheNames) {
+    fs::rename(folder.path() / "Daten/Namen.Txt", folder.path() / "Daten/NAMEN.TXT");
+    fs::rename(folder.path() / fs::path(Store), folder.path() / "Daten/avsvspeicher.TXT");
+    fs::remove_all(folder.path() / "Notsicherung");
+    folder.write(u"Daten/avsvspeicher.TXT", Saved.substr(0, Saved.find(u"3,\"3a\",\"Ç")));
+    EXPECT_EQ(only().kind, Damage::FewerRecords);
 }
 
 TEST_F(DamageTest, OfTheClassListIsNotMeasuredByItself) {
