@@ -58,7 +58,7 @@ Entry folderBehind(const fs::path& start, const std::vector<Text>& names, size_t
             folder = folder.parent_path();
             continue;
         }
-        const Entry next = entryIn(folder, names[i]);
+        Entry next = entryIn(folder, names[i]);
         if (!next.path)
             return next;
         std::error_code failed;

@@ -82,6 +82,7 @@ bool isStandard(const Text& name) {
 
 Text actionOf(const std::set<std::string>& names) {
     std::vector<Text> written;
+    written.reserve(names.size());
     for (const std::string& name : names)
         written.push_back(shownName(name));
     if (blanksAllStores(written) && !isIn(written, Namen))

@@ -100,9 +100,9 @@ class Comparing {
     }
 
     [[nodiscard]] Text nameOf(size_t field, size_t record) const {
-        const Text name = field < m_layout.fields.size()
-                              ? m_layout.fields[field]
-                              : u"Feld " + textFromNumber(static_cast<int>(field) + 1);
+        Text name = field < m_layout.fields.size()
+                        ? m_layout.fields[field]
+                        : u"Feld " + textFromNumber(static_cast<int>(field) + 1);
         if (m_layout.byPupil || m_layout.texts.empty() || m_layout.texts.front())
             return name;
         return u"Zeile " + textFromNumber(static_cast<int>(record) + 1) + u", " + name;

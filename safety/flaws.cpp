@@ -121,7 +121,7 @@ std::optional<Flaw> flawOf(const std::string& name, const std::string& content,
     const std::optional<Layout> layout = layoutOf(name);
     if (!layout)
         return std::nullopt;
-    if (const std::optional<Flaw> flaw = encodingFlaw(content))
+    if (std::optional<Flaw> flaw = encodingFlaw(content))
         return flaw;
     const bool wanted = layout->byPupil && layout->records == 0 && concerns(name, size);
     if (content.empty() && (layout->records > 0 || (wanted && !size.pupils.empty())))

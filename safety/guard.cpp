@@ -171,8 +171,7 @@ void Guard::setDown(std::vector<Former> files) {
     Unit& running = unit();
     std::string records;
     for (Former& file : files) {
-        std::string record = journalRecord(file, running.formers);
-        records = records.empty() ? std::move(record) : std::move(records) + record;
+        records += journalRecord(file, running.formers);
         running.known.insert(file.name);
         running.formers.push_back(std::move(file));
     }
