@@ -77,9 +77,13 @@ void Programm::moveFocus(Control* control) {
         left->onLostFocus();
 }
 
-Programm::Task::Task(Programm& programm) : m_programm(programm) { ++m_programm.m_runningTasks; }
+Programm::Task::Task(Programm& programm) : m_programm(programm) {
+    if (m_programm.m_runningTasks++ == 0)
+        m_unit.emplace(m_programm.directory().watcher());
+}
 
 Programm::Task::~Task() {
+    m_unit.reset();
     if (--m_programm.m_runningTasks == 0)
         m_programm.m_dropped.clear();
 }

@@ -3,10 +3,12 @@
 #include "controls/screen.h"
 #include "platform/machine.h"
 #include "platform/working_directory.h"
+#include "platform/write_watcher.h"
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zeugnis {
@@ -56,7 +58,7 @@ class Programm {
     void moveFocus(Control* control);
 
     /// Everything that runs handlers runs inside a task: screens that are dropped meanwhile live
-    /// until the outermost task ends.
+    /// until the outermost task ends. What the outermost task writes is one unit.
     class Task {
       public:
         explicit Task(Programm& programm);
@@ -66,6 +68,7 @@ class Programm {
 
       private:
         Programm& m_programm;
+        std::optional<WriteUnit> m_unit;
     };
 
   private:

@@ -7,6 +7,8 @@
 #include "platform/plain_machine.h"
 #include "platform/version.h"
 #include "program/all_screens.h"
+#include "safety/guard.h"
+#include "safety/recovery.h"
 #include "toolkit/qt_text.h"
 
 #include <QApplication>
@@ -17,18 +19,38 @@ namespace {
 
 using namespace zeugnis;
 
+// False if files may be half old and half new: then they had better not be read.
+bool startCleanly(Dialogs& dialogs, const std::filesystem::path& programFolder) {
+    const safety::Recovery recovery = safety::takeBackInterrupted(programFolder);
+    for (const auto* sentences : {&recovery.takenBack, &recovery.obstacles})
+        for (const Text& sentence : *sentences)
+            dialogs.message({.text = sentence, .symbol = Symbol::Ausrufezeichen});
+    return recovery.complete();
+}
+
 int run() {
     DesktopDialogs dialogs;
     DesktopClipboard clipboard;
     SystemCalendar calendar;
     DesktopPictures pictures;
     WordLauncher launcher(QApplication::applicationDirPath());
-    Programm program({dialogs, clipboard, calendar, pictures, launcher}, startFolder());
+    const std::filesystem::path programFolder = startFolder();
+    if (!startCleanly(dialogs, programFolder))
+        return 1;
+    safety::Guard guard(programFolder);
+    guard.thinOutStates();
+    Programm program({dialogs, clipboard, calendar, pictures, launcher}, programFolder);
+    program.directory().watchWrites(&guard);
     BildschirmeAnmelden(program);
 
     WindowHost host(program);
     dialogs.beforeBox = [&host] { host.refresh(); };
     dialogs.parent = [&host] { return host.dialogParent(); };
+    guard.onUnavailable = [&](const Text& sentence) {
+        QMetaObject::invokeMethod(
+            &host, [&dialogs, sentence] { dialogs.message({.text = sentence}); },
+            Qt::QueuedConnection);
+    };
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
         &host, [&] { host.run([&program] { program.show(bildschirme::GsStart); }); },

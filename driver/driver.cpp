@@ -68,7 +68,12 @@ const std::vector<Driver::Command>& Driver::commands() {
 
 Driver::Driver(std::ostream& out, const Surroundings& surroundings, DialogScript& script,
                Hand& hand)
-    : m_out(out), m_script(script), m_hand(hand), m_launcher(out), m_folder(surroundings.folder) {
+    : m_out(out),
+      m_script(script),
+      m_hand(hand),
+      m_launcher(out),
+      m_folder(surroundings.folder),
+      m_watcher(surroundings.watcher) {
     if (surroundings.date)
         m_calendar = std::make_unique<FixedCalendar>(*surroundings.date);
     else
@@ -130,6 +135,7 @@ void Driver::start(const Words&) {
         m_program = std::make_unique<Programm>(
             Machine{m_hand.dialogs(), m_hand.clipboard(), *m_calendar, m_pictures, m_launcher},
             m_folder);
+        m_program->directory().watchWrites(m_watcher);
         BildschirmeAnmelden(*m_program);
     }
     m_hand.start(*m_program);

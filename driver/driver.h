@@ -19,6 +19,7 @@ namespace zeugnis::driver {
 struct Surroundings {
     std::filesystem::path folder;
     std::optional<Text> date;
+    WriteWatcher* watcher = nullptr; ///< of what is written; must outlive the driver
 };
 
 /// What a program that drives takes: FOLDER [--date dd.mm.yyyy]. Nothing if it is something else.
@@ -88,6 +89,7 @@ class Driver {
     std::unique_ptr<Calendar> m_calendar;
     JpegMarkPictures m_pictures;
     std::filesystem::path m_folder;
+    WriteWatcher* m_watcher;
     std::unique_ptr<Programm> m_program;
     bool m_quit = false;
 };

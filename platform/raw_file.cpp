@@ -3,6 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -76,5 +77,70 @@ int replaceContentAndClose(int handle, std::string_view bytes) {
 }
 
 int remove(const std::filesystem::path& path) { return ::unlink(path.c_str()) == 0 ? 0 : errno; }
+
+Opened createNew(const std::filesystem::path& path) {
+    Opened opened;
+    opened.handle = // NOLINTNEXTLINE(*-vararg)
+        ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, NewFileMode);
+    opened.created = opened.handle >= 0;
+    if (!opened.created)
+        opened.error = errno;
+    return opened;
+}
+
+int write(int handle, std::string_view bytes) { return writeAll(handle, bytes); }
+
+int truncate(int handle, size_t length) {
+    return ::ftruncate(handle, static_cast<off_t>(length)) == 0 ? 0 : errno;
+}
+
+int sync(int handle) { return ::fsync(handle) == 0 ? 0 : errno; }
+
+int close(int handle) { return ::close(handle) == 0 ? 0 : errno; }
+
+Lock tryLock(int handle) {
+    if (::flock(handle, LOCK_EX | LOCK_NB) == 0)
+        return Lock::Taken;
+    return errno == EWOULDBLOCK ? Lock::Held : Lock::NotOffered;
+}
+
+int rename(const std::filesystem::path& from, const std::filesystem::path& to) {
+    return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+int syncFolder(const std::filesystem::path& folder) {
+    const int handle = // NOLINTNEXTLINE(*-vararg)
+        ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return errno;
+    int error = sync(handle);
+    // Some file systems know no such thing and need none.
+    if (error == EINVAL)
+        error = 0;
+    ::close(handle);
+    return error;
+}
+
+int replaceByRename(const std::filesystem::path& path, std::string_view bytes,
+                    Durability durability) {
+    std::filesystem::path beside = path;
+    beside += BesideEnding;
+    ::unlink(beside.c_str()); // what a killed program has left
+    const Opened opened = createNew(beside);
+    if (opened.error != 0)
+        return opened.error;
+    int error = writeAll(opened.handle, bytes);
+    if (error == 0 && durability == Durability::AtOnce)
+        error = sync(opened.handle);
+    if (const int closing = close(opened.handle); error == 0)
+        error = closing;
+    if (error == 0)
+        error = raw::rename(beside, path);
+    if (error != 0)
+        ::unlink(beside.c_str());
+    else if (durability == Durability::AtOnce)
+        error = syncFolder(path.parent_path());
+    return error;
+}
 
 } // namespace zeugnis::raw

@@ -30,4 +30,33 @@ int replaceContentAndClose(int handle, std::string_view bytes);
 
 int remove(const std::filesystem::path& path);
 
+/// A new file for writing; an error if there is anything of this name.
+Opened createNew(const std::filesystem::path& path);
+
+int write(int handle, std::string_view bytes);
+int truncate(int handle, size_t length);
+/// Has the machine put the file on the disk.
+int sync(int handle);
+int close(int handle);
+
+/// The exclusive lock of an open file, until it is closed or the program ends in any way.
+enum class Lock {
+    Taken,
+    Held,       ///< by another opening of the file
+    NotOffered, ///< files cannot be locked here
+};
+Lock tryLock(int handle);
+
+int rename(const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Puts the names in a folder on the disk: new ones, new names and deletions.
+int syncFolder(const std::filesystem::path& folder);
+
+enum class Durability { Eventually, AtOnce };
+
+/// Puts a file in the place of another, as a whole, by way of a file beside it with this ending.
+inline constexpr std::string_view BesideEnding = ".neu";
+int replaceByRename(const std::filesystem::path& path, std::string_view bytes,
+                    Durability durability);
+
 } // namespace zeugnis::raw

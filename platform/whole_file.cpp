@@ -3,10 +3,10 @@
 #include "platform/failure.h"
 #include "platform/path_text.h"
 #include "platform/raw_file.h"
+#include "platform/write_watcher.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <optional>
 #include <system_error>
 #include <vector>
 
@@ -72,10 +72,16 @@ Cause causeOf(int error) {
     }
 }
 
-[[noreturn]] void fail(int error, const Text& shownName, TextView action, TextView after = {}) {
+[[noreturn]] void fail(int error, const Arbeitsverzeichnis& directory, TextView name,
+                       TextView action, TextView after = {}) {
     const Cause cause = causeOf(error);
-    throw Laufzeitfehler(cause.kind, u"Die Datei „" + shownName + u"“ kann nicht " + Text(action) +
-                                         u" werden: " + Text(cause.sentence) + Text(after));
+    const bool missing =
+        cause.kind == Fehlerart::FileNotFound || cause.kind == Fehlerart::PathNotFound;
+    if (WriteWatcher* watcher = directory.watcher(); watcher != nullptr && !missing)
+        watcher->machineFailed();
+    throw Laufzeitfehler(cause.kind, u"Die Datei „" + directory.displayName(name) +
+                                         u"“ kann nicht " + Text(action) + u" werden: " +
+                                         Text(cause.sentence) + Text(after));
 }
 
 // A second chance for what stood there; the file is there already.
@@ -89,6 +95,31 @@ bool isRegularFile(const fs::path& path) {
     return fs::is_regular_file(path, ignored);
 }
 
+// Tells the watcher, if there is one, of a write and of its end.
+class Watched {
+  public:
+    Watched(const Arbeitsverzeichnis& directory, const fs::path& path, const FormerContent& former,
+            std::string_view bytes)
+        : m_watcher(directory.watcher()), m_path(path), m_bytes(bytes) {
+        if (m_watcher != nullptr)
+            m_watcher->beforeWrite(path, former, bytes);
+    }
+    ~Watched() {
+        if (m_watcher != nullptr)
+            m_watcher->afterWrite(m_path, m_bytes, m_done);
+    }
+    Watched(const Watched&) = delete;
+    Watched& operator=(const Watched&) = delete;
+
+    void done() { m_done = true; }
+
+  private:
+    WriteWatcher* m_watcher;
+    const fs::path& m_path;
+    std::string_view m_bytes;
+    bool m_done = false;
+};
+
 } // namespace
 
 bool hasFile(const Arbeitsverzeichnis& directory, TextView name) {
@@ -98,17 +129,17 @@ bool hasFile(const Arbeitsverzeichnis& directory, TextView name) {
 std::string readWholeFile(const Arbeitsverzeichnis& directory, TextView name) {
     raw::Content content = raw::read(directory.path(name));
     if (content.error != 0)
-        fail(content.error, directory.displayName(name), u"gelesen");
+        fail(content.error, directory, name, u"gelesen");
     return std::move(content.bytes);
 }
 
 void writeWholeFile(const Arbeitsverzeichnis& directory, TextView name, std::string_view bytes) {
     const fs::path path = directory.path(name);
-    const bool stood = isRegularFile(path);
-    std::optional<std::string> former;
-    if (stood)
+    FormerContent former{.stood = isRegularFile(path)};
+    if (former.stood)
         if (raw::Content content = raw::read(path); content.error == 0)
-            former = std::move(content.bytes);
+            former.bytes = std::move(content.bytes);
+    Watched watched(directory, path, former, bytes);
 
     const raw::Opened opened = raw::openForWriting(path);
     int error = opened.error;
@@ -116,14 +147,15 @@ void writeWholeFile(const Arbeitsverzeichnis& directory, TextView name, std::str
     if (error == 0) {
         error = raw::replaceContentAndClose(opened.handle, bytes);
         if (error == 0)
-            return;
+            return watched.done();
         if (opened.created)
             aftermath = raw::remove(path) == 0 ? Aftermath::Removed : Aftermath::Lost;
         else
-            aftermath = former && restore(path, *former) ? Aftermath::Restored : Aftermath::Lost;
+            aftermath = former.bytes && restore(path, *former.bytes) ? Aftermath::Restored
+                                                                     : Aftermath::Lost;
     }
-    fail(error, directory.displayName(name), u"geschrieben",
-         stood || opened.created ? aftermathSentence(aftermath) : TextView());
+    fail(error, directory, name, u"geschrieben",
+         former.stood || opened.created ? aftermathSentence(aftermath) : TextView());
 }
 
 void copyWholeFile(const Arbeitsverzeichnis& directory, TextView from, TextView to) {
@@ -140,8 +172,13 @@ void deleteFilesEndingIn(const Arbeitsverzeichnis& directory, TextView ending) {
         if (sameIgnoringCase(TextView(name).substr(stem), ending) && isRegularFile(entry->path()))
             doomed.push_back(entry->path());
     }
+    WriteWatcher* watcher = directory.watcher();
+    if (watcher != nullptr)
+        watcher->beforeRemoval(doomed);
     for (const fs::path& file : doomed)
         fs::remove(file, ignored);
+    if (watcher != nullptr)
+        watcher->afterRemoval(doomed);
 }
 
 } // namespace zeugnis

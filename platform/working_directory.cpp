@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "platform/path_text.h"
+#include "platform/write_watcher.h"
 
 #include <optional>
 #include <system_error>
@@ -68,10 +69,12 @@ Entry folderBehind(const fs::path& start, const std::vector<Text>& names, size_t
     return {folder};
 }
 
-[[noreturn]] void failWithout(bool sure, const Text& folder) {
+[[noreturn]] void failWithout(bool sure, const Text& folder, WriteWatcher* watcher) {
     if (sure)
         throw Laufzeitfehler(Fehlerart::PathNotFound,
                              u"Der Ordner " + folder + u" ist nicht vorhanden.");
+    if (watcher != nullptr)
+        watcher->machineFailed();
     throw Laufzeitfehler(Fehlerart::AccessDenied,
                          u"Der Ordner " + folder +
                              u" kann nicht geöffnet werden: Der Zugriff wurde verweigert, oder der "
@@ -104,7 +107,7 @@ void Arbeitsverzeichnis::change(TextView folder) {
     const std::vector<Text> names = components(folder);
     const Entry target = folderBehind(m_current, names, names.size());
     if (!target.path)
-        failWithout(target.sure, u"„" + displayName(folder) + u"“");
+        failWithout(target.sure, u"„" + displayName(folder) + u"“", m_watcher);
     m_current = *target.path;
 }
 
@@ -115,9 +118,13 @@ fs::path Arbeitsverzeichnis::path(TextView name) const {
     const Entry folder = folderBehind(m_current, names, names.size() - 1);
     std::error_code failed;
     if (!folder.path || !fs::is_directory(*folder.path, failed))
-        failWithout(folder.sure && isMissing(failed), u"zu „" + displayName(name) + u"“");
-    return entryIn(*folder.path, names.back())
-        .path.value_or(*folder.path / pathFromText(names.back()));
+        failWithout(folder.sure && isMissing(failed), u"zu „" + displayName(name) + u"“",
+                    m_watcher);
+    const Entry entry = entryIn(*folder.path, names.back());
+    // Else a file of another case might get a twin.
+    if (!entry.path && !entry.sure)
+        failWithout(false, u"zu „" + displayName(name) + u"“", m_watcher);
+    return entry.path.value_or(*folder.path / pathFromText(names.back()));
 }
 
 Text Arbeitsverzeichnis::displayName(TextView name) const {

@@ -6,6 +6,8 @@
 
 namespace zeugnis {
 
+class WriteWatcher;
+
 /// The program's working directory, as a value: the process itself never changes its own.
 /// Names are relative, may use "\" or "/", and resolve without regard to case.
 class Arbeitsverzeichnis {
@@ -27,9 +29,15 @@ class Arbeitsverzeichnis {
     [[nodiscard]] const std::filesystem::path& current() const { return m_current; }
     [[nodiscard]] const std::filesystem::path& programFolder() const { return m_base; }
 
+    /// Who watches what is written by way of this directory and its copies; null, as at first, for
+    /// nobody. Must outlive them.
+    [[nodiscard]] WriteWatcher* watcher() const { return m_watcher; }
+    void watchWrites(WriteWatcher* watcher) { m_watcher = watcher; }
+
   private:
     std::filesystem::path m_base;
     std::filesystem::path m_current;
+    WriteWatcher* m_watcher = nullptr;
 };
 
 /// The folder that the program was started in, which is the program folder. Fails with

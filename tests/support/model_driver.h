@@ -11,10 +11,11 @@ namespace zeugnis::test {
 /// The driver on the control model, printing to `out`. Today is 15.03.2027.
 class ModelDriver {
   public:
-    ModelDriver(std::ostream& out, const std::filesystem::path& folder)
+    ModelDriver(std::ostream& out, const std::filesystem::path& folder,
+                WriteWatcher* watcher = nullptr)
         : m_answers(out),
           m_hand(m_answers),
-          m_driver(out, {folder, u"15.03.2027"}, m_answers, m_hand) {}
+          m_driver(out, {folder, u"15.03.2027", watcher}, m_answers, m_hand) {}
 
     /// Plays the lines and returns the exit code.
     int play(const std::string& commands) {

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "safety/paths.h"
+
+namespace zeugnis::safety {
+
+/// A copy of each data file as the program has last written it, to see what others have changed.
+/// A copy that is missing or damaged is as good as none.
+class Latest {
+  public:
+    explicit Latest(const std::filesystem::path& programFolder) : m_paths(programFolder) {}
+    explicit Latest(const Paths& paths) : m_paths(paths) {}
+
+    /// Whether copies of the file are kept: of all in Daten but work files and dated copies.
+    [[nodiscard]] static bool covers(const std::string& name);
+
+    /// In place and not at once on the disk: it is for comparing. Gives 0 or the number of an
+    /// error.
+    int keep(const std::string& name, std::string_view content) const;
+
+    [[nodiscard]] std::optional<std::string> of(const std::string& name) const;
+
+    /// All files that there is a copy of, by name.
+    [[nodiscard]] std::vector<std::string> names() const;
+
+  private:
+    Paths m_paths;
+};
+
+} // namespace zeugnis::safety
