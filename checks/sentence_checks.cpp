@@ -34,22 +34,8 @@ constexpr auto MaennlicheWoerter = std::to_array<TextView>({
     u"Seinem",
     u"Seiner",
 });
-constexpr auto NurJungen = std::to_array<TextView>({
-    u"er",
-    u"Er",
-    u"ihm",
-    u"Ihm",
-    u"seine",
-    u"Seine",
-    u"seinen",
-    u"seiner",
-    u"seinem",
-    u"seines",
-    u"Sein",
-    u"Seinen",
-    u"Seinem",
-    u"Seiner",
-});
+// In a girl's text it may be what she does something with.
+constexpr TextView MeintAuchAnderes = u"ihn";
 constexpr auto WeiblicheWoerter = std::to_array<TextView>({
     u"sie",
     u"Sie",
@@ -143,7 +129,8 @@ void FuerwoerterPruefen(const Text& text, const Textumstand& umstand,
         bool eigenes = false;
         for (const Wort& wort : WoerterVon(ganzer)) {
             const bool fremd =
-                istJunge ? enthaelt(WeiblicheWoerter, wort.Text) : enthaelt(NurJungen, wort.Text);
+                istJunge ? enthaelt(WeiblicheWoerter, wort.Text)
+                         : wort.Text != MeintAuchAnderes && enthaelt(MaennlicheWoerter, wort.Text);
             if (fremd && fremdes.empty())
                 fremdes = wort.Text;
             // For a boy "sie" may be what he does something with; then he is there himself.

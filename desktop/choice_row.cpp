@@ -132,13 +132,13 @@ QColor ChoiceRow::outlineOf(const QColor& fill) const {
 
 void ChoiceRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QColor ink = isEnabled() ? theme::Ink : theme::InkDisabled;
+    const QColor ink = isEnabled() ? theme::Ink : theme::InkResting;
     QColor fill = m_tint.isValid() ? m_tint : QColor(Qt::transparent);
     if (!isEnabled() && m_tint.isValid())
         fill.setAlpha(110);
     theme::paintSurface(painter, rect().adjusted(0, 1, 0, -1), fill, outlineOf(fill), hasFocus());
     paintMark(painter, ink);
-    painter.setPen(isEnabled() ? theme::InkFaint : theme::InkDisabled);
+    painter.setPen(theme::InkFaint);
     const QRect area = textArea(width(), height());
     if (!m_keyHint.isEmpty())
         painter.drawText(QRect(area.left() - HintWidth, area.top(), HintWidth, area.height()),

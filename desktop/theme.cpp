@@ -22,9 +22,9 @@ QLineEdit { min-height: 30px; padding: 1px 8px; background: white;
 QLineEdit:focus { border: 2px solid #1F6F6B; padding: 0 7px; }
 QComboBox QAbstractItemView { padding: 4px; outline: none; background: white; }
 QComboBox QAbstractItemView::item { min-height: 26px; }
-QPlainTextEdit { border: 1px solid #C9C3B6; border-radius: 6px; padding: 4px 2px 4px 6px; }
+QPlainTextEdit { border: 1px solid #8C867A; border-radius: 6px; padding: 4px 2px 4px 6px; }
 QPlainTextEdit:focus { border: 2px solid #1F6F6B; padding: 3px 1px 3px 5px; }
-QPlainTextEdit[oneLine="true"] { padding: 1px 2px; background: white; border-color: #8C867A; }
+QPlainTextEdit[oneLine="true"] { padding: 1px 2px; background: white; }
 QPlainTextEdit[oneLine="true"]:focus { padding: 0 1px; border: 2px solid #1F6F6B; }
 QPlainTextEdit[oneLine="true"]:disabled { color: #3F464E; background: #F6F4EF;
     border-color: #E4DFD4; }
@@ -63,6 +63,10 @@ QFont scaledFont(double factor, QFont::Weight weight) {
 }
 
 QColor fromFarbwert(Farbwert value, const QColor& plain) {
+    // White can be read on a slightly darker red only.
+    constexpr Farbwert Red = 0x0000FF;
+    if (value == Red)
+        return {0xD9, 0x00, 0x00};
     return value == Fensterfarbe ? plain : unpacked(value);
 }
 
@@ -80,6 +84,15 @@ void paintSurface(QPainter& painter, const QRect& area, const QColor& fill, cons
     painter.setBrush(fill);
     const double inset = width / 2;
     painter.drawRoundedRect(QRectF(area).adjusted(inset, inset, -inset, -inset), Radius, Radius);
+    if (!focused)
+        return;
+    // So that the ring is seen on any colour.
+    constexpr double Halo = 1.5;
+    const double inner = width + Halo / 2;
+    painter.setPen(QPen(Qt::white, Halo));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(area).adjusted(inner, inner, -inner, -inner), Radius - 2,
+                            Radius - 2);
 }
 
 } // namespace zeugnis::theme

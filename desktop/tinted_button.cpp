@@ -125,8 +125,6 @@ void TintedButton::paintEvent(QPaintEvent*) {
     } else if (underMouse()) {
         fill = fill.darker(105);
     }
-    if (m_role == Role::Quiet && !m_tint.isValid())
-        outline = theme::Outline;
     theme::paintSurface(painter, rect(), fill, outline, hasFocus());
     if (m_marked) {
         painter.setPen(Qt::NoPen);

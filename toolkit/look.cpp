@@ -49,7 +49,8 @@ QPalette palette() {
     palette.setColor(QPalette::HighlightedText, Qt::white);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, Ink);
-        palette.setColor(QPalette::Disabled, role, InkDisabled);
+        palette.setColor(QPalette::Disabled, role,
+                         role == QPalette::ButtonText ? InkDisabled : InkResting);
     }
     return palette;
 }

@@ -119,18 +119,7 @@ class ComposedRemarks : public test::TestInstallation {
         }
         std::ostringstream events;
         EXPECT_EQ(test::ModelDriver(events, path()).play(script + "quit\n"), 0) << events.str();
-        std::vector<Text> found;
-        std::istringstream lines(events.str());
-        for (std::string line; std::getline(lines, line);) {
-            const size_t start = line.find(" = \"");
-            if (start == std::string::npos)
-                continue;
-            Text text = textFromUtf8(line.substr(start + 4, line.size() - start - 5));
-            for (size_t i = text.find(u"\\r\\n"); i != Text::npos; i = text.find(u"\\r\\n"))
-                text.replace(i, 4, u"\n");
-            found.push_back(std::move(text));
-        }
-        return found;
+        return test::textsIn(events.str());
     }
 
   private:

@@ -117,19 +117,8 @@ class DriverRun {
     std::vector<Text> results() {
         std::ostringstream events;
         EXPECT_EQ(test::ModelDriver(events, m_folder).play(m_script + "quit\n"), 0) << events.str();
-        std::vector<Text> texts;
-        std::istringstream lines(events.str());
-        for (std::string line; std::getline(lines, line);) {
-            EXPECT_EQ(line.find("unreachable"), std::string::npos) << line;
-            const size_t start = line.find(" = \"");
-            if (start == std::string::npos)
-                continue;
-            Text text = textFromUtf8(line.substr(start + 4, line.size() - start - 5));
-            for (size_t i = text.find(u"\\r\\n"); i != Text::npos; i = text.find(u"\\r\\n"))
-                text.replace(i, 4, u"\n");
-            texts.push_back(std::move(text));
-        }
-        return texts;
+        EXPECT_EQ(events.str().find("unreachable"), std::string::npos) << events.str();
+        return test::textsIn(events.str());
     }
 
   private:

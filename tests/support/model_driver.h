@@ -5,6 +5,8 @@
 
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace zeugnis::test {
 
@@ -28,5 +30,21 @@ class ModelDriver {
     driver::ModelHand m_hand;
     driver::Driver m_driver;
 };
+
+/// The texts among the answers to `get`, in their order, with "\n" for their line ends.
+inline std::vector<Text> textsIn(const std::string& events) {
+    std::vector<Text> texts;
+    std::istringstream lines(events);
+    for (std::string line; std::getline(lines, line);) {
+        const size_t start = line.find(" = \"");
+        if (start == std::string::npos)
+            continue;
+        Text text = textFromUtf8(line.substr(start + 4, line.size() - start - 5));
+        for (size_t i = text.find(u"\\r\\n"); i != Text::npos; i = text.find(u"\\r\\n"))
+            text.replace(i, 4, u"\n");
+        texts.push_back(std::move(text));
+    }
+    return texts;
+}
 
 } // namespace zeugnis::test
