@@ -93,7 +93,7 @@ QWidget* ReviewView::text() {
         shown = widget->toPlainText();
     });
     QStringList headings;
-    for (const TextView heading : GsAnzeige::Ueberschriften())
+    for (const Text& heading : GsAnzeige::Ueberschriften())
         headings << qString(heading);
     new ReviewHeadings(widget->document(), headings);
     return widget;

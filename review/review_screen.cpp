@@ -21,26 +21,26 @@ constexpr size_t Linienlaenge = 65;
 constexpr int Interessen = 2;
 constexpr int FoerderAG = 10;
 
-constexpr TextView InteressenUnten = u"Interessen und Fertigkeiten:";
-constexpr TextView InteressenOben = u"Besondere Interessen:";
+constexpr TextView InteressenUnten = u"Interessen und Fertigkeiten";
+constexpr TextView InteressenOben = u"Besondere Interessen";
 
 struct Abschnitt {
     int Box;
-    TextView Ueberschrift; ///< empty where it goes by year
+    TextView Ueberschrift; ///< without its colon; empty where it goes by year
 };
 // In the order of the text.
 constexpr std::array<Abschnitt, GsAnzeige::Abschnittszahl> Abschnitte = std::to_array<Abschnitt>({
-    {0, u"Arbeitsverhalten:"},
-    {1, u"Sozialverhalten:"},
+    {0, u"Arbeitsverhalten"},
+    {1, u"Sozialverhalten"},
     {Interessen, {}},
-    {3, u"Sprechen und Zuhören:"},
-    {4, u"Lesen und mit Texten umgehen:"},
-    {5, u"Schreiben, Texte verfassen:"},
-    {6, u"Zahlen und Operationen:"},
-    {7, u"Größen und Messen:"},
-    {8, u"Raum und Form:"},
-    {FoerderAG, u"Förder und Arbeitsgemeinschaften:"},
-    {9, u"Bemerkungen:"},
+    {3, Kompetenzbereiche[0]},
+    {4, Kompetenzbereiche[1]},
+    {5, Kompetenzbereiche[2]},
+    {6, Kompetenzbereiche[3]},
+    {7, Kompetenzbereiche[4]},
+    {8, Kompetenzbereiche[5]},
+    {FoerderAG, u"Förder und Arbeitsgemeinschaften"},
+    {9, u"Bemerkungen"},
 });
 
 // Which box the texts of a store belong to, in the order of its fields.
@@ -48,15 +48,17 @@ constexpr std::array<int, AbschnitteAVSV> BoxenAVSV = std::to_array({0, 1});
 constexpr std::array<int, Abschnitte12> Boxen12 = std::to_array({Interessen, 3, 4, 5, 6, 7, 8, 9});
 constexpr std::array<int, Abschnitte34> Boxen34 = std::to_array({FoerderAG, Interessen, 9});
 
+Text mitDoppelpunkt(TextView ueberschrift) { return Text(ueberschrift) + u":"; }
+
 Text trennlinie() { return Text(Linienlaenge, u'_'); }
 
 } // namespace
 
-std::vector<TextView> GsAnzeige::Ueberschriften() {
-    std::vector<TextView> alle = {InteressenUnten, InteressenOben};
+std::vector<Text> GsAnzeige::Ueberschriften() {
+    std::vector<Text> alle = {mitDoppelpunkt(InteressenUnten), mitDoppelpunkt(InteressenOben)};
     for (const Abschnitt& abschnitt : Abschnitte)
         if (!abschnitt.Ueberschrift.empty())
-            alle.push_back(abschnitt.Ueberschrift);
+            alle.push_back(mitDoppelpunkt(abschnitt.Ueberschrift));
     return alle;
 }
 
@@ -70,11 +72,9 @@ GsAnzeige::GsAnzeige(Programm& programm)
 
 void GsAnzeige::EntwurfSetzen() {
     Label1.Caption = u"Wählen Sie unten die anzuzeigenden Inhalte aus!";
-    // A caption is the heading without its colon, but for the two that go by year.
     for (const Abschnitt& abschnitt : Abschnitte)
-        Check1(abschnitt.Box).Caption =
-            abschnitt.Ueberschrift.substr(0, abschnitt.Ueberschrift.rfind(u':'));
-    Check1(Interessen).Caption = u"Interessen und Fertigkeiten";
+        Check1(abschnitt.Box).Caption = abschnitt.Ueberschrift;
+    Check1(Interessen).Caption = InteressenUnten;
     Check1(FoerderAG).Caption = u"Förder und AG";
     Text1.Locked = true;
     Command1(0).Caption = u"Text laden";
@@ -125,7 +125,7 @@ void GsAnzeige::TexteLesen() {
         return;
     for (int box = 3; box <= 8; ++box)
         Check1(box).Visible = false;
-    Check1(Interessen).Caption = InteressenOben;
+    Check1(Interessen).Caption = mitDoppelpunkt(InteressenOben);
 }
 
 bool GsAnzeige::etwasGewaehlt() const {
@@ -172,8 +172,9 @@ Text GsAnzeige::KlassenTextBilden() const {
                 continue;
             if (abschnitt.Box != 0)
                 klasse += ende;
-            klasse += abschnitt.Box == Interessen ? (istUnten() ? InteressenUnten : InteressenOben)
-                                                  : abschnitt.Ueberschrift;
+            klasse += mitDoppelpunkt(abschnitt.Box != Interessen ? abschnitt.Ueberschrift
+                                     : istUnten()                ? InteressenUnten
+                                                                 : InteressenOben);
             klasse += ende;
             klasse += Texte[abschnitt.Box][platz];
             klasse += ende;

@@ -24,7 +24,7 @@ class GsAnzeige : public Screen {
     static constexpr int Abschnittszahl = 11; ///< the boxes Check1(0) to Check1(10)
 
     /// All headings that can stand in the text.
-    static std::vector<TextView> Ueberschriften();
+    static std::vector<Text> Ueberschriften();
 
     Schuldaten Schule;
     Namensliste Liste;

@@ -6,6 +6,7 @@
 #include "documents/pdf/pdf_writer.h"
 #include "files/file_catalogue.h"
 #include "platform/failure.h"
+#include "platform/path_text.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
@@ -83,7 +84,7 @@ std::vector<Text> Kopfbilder(Arbeitsverzeichnis& verzeichnis) {
     std::error_code ignored;
     for (const fs::directory_entry& eintrag :
          fs::directory_iterator(verzeichnis.path(dateien::Bild), ignored)) {
-        const Text datei = eintrag.path().filename().u16string();
+        const Text datei = textFromPath(eintrag.path().filename());
         bool vonKind = sameIgnoringCase(datei, dateien::Smili);
         for (int platz = 0; platz < liste.Schuelerzahl; ++platz)
             vonKind =

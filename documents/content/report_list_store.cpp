@@ -2,6 +2,7 @@
 
 #include "documents/content/wording.h"
 #include "platform/failure.h"
+#include "platform/path_text.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
@@ -164,8 +165,7 @@ Text LetzteKopie(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten)
     std::error_code ignored;
     for (fs::directory_iterator entry(verzeichnis.current(), ignored), end;
          !ignored && entry != end; entry.increment(ignored)) {
-        const std::u8string utf8 = entry->path().filename().u8string();
-        const Text name = textFromUtf8(std::string(utf8.begin(), utf8.end()));
+        const Text name = textFromPath(entry->path().filename());
         if (const Text schluessel = altersschluessel(stamm, name); !schluessel.empty())
             kopien[schluessel] = name;
     }

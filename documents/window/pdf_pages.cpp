@@ -1,6 +1,7 @@
 #include "documents/window/pdf_pages.h"
 
 #include "platform/failure.h"
+#include "platform/path_text.h"
 #include "platform/whole_file.h"
 
 #include <poppler-qt6.h>
@@ -9,9 +10,7 @@ namespace zeugnis::dokumente {
 namespace {
 
 std::string fileBytes(const std::filesystem::path& file) {
-    const std::u8string name = file.filename().u8string();
-    return readWholeFile(Arbeitsverzeichnis(file.parent_path()),
-                         textFromUtf8(std::string(name.begin(), name.end())));
+    return readWholeFile(Arbeitsverzeichnis(file.parent_path()), textFromPath(file.filename()));
 }
 
 std::unique_ptr<Poppler::Document> loaded(const QByteArray& bytes) {
