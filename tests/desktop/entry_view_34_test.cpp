@@ -74,33 +74,5 @@ TEST_F(EntryView34Test, ShowsEveryInscriptionWholeAndNamesEveryWidget) {
     }
 }
 
-TEST_F(EntryView34Test, PictureIsTickedAndItsSentenceShown) {
-    turnTo(1);
-    auto* badge = named<ChoiceRow>(QStringLiteral("Radfahrprüfung"));
-    auto* text = named<QPlainTextEdit>(QStringLiteral("Zeugnistext zu den Interessen"));
-    QTest::mouseClick(badge, Qt::LeftButton);
-    EXPECT_TRUE(badge->isChecked());
-    EXPECT_EQ(text->toPlainText(), QStringLiteral("Die Radfahrprüfung hat Mats bestanden. "));
-    QTest::keyClick(badge, Qt::Key_Space);
-    EXPECT_FALSE(badge->isChecked());
-    EXPECT_EQ(text->toPlainText(), QString());
-}
-
-TEST_F(EntryView34Test, PageTakesNoChoiceWhileTheSignStandsOverIt) {
-    turnTo(2);
-    host.run([this] { user::click(screen->Check2(0)); });
-    auto* text = named<QPlainTextEdit>(QStringLiteral("Zeugnistext zu den Bemerkungen"));
-    QTest::mouseClick(text->viewport(), Qt::LeftButton);
-    EXPECT_NE(named<QWidget>(QStringLiteral("Der Text ist gesperrt")), nullptr);
-    const QString before = text->toPlainText();
-    EXPECT_FALSE(before.isEmpty());
-    for (auto* row : window->findChildren<ChoiceRow*>())
-        if (row->isVisible())
-            QTest::mouseClick(row, Qt::LeftButton);
-    EXPECT_EQ(text->toPlainText(), before);
-    QTest::keyClicks(text, QStringLiteral("x"));
-    EXPECT_EQ(text->toPlainText().size(), before.size() + 1);
-}
-
 } // namespace
 } // namespace zeugnis::test
