@@ -61,6 +61,7 @@ std::vector<fs::path> copiesOf(const Paths& paths, const std::string& name) {
                 dated.emplace_back(fs::last_write_time(file, ignored), file);
     std::sort(dated.rbegin(), dated.rend());
     std::vector<fs::path> files;
+    files.reserve(dated.size());
     for (auto& [time, file] : dated)
         files.push_back(std::move(file));
     return files;

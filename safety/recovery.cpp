@@ -24,6 +24,7 @@ Text whenAndWhat(const Journal& journal) {
 
 Text namesOf(const std::vector<std::string>& files) {
     std::vector<Text> names;
+    names.reserve(files.size());
     for (const std::string& file : files)
         names.push_back(shownName(file));
     return enumerated(names);

@@ -109,6 +109,7 @@ std::vector<Former> States::allBefore(const std::string& id) const {
                 files.try_emplace(one.name, one);
     }
     std::vector<Former> all;
+    all.reserve(files.size());
     for (auto& [name, one] : files)
         all.push_back(std::move(one));
     return all;

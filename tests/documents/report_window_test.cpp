@@ -84,7 +84,7 @@ TEST_F(ReportWindowTest, TheLayoutShowsEachChoiceOnThePagesAndKeepsIt) {
     const test::TemporaryFolder folder;
     EXPECT_EQ(Kopfbilder(verzeichnis), (std::vector<Text>{u"ZeugnKOPF.jpg"}));
     LayoutDialog dialog({}, Kopfbilder(verzeichnis), [&](const Zeugnisaufbau& aufbau) {
-        const auto pdf = ProbezeugnisSchreiben(verzeichnis, aufbau, folder.path());
+        auto pdf = ProbezeugnisSchreiben(verzeichnis, aufbau, folder.path());
         shown = textOfPages(pdf);
         return pdf;
     });
