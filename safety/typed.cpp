@@ -67,21 +67,21 @@ std::vector<Former> withTyped(const Paths& paths, const std::vector<Typed>& all)
 TypedStore::TypedStore(const fs::path& programFolder, Clock clock)
     : m_paths(programFolder),
       m_clock(std::move(clock)),
-      m_session(journalStem(m_clock(), 0) + '-' + std::to_string(::getpid())) {}
+      m_run(journalStem(m_clock(), 0) + '-' + std::to_string(::getpid())) {}
 
-fs::path TypedStore::fileOf(const std::string& session) const {
-    return m_paths.typed / (session + std::string(Ending));
+fs::path TypedStore::fileOf(const std::string& run) const {
+    return m_paths.typed / (run + std::string(Ending));
 }
 
-int TypedStore::write(const std::string& session, Moment when, const Screens& screens) const {
-    const fs::path file = fileOf(session);
+int TypedStore::write(const std::string& run, Moment when, const Screens& screens) const {
+    const fs::path file = fileOf(run);
     if (screens.empty()) {
         const int error = raw::remove(file);
         return error == 0 ? raw::syncFolder(m_paths.typed) : error == ENOENT ? 0 : error;
     }
     if (const int error = makeFolder(m_paths, m_paths.typed); error != 0)
         return error;
-    return raw::replaceByRename(file, sessionBytes({when, screens}), raw::Durability::AtOnce);
+    return raw::replaceByRename(file, runBytes({when, screens}), raw::Durability::AtOnce);
 }
 
 int TypedStore::set(const Text& screen, const std::vector<Typed>& all) {
@@ -92,7 +92,7 @@ int TypedStore::set(const Text& screen, const std::vector<Typed>& all) {
         m_screens.erase(found);
     else
         m_screens[screen] = all;
-    return write(m_session, m_clock(), m_screens);
+    return write(m_run, m_clock(), m_screens);
 }
 
 int TypedStore::discard(const Text& screen, const Text& action) {
@@ -112,43 +112,43 @@ std::vector<Offer> TypedStore::offers() {
     for (const fs::path& file : files) {
         const std::string name = file.stem().string();
         const raw::Content content = raw::read(file);
-        if (name == m_session || content.error != 0)
+        if (name == m_run || content.error != 0)
             continue;
-        const std::optional<Session> session = sessionFrom(content.bytes);
-        if (!session) {
+        const std::optional<Run> run = runFrom(content.bytes);
+        if (!run) {
             fs::path aside = file;
             aside += Damaged;
             raw::rename(file, aside);
             continue;
         }
-        if (m_clock() - session->when > TypedKept) {
+        if (m_clock() - run->when > TypedKept) {
             raw::remove(file);
             continue;
         }
-        for (const auto& [screen, typed] : session->screens)
+        for (const auto& [screen, typed] : run->screens)
             for (const Typed& one : typed) {
                 const Place place(one, contentOf(m_paths, one.file));
                 const Text inFile = place.field() != nullptr ? place.field()->value : Text();
                 if (inFile != one.value)
                     all.push_back(
-                        {name, session->when, screen, one, place.fieldName(one.field), inFile});
+                        {name, run->when, screen, one, place.fieldName(one.field), inFile});
             }
     }
     return all;
 }
 
 int TypedStore::settle(const Offer& offer) {
-    const raw::Content content = raw::read(fileOf(offer.session));
+    const raw::Content content = raw::read(fileOf(offer.run));
     if (content.error != 0)
         return content.error == ENOENT ? 0 : content.error;
-    std::optional<Session> session = sessionFrom(content.bytes);
-    if (!session || offer.session == m_session)
+    std::optional<Run> run = runFrom(content.bytes);
+    if (!run || offer.run == m_run)
         return 0;
-    std::vector<Typed>& typed = session->screens[offer.screen];
+    std::vector<Typed>& typed = run->screens[offer.screen];
     std::erase(typed, offer.typed);
     if (typed.empty())
-        session->screens.erase(offer.screen);
-    return write(offer.session, session->when, session->screens);
+        run->screens.erase(offer.screen);
+    return write(offer.run, run->when, run->screens);
 }
 
 } // namespace zeugnis::safety

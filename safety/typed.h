@@ -21,9 +21,9 @@ struct Typed {
     bool operator==(const Typed&) const = default;
 };
 
-/// What an earlier session has left.
+/// What an earlier run has left.
 struct Offer {
-    std::string session;
+    std::string run;
     Moment when{}; ///< set down for the last time
     Text screen;
     Typed typed;
@@ -31,7 +31,7 @@ struct Offer {
     Text inFile;    ///< what the file holds there now
 };
 
-/// Keeps what no file holds yet: one file for each session, replaced as a whole and on the disk
+/// Keeps what no file holds yet: one file for each run, replaced as a whole and on the disk
 /// when the call returns. Everything here works on Notsicherung only.
 class TypedStore {
   public:
@@ -45,7 +45,7 @@ class TypedStore {
     /// as the files have a place for it, and is not offered again.
     int discard(const Text& screen, const Text& action);
 
-    /// What earlier sessions have left and the files do not hold, the newest session first. Gives
+    /// What earlier runs have left and the files do not hold, the newest run first. Gives
     /// up what is older than 30 days; a file that is damaged is set aside.
     std::vector<Offer> offers();
 
@@ -55,12 +55,12 @@ class TypedStore {
   private:
     using Screens = std::map<Text, std::vector<Typed>>;
 
-    [[nodiscard]] std::filesystem::path fileOf(const std::string& session) const;
-    [[nodiscard]] int write(const std::string& session, Moment when, const Screens& screens) const;
+    [[nodiscard]] std::filesystem::path fileOf(const std::string& run) const;
+    [[nodiscard]] int write(const std::string& run, Moment when, const Screens& screens) const;
 
     Paths m_paths;
     Clock m_clock;
-    std::string m_session;
+    std::string m_run;
     Screens m_screens;
 };
 

@@ -64,9 +64,9 @@ std::optional<size_t> numberIn(const std::string& text) {
 
 } // namespace
 
-std::string sessionBytes(const Session& session) {
-    std::string content = stampOf(session.when) + '\n';
-    for (const auto& [screen, all] : session.screens)
+std::string runBytes(const Run& run) {
+    std::string content = stampOf(run.when) + '\n';
+    for (const auto& [screen, all] : run.screens)
         for (const Typed& one : all)
             content += escaped(utf8FromText(screen)) + '\t' + escaped(one.file) + '\t' +
                        escaped(utf8FromText(one.pupil)) + '\t' + std::to_string(one.number) + '\t' +
@@ -74,7 +74,7 @@ std::string sessionBytes(const Session& session) {
     return sealed(Kind, content);
 }
 
-std::optional<Session> sessionFrom(std::string_view bytes) {
+std::optional<Run> runFrom(std::string_view bytes) {
     const std::optional<std::string> content = unsealed(Kind, bytes);
     if (!content)
         return std::nullopt;
@@ -82,7 +82,7 @@ std::optional<Session> sessionFrom(std::string_view bytes) {
     const std::optional<Moment> when = momentFrom(lines.front());
     if (!when)
         return std::nullopt;
-    Session session{*when, {}};
+    Run run{*when, {}};
     lines.erase(lines.begin());
     for (const std::string& line : lines) {
         const std::vector<std::string> fields = split(line, '\t');
@@ -91,11 +91,11 @@ std::optional<Session> sessionFrom(std::string_view bytes) {
         const std::optional<size_t> number = numberIn(fields[3]);
         const std::optional<size_t> field = numberIn(fields[4]);
         if (number && field)
-            session.screens[textFromUtf8(unescaped(fields[0]))].push_back(
+            run.screens[textFromUtf8(unescaped(fields[0]))].push_back(
                 {unescaped(fields[1]), textFromUtf8(unescaped(fields[2])), *number, *field,
                  textFromUtf8(unescaped(fields[5]))});
     }
-    return session;
+    return run;
 }
 
 } // namespace zeugnis::safety

@@ -4,14 +4,14 @@
 
 namespace zeugnis::safety {
 
-struct Session {
+struct Run {
     Moment when{};
     std::map<Text, std::vector<Typed>> screens;
 };
 
-std::string sessionBytes(const Session& session);
+std::string runBytes(const Run& run);
 
 /// Empty if it is not whole.
-std::optional<Session> sessionFrom(std::string_view bytes);
+std::optional<Run> runFrom(std::string_view bytes);
 
 } // namespace zeugnis::safety

@@ -19,7 +19,7 @@ const Text Screen = u"GsArbeitsverhalten";
 
 class TypedTest : public testing::Test {
   protected:
-    [[nodiscard]] TypedStore session() {
+    [[nodiscard]] TypedStore run() {
         clock += std::chrono::minutes(1);
         return TypedStore(folder.path(), [this] { return clock; });
     }
@@ -40,12 +40,12 @@ class TypedTest : public testing::Test {
 };
 
 TEST_F(TypedTest, IsOfferedToTheNextSessionBesideWhatTheFilesHold) {
-    TypedStore killed = session();
+    TypedStore killed = run();
     EXPECT_EQ(killed.set(Screen, {text, lock}), 0);
     EXPECT_EQ(killed.set(u"Kompetenzen", {modul}), 0);
     EXPECT_THAT(killed.offers(), IsEmpty());
 
-    TypedStore next = session();
+    TypedStore next = run();
     const std::vector<Offer> offers = next.offers();
     ASSERT_THAT(offers, SizeIs(3));
     EXPECT_EQ(offers[0].screen, Screen);
@@ -56,32 +56,32 @@ TEST_F(TypedTest, IsOfferedToTheNextSessionBesideWhatTheFilesHold) {
     EXPECT_EQ(offers[2].typed, modul);
     EXPECT_EQ(offers[2].inFile, u"Es gab keine AG");
 
-    // What was taken or refused goes, one by one, and what this session types stays.
+    // What was taken or refused goes, one by one, and what this run types stays.
     EXPECT_EQ(next.set(Screen, {lock}), 0);
     EXPECT_EQ(next.settle(offers[0]), 0);
     EXPECT_THAT(next.offers(), SizeIs(2));
     EXPECT_EQ(next.settle(offers[1]), 0);
     EXPECT_EQ(next.settle(offers[2]), 0);
     EXPECT_THAT(next.offers(), IsEmpty());
-    EXPECT_THAT(session().offers(), SizeIs(1));
+    EXPECT_THAT(run().offers(), SizeIs(1));
 }
 
 TEST_F(TypedTest, WhatIsSavedOrInTheFilesIsNotOffered) {
-    TypedStore first = session();
+    TypedStore first = run();
     first.set(Screen, {text, lock});
     first.set(Screen, {});
     EXPECT_THAT(files(), IsEmpty());
     first.set(Screen, {{"Daten/AVSVWahl.txt", u"Ahlers, Tom", 0, 4, u"0"}});
-    EXPECT_THAT(session().offers(), IsEmpty());
+    EXPECT_THAT(run().offers(), IsEmpty());
 }
 
 TEST_F(TypedTest, WhatIsDiscardedGoesToTheFormerStatesAndComesBackFromThere) {
-    TypedStore store = session();
+    TypedStore store = run();
     Typed plain = text;
     plain.value = u"Tom \"übt\".";
     store.set(Screen, {plain, lock});
     EXPECT_EQ(store.discard(Screen, u"Verworfen: Arbeits- und Sozialverhalten"), 0);
-    EXPECT_THAT(session().offers(), IsEmpty());
+    EXPECT_THAT(run().offers(), IsEmpty());
     const std::vector<State> states = States(folder.path()).list();
     ASSERT_THAT(states, SizeIs(1));
     EXPECT_EQ(states[0].action, u"Verworfen: Arbeits- und Sozialverhalten");
@@ -98,20 +98,20 @@ TEST_F(TypedTest, WhatIsDiscardedGoesToTheFormerStatesAndComesBackFromThere) {
 }
 
 TEST_F(TypedTest, IsKeptForThirtyDaysAndNotAgainstDamage) {
-    session().set(Screen, {text});
+    run().set(Screen, {text});
     clock += std::chrono::days(30);
-    EXPECT_THAT(session().offers(), IsEmpty());
+    EXPECT_THAT(run().offers(), IsEmpty());
     EXPECT_THAT(files(), IsEmpty());
     folder.write(u"Notsicherung/Getippt/x.getippt", u"Unfug");
     folder.write(u"Notsicherung/Getippt/y.getippt", {});
-    EXPECT_THAT(session().offers(), IsEmpty());
+    EXPECT_THAT(run().offers(), IsEmpty());
     EXPECT_THAT(files(), ElementsAre(".beschaedigt", ".beschaedigt"));
 }
 
 TEST_F(TypedTest, SaysThatItCannotBeKept) {
     folder.write(u"Notsicherung", u"kein Ordner");
-    EXPECT_NE(session().set(Screen, {text}), 0);
-    EXPECT_THAT(session().offers(), IsEmpty());
+    EXPECT_NE(run().set(Screen, {text}), 0);
+    EXPECT_THAT(run().offers(), IsEmpty());
 }
 
 } // namespace
