@@ -30,6 +30,10 @@ inline constexpr auto Kompetenzbereiche = std::to_array<TextView>({
 });
 static_assert(Kompetenzbereiche.size() + 2 == Abschnitte12);
 
+/// A lock is 1 where a text stands and its page takes no choices, 0 where it does. What else a file
+/// may hold shows and hides nothing.
+constexpr bool IstSperre(int wert) { return wert == 0 || wert == 1; }
+
 struct Speicherdatei {
     TextView Datei;
     TextView Kopie; ///< stem of the copies in Sicherheit, in front of the date

@@ -13,8 +13,6 @@ struct Speicher12 {
     Bereichstabelle<Schuelertabelle<int>> Sperre;
 };
 
-inline bool IstSperre(int wert) { return wert == 0 || wert == 1; }
-
 /// Reads both files. Records belong to the children by their place alone. Each area that has a text
 /// is locked, as far as 12Sperre.txt reaches. A 37th record fails with index-out-of-range.
 void SpeicherLaden(Arbeitsverzeichnis& verzeichnis, Speicher12& speicher);

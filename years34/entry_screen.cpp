@@ -155,7 +155,7 @@ void GSAGFI::NeuTasteAktualisieren() {
 
 void GSAGFI::SperreAnzeigen() {
     const int sperre = sperreVon(Seite);
-    if (sperre == 0 || sperre == 1) {
+    if (IstSperre(sperre)) {
         Picture2.Visible = sperre == 1;
         rahmen(Seite).Enabled = sperre == 0;
     }
