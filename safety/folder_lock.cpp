@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::string_view Kind = "zeugnis-offen";
 
+constexpr const char* Stem = "Offen";
+
 // The lock of the machine lies in a file of its own: the other one is replaced at each beat.
 fs::path lockFile(const Paths& paths) { return paths.root / "Offen.sperre"; }
 fs::path holderFile(const Paths& paths) { return paths.root / "Offen.txt"; }
@@ -65,6 +67,8 @@ Holder thisProgram(Moment since) {
 
 FolderLock::FolderLock(const fs::path& programFolder, Holder self)
     : m_paths(programFolder), m_self(std::move(self)) {}
+
+bool FolderLock::isItsFile(const fs::path& file) { return file.stem() == Stem; }
 
 FolderLock::~FolderLock() { letGo(); }
 

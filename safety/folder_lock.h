@@ -41,6 +41,9 @@ class FolderLock {
         Holder holder{}; ///< of Held and HeldFarAway
     };
 
+    /// A file of the lock, by its name or path: it belongs to one folder and one moment.
+    static bool isItsFile(const std::filesystem::path& file);
+
     /// Takes the folder if it is free.
     Answer take();
 
