@@ -170,6 +170,17 @@ void GsArbeitsverhalten::KategorieTasteFaerben() {
     Command3(Kategorie).BackColor = wahl > 0 ? Option1(wahl).BackColor : farbe(avsvfarben::Gelb);
 }
 
+int GsArbeitsverhalten::gewaehlteZeile(int kategorie) const {
+    return Bereich == Abschnitt::Keiner ? 0 : Speicher.von(Bereich).Wahl[Schueler][kategorie];
+}
+
+int GsArbeitsverhalten::gezeigteZeile(int kategorie) const {
+    const int zeile = gewaehlteZeile(kategorie);
+    const bool traegtFarbe = zeile > 0 && Command3(kategorie).BackColor ==
+                                              farbe(bausteine().Zeilenfarben[zeile - 1][kategorie]);
+    return traegtFarbe ? zeile : 0;
+}
+
 void GsArbeitsverhalten::ZeileAbwaehlen() { Option1(Zeile).setValue(false); }
 
 void GsArbeitsverhalten::Option1_Click(int Index) {

@@ -31,6 +31,11 @@ class GsArbeitsverhalten : public Screen {
     void Text1_DblClick(int Index);
     void Text1_LostFocus(int Index);
 
+    /// The line of a category that is chosen for the child, 0 for none or before a section is.
+    [[nodiscard]] int gewaehlteZeile(int kategorie) const;
+    /// The same, as long as the category's button wears the colour of that line.
+    [[nodiscard]] int gezeigteZeile(int kategorie) const;
+
     Namensliste Liste;
     Schuelertabelle<Text> Bildname;
     AVSVSpeicher Speicher;

@@ -5,6 +5,7 @@
 #include "controls/text_box.h"
 #include "controls/user_actions.h"
 #include "desktop/entry_list.h"
+#include "desktop/focus_group.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
@@ -343,6 +344,13 @@ PictureView* Binder::picture(PictureBox& control, QSize preferred, const QString
         widget->setPixmap(QPixmap(QString::fromStdString(control.file().string())));
     });
     return widget;
+}
+
+void Binder::oneStop(const std::vector<const Control*>& controls) {
+    auto* group = new FocusGroup(&m_window);
+    for (const Control* control : controls)
+        group->add(*widgetOf(*control));
+    follow([group] { group->chooseStop(); });
 }
 
 void Binder::timer(Timer& control) {

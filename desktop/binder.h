@@ -1,6 +1,8 @@
 #pragma once
 
+#include "controls/control_array.h"
 #include "desktop/choice_row.h"
+#include "desktop/spoken.h"
 #include "desktop/text_editor.h"
 #include "desktop/tinted_button.h"
 
@@ -34,6 +36,14 @@ class PictureView;
 class TextBox;
 class Timer;
 class WindowHost;
+
+/// The members of an array, in order of the index.
+template <typename T>
+std::vector<const Control*> controlsOf(const ControlArray<T>& array) {
+    std::vector<const Control*> controls;
+    array.each([&](const T& one) { controls.push_back(&one); });
+    return controls;
+}
 
 /// Makes the widget of a control and keeps both in step: what the user does goes to the control,
 /// what the control says is shown. It only forwards.
@@ -74,6 +84,9 @@ class Binder : public QObject {
     /// Keeps the control's widget from being pressed as long as `held` says so, although the
     /// control would take it: an accident that nobody means.
     void holdBack(const Control& control, std::function<bool()> held);
+
+    /// Makes one stop of the Tab key of them: the one that is chosen or has had the keyboard.
+    void oneStop(const std::vector<const Control*>& controls);
 
     /// Something of the view that follows a control and is no widget of it.
     void follow(std::function<void()> refresh) { m_refreshes.push_back(std::move(refresh)); }

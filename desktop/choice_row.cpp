@@ -2,7 +2,8 @@
 
 #include "desktop/theme.h"
 
-#include <QEvent>
+#include <QAccessible>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -44,6 +45,17 @@ void ChoiceRow::setTint(const QColor& tint) {
         return;
     m_tint = tint;
     update();
+}
+
+void ChoiceRow::setChosen(bool chosen) {
+    const bool isNew = isChosen() != chosen;
+    m_chosen = chosen;
+    if (!isNew)
+        return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void ChoiceRow::setKeyHint(const QString& hint) {
@@ -96,6 +108,13 @@ void ChoiceRow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::EnabledChange || event->type() == QEvent::FontChange)
         updateGeometry();
     QAbstractButton::changeEvent(event);
+}
+
+void ChoiceRow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
 }
 
 void ChoiceRow::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }

@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QPixmap>
 
+#include <optional>
+
 namespace zeugnis {
 
 /// An option or check box as a row: mark, coloured ground and an inscription that wraps.
@@ -18,7 +20,11 @@ class ChoiceRow : public QAbstractButton {
     /// An ampersand in it is a character like any other.
     void setInscription(const QString& inscription);
     [[nodiscard]] const QString& inscription() const { return m_inscription; }
+    [[nodiscard]] Mark mark() const { return m_mark; }
     void setTint(const QColor& tint);
+    /// For a choice that something else than the mark tells; without it the mark does.
+    void setChosen(bool chosen);
+    [[nodiscard]] bool isChosen() const { return m_chosen.value_or(isChecked()); }
     /// A key that is shown in front of the inscription, such as the number of a line.
     void setKeyHint(const QString& hint);
     /// A picture in place of the inscription; the row then takes no more room than it needs.
@@ -36,6 +42,8 @@ class ChoiceRow : public QAbstractButton {
     /// A double click is one click; its second press does nothing.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void nextCheckState() override {}
+    /// Enter chooses as Space does.
+    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
@@ -45,6 +53,7 @@ class ChoiceRow : public QAbstractButton {
 
     Mark m_mark;
     QColor m_tint;
+    std::optional<bool> m_chosen;
     QString m_inscription;
     QString m_keyHint;
     QPixmap m_picture;

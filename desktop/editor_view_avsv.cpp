@@ -25,6 +25,7 @@ class ReadableLimit : public QWidget {
         red.setColor(QPalette::Window, QColor(0xD3, 0x2F, 0x2F));
         setPalette(red);
         setAutoFillBackground(true);
+        spoken::silence(*this);
         m_last.installEventFilter(this);
     }
 
@@ -75,6 +76,12 @@ QBoxLayout* EditorViewAVSV::sections() {
     row->setSpacing(10);
     row->addWidget(bind().button(m_editor.Command2, u'r'));
     row->addWidget(bind().button(m_editor.Command3, u'o'));
+    for (const Abschnitt section : Abschnitte) {
+        const Button& control = section == Abschnitt::AV ? m_editor.Command2 : m_editor.Command3;
+        auto* widget = qobject_cast<TintedButton*>(bind().widgetOf(control));
+        bind().follow([this, widget, section] { widget->setMarked(m_editor.Bereich == section); });
+    }
+    bind().oneStop({&m_editor.Command2, &m_editor.Command3});
     row->addStretch();
     row->addLayout(editorparts::loading(bind(), m_editor.Command1));
     return row;
@@ -93,8 +100,11 @@ QBoxLayout* EditorViewAVSV::categories() {
                 m_editor.Bereich == Abschnitt::SV ? m_editor.KategorieSV : m_editor.KategorieAV;
             widget->setMarked(shown == k + 1);
         });
+        // Until modules are loaded, all have the same inscription.
+        spoken::describe(*widget, tr("Kategorie %1").arg(*button.index() + 1));
         buttons->addWidget(widget, *button.index() / InARow, *button.index() % InARow);
     });
+    bind().oneStop(controlsOf(m_editor.Command4));
     column->addLayout(buttons);
     auto* name = new QHBoxLayout;
     QLabel* caption = bind().label(m_editor.Label2);
@@ -123,10 +133,17 @@ QWidget* EditorViewAVSV::lines() {
         const int i = *line.index();
         QLabel* number = bind().label(m_editor.Label5(i));
         number->setFixedWidth(16);
+        spoken::silence(*number); // the box tells it
         grid->addWidget(number, i + 1, 0);
         grid->addWidget(bind().module(line, tr("Zeile %1").arg(i)), i + 1, 1);
         TintedButton* colour = bind().button(m_editor.Command7(i), {}, TintedButton::Role::Quiet);
         colour->setAccessibleName(tr("Farbwahl für Zeile %1").arg(i));
+        bind().follow([&line, colour, widget = bind().widgetOf(line)] {
+            const QString name = spoken::colourName(line.BackColor);
+            spoken::describe(*colour, name);
+            spoken::describe(*widget, name);
+            colour->setToolTip(name);
+        });
         grid->addWidget(colour, i + 1, 2);
     });
     grid->setColumnStretch(1, 1);

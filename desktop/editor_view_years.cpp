@@ -106,13 +106,16 @@ QLayout* EditorViewYears::pageButtons(const std::vector<EditorPage>& pages) {
     constexpr int InARow = 4;
     auto* grid = new QGridLayout;
     grid->setSpacing(6);
+    std::vector<const Control*> buttons;
     int place = 0;
     for (const EditorPage& one : pages) {
         TintedButton* widget = bind().button(one.button, one.mnemonic);
         bind().follow([widget, &frame = one.frame] { widget->setMarked(frame.Visible); });
+        buttons.push_back(&one.button);
         grid->addWidget(widget, place / InARow, place % InARow);
         ++place;
     }
+    bind().oneStop(buttons);
     return grid;
 }
 
@@ -170,6 +173,7 @@ QLayout* EditorViewYears::boxRow(const Bausteineditor& editor, const BoxGroup& g
     const bool red = editor.IstRot(box);
     auto* mark = new QLabel(red ? QStringLiteral("»") : QString::number(number), this);
     mark->setFixedWidth(18);
+    spoken::silence(*mark); // the box tells it
     mark->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     TextEditor* widget = bind().module(box, red ? tr("%1, vom Programm gesetzt").arg(group.heading)
                                                 : tr("%1, Text %2").arg(group.heading).arg(number));

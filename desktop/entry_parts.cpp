@@ -11,7 +11,10 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QShortcut>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace zeugnis::entryparts {
 namespace {
@@ -35,9 +38,8 @@ QBoxLayout* titleRow(Binder& binder, const Head& parts) {
 QBoxLayout* selectionRow(Binder& binder, const Head& parts, std::initializer_list<Key> sections) {
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
-    EntryCombo* pupils = binder.combo(parts.Pupils, tr("Namensliste"));
+    EntryCombo* pupils = pupilList(binder, parts.Pupils);
     pupils->setMinimumWidth(380);
-    pupils->setFocus();
     pupils->setFont(theme::scaledFont(1.1, QFont::DemiBold));
     row->addWidget(pupils);
     for (const Key& section : sections)
@@ -47,6 +49,17 @@ QBoxLayout* selectionRow(Binder& binder, const Head& parts, std::initializer_lis
 }
 
 } // namespace
+
+EntryCombo* pupilList(Binder& binder, ComboBox& pupils) {
+    EntryCombo* widget = binder.combo(pupils, tr("Namensliste"));
+    const QKeySequence key(Qt::ALT | Qt::Key_E);
+    widget->setToolTip(tr("Namensliste (%1)").arg(key.toString(QKeySequence::NativeText)));
+    auto* shortcut = new QShortcut(key, widget);
+    QObject::connect(shortcut, &QShortcut::activated, widget,
+                     [widget] { widget->setFocus(Qt::ShortcutFocusReason); });
+    widget->setFocus();
+    return widget;
+}
 
 QBoxLayout* head(Binder& binder, const Head& parts, std::initializer_list<Key> sections) {
     auto* row = new QHBoxLayout;
@@ -85,8 +98,14 @@ QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name) {
 }
 
 QWidget* lockSign(Binder& binder, PictureBox& picture) {
-    PictureView* sign = binder.picture(picture, {120, 140}, tr("Der Text ist gesperrt"));
+    PictureView* sign = binder.picture(picture, {120, 140}, tr("Der Text ist gesperrt."));
     sign->setPixmap(QPixmap(QStringLiteral(":/gesperrt.png")));
+    sign->setSign();
+    binder.follow([sign, &picture, locked = false]() mutable {
+        if (std::exchange(locked, picture.Visible) != picture.Visible)
+            spoken::announce(*sign, picture.Visible ? tr("Der Text ist gesperrt.")
+                                                    : tr("Die Sperre ist aufgehoben."));
+    });
     return sign;
 }
 

@@ -14,6 +14,7 @@ namespace zeugnis {
 class Binder;
 class Button;
 class ComboBox;
+class EntryCombo;
 class Label;
 class PictureBox;
 class TextBox;
@@ -40,6 +41,9 @@ struct Head {
 /// row the buttons of the sections, if they are few. The choice of the child has the keyboard
 /// first.
 QBoxLayout* head(Binder& binder, const Head& parts, std::initializer_list<Key> sections);
+
+/// The choice of the child. It has the keyboard first, and Alt+E brings it.
+EntryCombo* pupilList(Binder& binder, ComboBox& pupils);
 
 /// The large line that says what to do next, as long as no page is shown.
 QLabel* nextStep(Binder& binder, Label& label);

@@ -95,10 +95,9 @@ QBoxLayout* EntryView12::head() {
 QBoxLayout* EntryView12::titleRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
-    EntryCombo* pupils = bind().combo(m_entry.Combo1, tr("Namensliste"));
+    EntryCombo* pupils = entryparts::pupilList(bind(), m_entry.Combo1);
     pupils->setMinimumWidth(330);
     pupils->setFont(theme::scaledFont(1.1, QFont::DemiBold));
-    pupils->setFocus();
     row->addWidget(pupils);
     QLabel* purpose = bind().label(m_entry.Label1);
     purpose->setFont(theme::scaledFont(1.0, QFont::DemiBold));
@@ -128,6 +127,7 @@ QBoxLayout* EntryView12::pageButtons() {
         });
         row->addWidget(widget, 1);
     });
+    bind().oneStop(controlsOf(m_entry.Command1));
     return row;
 }
 
@@ -166,13 +166,19 @@ void EntryView12::addOptions(QBoxLayout& column, int group, int first, int last)
             row->setCompact();
         // What colour and place tell, a screen reader has to say.
         bind().follow([this, row, &option, opening = gruppe(group).Oeffnung] {
-            const QString chosen = option.BackColor == Marked ? tr("gewählt") : QString();
-            const QString front =
-                opening == 0 ? QString() : qString(m_entry.label(opening).Caption);
-            row->setAccessibleDescription((front + u' ' + chosen).trimmed());
+            row->setChosen(option.BackColor == Marked);
+            if (opening != 0)
+                spoken::describe(*row, qString(m_entry.label(opening).Caption));
         });
         column.addWidget(row);
     }
+}
+
+void EntryView12::oneStop(int group) {
+    std::vector<const Control*> rows;
+    for (int i = gruppe(group).ErsterKnopf; i <= gruppe(group).LetzterKnopf; ++i)
+        rows.push_back(&m_entry.options(group)(i));
+    bind().oneStop(rows);
 }
 
 void EntryView12::addBox(QBoxLayout& column, CheckBox& box) {
@@ -187,6 +193,7 @@ void EntryView12::addGroup(QBoxLayout& column, int group) {
     if (opening != 0 && !goesOn)
         addOpening(column, opening);
     addOptions(column, group, gruppe(group).ErsterKnopf, gruppe(group).LetzterKnopf);
+    oneStop(group);
 }
 
 QWidget* EntryView12::competences(int page, const char* columns) {
@@ -236,6 +243,7 @@ QWidget* EntryView12::interests() {
         options->addStretch();
         columns->addLayout(options, 1, half);
     }
+    oneStop(Interests);
     columns->addLayout(badges(), 0, 2, 2, 1);
     for (const int place : {0, 1, 2})
         columns->setColumnStretch(place, 1);
@@ -283,6 +291,7 @@ QWidget* EntryView12::remarks() {
         addOptions(*half, Promotion, first, last);
         promotion->addLayout(half, 1);
     }
+    oneStop(Promotion);
     layout->addLayout(promotion);
     return layout->parentWidget();
 }
@@ -303,6 +312,7 @@ QGridLayout* EntryView12::subjects() {
     QVBoxLayout* tails = column();
     constexpr int Tails = gruppeNamens(u"Option23");
     addOptions(*tails, Tails, gruppe(Tails).ErsterKnopf, gruppe(Tails).LetzterKnopf);
+    oneStop(Tails);
     tails->addStretch();
     grid->addLayout(opening, 0, 0);
     grid->addLayout(boxes, 0, 1);

@@ -31,6 +31,7 @@ class EntryView12 : public ScreenWindow {
 
     void addGroup(QBoxLayout& column, int group);
     void addOptions(QBoxLayout& column, int group, int first, int last);
+    void oneStop(int group);
     void addBox(QBoxLayout& column, CheckBox& box);
     void addOpening(QBoxLayout& column, int label);
     void jumpBetweenPageAndText();

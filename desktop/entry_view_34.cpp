@@ -4,6 +4,7 @@
 #include "desktop/page_area.h"
 #include "desktop/theme.h"
 #include "toolkit/qt_text.h"
+#include "years34/colours.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -40,6 +41,7 @@ QFrame* line(QFrame::Shape shape) {
     auto* frame = new QFrame;
     frame->setFrameShape(shape);
     frame->setForegroundRole(QPalette::Mid);
+    spoken::silence(*frame);
     return frame;
 }
 
@@ -50,6 +52,7 @@ QLabel* readOn() {
     QPalette palette;
     palette.setColor(QPalette::WindowText, theme::OutlineStrong);
     arrow->setPalette(palette);
+    spoken::silence(*arrow);
     return arrow;
 }
 
@@ -68,8 +71,14 @@ EntryView34::EntryView34(GSAGFI& screen, WindowHost& host, QWidget* below)
         auto* widget = dynamic_cast<TintedButton*>(bind().widgetOf(button));
         bind().follow([this, widget, page = *button.index()] {
             widget->setMarked(m_entry.Rahmen.at(static_cast<size_t>(page))->Visible);
+            spoken::describe(*widget,
+                             !widget->isEnabled() ? QString()
+                             : m_entry.Textfelder.at(static_cast<size_t>(page))->text().empty()
+                                 ? tr("noch leer")
+                                 : tr("hat einen Text"));
         });
     });
+    bind().oneStop(controlsOf(m_entry.Command2));
     layout->addWidget(entryparts::nextStep(bind(), m_entry.Label2));
     layout->addWidget(pages());
     layout->addLayout(texts(), 1);
@@ -125,11 +134,20 @@ QLabel* EntryView34::sentencePart(Label& label) {
     return widget;
 }
 
+// The colour is the choice; the mark shows only the last press.
+ChoiceRow* EntryView34::choice(OptionButton& option) {
+    ChoiceRow* row = bind().option(option);
+    bind().follow(
+        [row, &option] { row->setChosen(option.BackColor == jahrgang34::farben::Aktiv); });
+    return row;
+}
+
 // One below the other, in the middle of their place.
 QBoxLayout* EntryView34::rows(const ControlArray<OptionButton>& options) {
     QVBoxLayout* layout = column();
     layout->addStretch();
-    options.each([&](OptionButton& option) { layout->addWidget(bind().option(option)); });
+    options.each([&](OptionButton& option) { layout->addWidget(choice(option)); });
+    bind().oneStop(controlsOf(options));
     layout->addStretch();
     return layout;
 }
@@ -147,7 +165,8 @@ QGridLayout* EntryView34::twoColumns(const ControlArray<OptionButton>& options) 
     grid->setVerticalSpacing(1);
     const int half = (options.last() + 1) / 2;
     for (int i = 0; i <= options.last(); ++i)
-        grid->addWidget(bind().option(options(i)), i % half, i / half);
+        grid->addWidget(choice(options(i)), i % half, i / half);
+    bind().oneStop(controlsOf(options));
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     return grid;
@@ -233,7 +252,12 @@ QBoxLayout* EntryView34::markSentence() {
     auto* row = new QHBoxLayout;
     row->addWidget(sentencePart(m_entry.Label9(0)), 3);
     row->addWidget(readOn());
-    m_entry.Check2.each([&](CheckBox& box) { row->addWidget(bind().check(box), 4); });
+    m_entry.Check2.each([&](CheckBox& box) {
+        ChoiceRow* subject = bind().check(box);
+        bind().follow(
+            [this, subject] { spoken::describe(*subject, qString(m_entry.Label9(0).Caption)); });
+        row->addWidget(subject, 4);
+    });
     row->addWidget(readOn());
     row->addWidget(sentencePart(m_entry.Label9(1)), 8);
     return row;

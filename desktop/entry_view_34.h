@@ -27,6 +27,7 @@ class EntryView34 : public ScreenWindow {
     QBoxLayout* learningSentence();
     QLayout* texts();
 
+    ChoiceRow* choice(OptionButton& option);
     QLabel* heading(Label& label);
     QLabel* sentencePart(Label& label);
     QBoxLayout* rows(const ControlArray<OptionButton>& options);

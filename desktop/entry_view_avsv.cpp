@@ -21,6 +21,7 @@ EntryViewAVSV::EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidg
         bind(),
         {m_entry.Picture1, m_entry.Label1, m_entry.Label2, m_entry.Command8, m_entry.Combo1},
         {{m_entry.Command1, u'A'}, {m_entry.Command2, u'S'}}));
+    showSection();
     layout->addWidget(entryparts::nextStep(bind(), m_entry.Label3));
     layout->addWidget(choices(), 3);
     layout->addLayout(texts(), 2);
@@ -35,6 +36,27 @@ EntryViewAVSV::EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidg
     resize(1220, 760);
 }
 
+void EntryViewAVSV::showSection() {
+    for (const Abschnitt section : Abschnitte) {
+        const Button& control = section == Abschnitt::AV ? m_entry.Command1 : m_entry.Command2;
+        auto* widget = qobject_cast<TintedButton*>(bind().widgetOf(control));
+        bind().follow([this, widget, section] { widget->setMarked(m_entry.Bereich == section); });
+    }
+    bind().oneStop({&m_entry.Command1, &m_entry.Command2});
+}
+
+// The colour of the chosen line, in a digit and in words.
+void EntryViewAVSV::showCategory(TintedButton& widget, int category) {
+    widget.setMarked(m_entry.Bereich != Abschnitt::Keiner && m_entry.Kategorie == category);
+    const int line = m_entry.gezeigteZeile(category);
+    widget.setBadge(line == 0 ? QString() : QString::number(line));
+    spoken::describe(
+        widget, line == 0 ? tr("keine Zeile gewählt")
+                          : tr("Zeile %1 gewählt, %2")
+                                .arg(QString::number(line),
+                                     spoken::colourName(m_entry.Command3(category).BackColor)));
+}
+
 QWidget* EntryViewAVSV::choices() {
     auto* area = new QWidget(this);
     auto* row = new QHBoxLayout(area);
@@ -46,11 +68,10 @@ QWidget* EntryViewAVSV::choices() {
         TintedButton* widget = bind().button(button);
         widget->setMinimumWidth(244);
         widget->setMaximumWidth(244);
-        bind().follow([this, widget, k = *button.index()] {
-            widget->setMarked(m_entry.Bereich != Abschnitt::Keiner && m_entry.Kategorie == k);
-        });
+        bind().follow([this, widget, k = *button.index()] { showCategory(*widget, k); });
         categories->addWidget(widget);
     });
+    bind().oneStop(controlsOf(m_entry.Command3));
     categories->addStretch();
     row->addLayout(categories);
     row->addWidget(lines(*area), 1);
@@ -72,11 +93,20 @@ QWidget* EntryViewAVSV::lines(QWidget& area) {
         ChoiceRow* row = bind().option(option);
         const QString key = QString::number(*option.index());
         row->setKeyHint(key);
+        bind().follow([this, row, &option, line = *option.index()] {
+            const int chosen = m_entry.gewaehlteZeile(m_entry.Kategorie);
+            row->setChosen(option.value() || (line > 0 && line == chosen));
+            if (line > 0)
+                spoken::describe(
+                    *row, tr("Zeile %1, %2")
+                              .arg(QString::number(line), spoken::colourName(option.BackColor)));
+        });
         column->addWidget(row);
         auto* shortcut = new QShortcut(QKeySequence(key), &area);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         connect(shortcut, &QShortcut::activated, row, &ChoiceRow::click);
     });
+    bind().oneStop(controlsOf(m_entry.Option1));
     column->addStretch();
     return frame;
 }

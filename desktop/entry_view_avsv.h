@@ -12,6 +12,8 @@ class EntryViewAVSV : public ScreenWindow {
     EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidget* below);
 
   private:
+    void showSection();
+    void showCategory(TintedButton& widget, int category);
     QWidget* choices();
     QBoxLayout* texts();
     QWidget* lines(QWidget& area);

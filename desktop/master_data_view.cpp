@@ -12,6 +12,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <optional>
 #include <utility>
 
 namespace zeugnis {
@@ -19,8 +20,9 @@ namespace {
 
 constexpr int FieldSpacing = 12;
 
-QFrame* area(QWidget* parent) {
+QFrame* area(const QString& name, QWidget* parent) {
     auto* frame = new QFrame(parent);
+    frame->setAccessibleName(name);
     frame->setObjectName(QStringLiteral("area"));
     return frame;
 }
@@ -88,8 +90,13 @@ QBoxLayout* MasterDataView::areaHead(const QString& title, const Control& locked
     auto* lock = new QLabel(tr("gesperrt"), this);
     lock->setObjectName(QStringLiteral("lock"));
     lock->setFont(theme::scaledFont(0.88));
-    lock->setAccessibleName(tr("%1 sind gesperrt").arg(title));
-    bind().follow([lock, &lockedWith] { lock->setVisible(!lockedWith.Enabled); });
+    bind().follow([lock, title, &lockedWith, told = std::optional<bool>()]() mutable {
+        const bool locked = !lockedWith.Enabled;
+        lock->setVisible(locked);
+        if (std::exchange(told, locked) != locked)
+            spoken::announce(*lock, locked ? tr("%1 sind gesperrt.").arg(title)
+                                           : tr("%1 sind freigegeben.").arg(title));
+    });
     row->addWidget(lock);
     row->addStretch();
     for (QWidget* button : buttons)
@@ -97,8 +104,10 @@ QBoxLayout* MasterDataView::areaHead(const QString& title, const Control& locked
     return row;
 }
 
-QBoxLayout* MasterDataView::captioned(TextBox& box, const QString& name) {
-    TextEditor* editor = bind().line(box, QString(name).remove(u':'));
+QBoxLayout* MasterDataView::captioned(TextBox& box, const QString& name,
+                                      const QString& spokenName) {
+    TextEditor* editor =
+        bind().line(box, spokenName.isEmpty() ? QString(name).remove(u':') : spokenName);
     QLabel* caption = faintLabel(name, this);
     caption->setBuddy(editor);
     auto* column = new QVBoxLayout;
@@ -114,17 +123,19 @@ QBoxLayout* MasterDataView::schoolField(int index) {
 }
 
 QBoxLayout* MasterDataView::pupilField(int index) {
-    return captioned(m_basis.Text2(index),
-                     qString(Schuelerfelder.at(static_cast<size_t>(index)).Beschriftung));
+    const Schuelerfeld& field = Schuelerfelder.at(static_cast<size_t>(index));
+    const bool isBirthplace = field.Wert == &Schueler::Geburtsort;
+    return captioned(m_basis.Text2(index), qString(field.Beschriftung),
+                     isBirthplace ? tr("geboren in") : QString());
 }
 
 QWidget* MasterDataView::schoolArea() {
-    QFrame* frame = area(this);
+    QFrame* frame = area(tr("Schuldaten"), this);
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(16, 12, 16, 14);
     column->setSpacing(7);
-    column->addLayout(
-        areaHead(tr("Schuldaten"), m_basis.Text1(0), {bind().button(m_basis.Command3, u'u')}));
+    column->addLayout(areaHead(frame->accessibleName(), m_basis.Text1(0),
+                               {bind().button(m_basis.Command3, u'u')}));
     column->addLayout(schoolField(0));
     column->addLayout(schoolField(1));
     column->addLayout(schoolField(2));
@@ -150,12 +161,12 @@ QBoxLayout* MasterDataView::pathRow() {
 }
 
 QWidget* MasterDataView::pupilArea() {
-    QFrame* frame = area(this);
+    QFrame* frame = area(tr("Schülerdaten"), this);
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(16, 12, 16, 14);
     column->setSpacing(7);
     column->addLayout(
-        areaHead(tr("Schülerdaten"), m_basis.Text2(1),
+        areaHead(frame->accessibleName(), m_basis.Text2(1),
                  {bind().button(m_basis.Command5, u'r'),
                   bind().button(m_basis.Command6, u'o', TintedButton::Role::Quiet),
                   bind().button(m_basis.Command4(0), u'G', TintedButton::Role::Quiet)}));
@@ -170,7 +181,7 @@ QWidget* MasterDataView::pupilArea() {
 QBoxLayout* MasterDataView::pupilColumn() {
     auto* column = new QVBoxLayout;
     column->setSpacing(5);
-    EntryList* pupils = bind().wordedList(m_basis.Combo1, tr("Nummer"),
+    EntryList* pupils = bind().wordedList(m_basis.Combo1, tr("Namensliste"),
                                           [this](int index) { return pupilRow(index); });
     pupils->setObjectName(QStringLiteral("compact"));
     pupils->setMinimumWidth(245);
@@ -199,7 +210,8 @@ QBoxLayout* MasterDataView::pupilForm() {
     column->addSpacing(6);
     column->addLayout(workingGroups(), 1);
     const auto group = [this](int index) {
-        return captioned(m_basis.Text3(index), tr("AG %1:").arg(index + 1));
+        return captioned(m_basis.Text3(index), tr("AG %1:").arg(index + 1),
+                         tr("Arbeitsgemeinschaft %1").arg(index + 1));
     };
     column->addLayout(side({{group(0), 1}, {group(1), 1}}));
     column->addLayout(side({{group(2), 1}, {group(3), 1}}));

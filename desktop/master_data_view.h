@@ -28,7 +28,7 @@ class MasterDataView : public ScreenWindow {
 
     QBoxLayout* areaHead(const QString& title, const Control& lockedWith,
                          std::initializer_list<QWidget*> buttons);
-    QBoxLayout* captioned(TextBox& box, const QString& name);
+    QBoxLayout* captioned(TextBox& box, const QString& name, const QString& spokenName = {});
     QBoxLayout* schoolField(int index);
     QBoxLayout* pupilField(int index);
     void orderByUse();

@@ -13,6 +13,9 @@ class PictureView : public QWidget {
     explicit PictureView(QSize preferred, QWidget* parent = nullptr);
 
     void setPixmap(const QPixmap& pixmap);
+    /// Its coming and going is told.
+    void setSign() { m_isSign = true; }
+    [[nodiscard]] bool isSign() const { return m_isSign; }
     [[nodiscard]] QSize sizeHint() const override { return m_preferred; }
 
   protected:
@@ -21,6 +24,7 @@ class PictureView : public QWidget {
   private:
     QPixmap m_pixmap;
     QSize m_preferred;
+    bool m_isSign = false;
 };
 
 } // namespace zeugnis

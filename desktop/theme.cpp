@@ -1,5 +1,7 @@
 #include "desktop/theme.h"
 
+#include "desktop/spoken.h"
+
 #include <QApplication>
 #include <QPainter>
 
@@ -52,6 +54,7 @@ QDialog QPushButton:hover { background: #EAF3F2; }
 
 void apply(QApplication& application) {
     initResources();
+    spoken::install();
     look::apply(application, QString::fromLatin1(StyleSheet));
 }
 

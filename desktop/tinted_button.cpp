@@ -2,6 +2,7 @@
 
 #include "desktop/theme.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,6 +16,7 @@ namespace {
 constexpr int SidePadding = 12;
 constexpr int TopPadding = 6;
 constexpr int WidestLine = 420;
+constexpr int BadgeRoom = 12; // beside the padding
 
 } // namespace
 
@@ -44,6 +46,19 @@ void TintedButton::setMarked(bool marked) {
         return;
     m_marked = marked;
     update();
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TintedButton::setBadge(const QString& badge) {
+    if (m_badge == badge)
+        return;
+    if (!m_badge)
+        updateGeometry();
+    m_badge = badge;
+    update();
 }
 
 void TintedButton::setContent(Content content) {
@@ -66,8 +81,12 @@ int TintedButton::leastHeight() const {
     return m_role == Role::Main ? lines + 8 : lines;
 }
 
+// Room for a badge is kept on both sides, whether there is one or not: the inscription stays in the
+// middle.
+int TintedButton::sidePadding() const { return m_badge ? SidePadding + BadgeRoom : SidePadding; }
+
 QRect TintedButton::textArea(const QRect& area) const {
-    return area.adjusted(SidePadding, TopPadding, -SidePadding, -TopPadding);
+    return area.adjusted(sidePadding(), TopPadding, -sidePadding(), -TopPadding);
 }
 
 QSize TintedButton::sizeHint() const {
@@ -75,7 +94,7 @@ QSize TintedButton::sizeHint() const {
         return {leastHeight() + 2, leastHeight() + 2};
     const QRect bounds =
         fontMetrics().boundingRect(QRect(0, 0, WidestLine, 1000), textFlags(), text());
-    return {bounds.width() + 2 * SidePadding + 4,
+    return {bounds.width() + 2 * sidePadding() + 4,
             std::max(leastHeight(), bounds.height() + 2 * TopPadding)};
 }
 
@@ -84,8 +103,8 @@ QSize TintedButton::minimumSizeHint() const {
 }
 
 int TintedButton::heightForWidth(int width) const {
-    const QRect bounds =
-        fontMetrics().boundingRect(QRect(0, 0, width - 2 * SidePadding, 1000), textFlags(), text());
+    const QRect bounds = fontMetrics().boundingRect(QRect(0, 0, width - 2 * sidePadding(), 1000),
+                                                    textFlags(), text());
     return std::max(leastHeight(), bounds.height() + 2 * TopPadding);
 }
 
@@ -110,6 +129,18 @@ bool TintedButton::event(QEvent* event) {
     return QPushButton::event(event);
 }
 
+void TintedButton::paintBadge(QPainter& painter) const {
+    painter.save();
+    painter.setFont(theme::scaledFont(0.82, QFont::Bold));
+    const int size = painter.fontMetrics().height() + 1;
+    const QRect place(width() - size - 6, (height() - size) / 2, size, size);
+    painter.setPen(QPen(theme::Ink, 1.2));
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(place);
+    painter.drawText(place, Qt::AlignCenter, *m_badge);
+    painter.restore();
+}
+
 void TintedButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QColor fill = m_tint.isValid() ? m_tint : theme::Surface;
@@ -126,7 +157,7 @@ void TintedButton::paintEvent(QPaintEvent*) {
         fill = fill.darker(105);
     }
     theme::paintSurface(painter, rect(), fill, outline, hasFocus());
-    if (m_marked) {
+    if (m_marked.value_or(false)) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme::Ink);
         painter.drawRoundedRect(QRectF(4, 7, 5, height() - 14), 2, 2);
@@ -136,6 +167,8 @@ void TintedButton::paintEvent(QPaintEvent*) {
         painter.setBrush(m_content == Content::Filled ? QBrush(ink) : QBrush(Qt::white));
         painter.drawEllipse(QRectF(width() - 14, height() - 14, 8, 8));
     }
+    if (m_badge && !m_badge->isEmpty())
+        paintBadge(painter);
     painter.setPen(ink);
     painter.drawText(m_role == Role::Round ? rect() : textArea(rect()), textFlags(), text());
 }

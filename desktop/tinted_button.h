@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 
+#include <optional>
+
 namespace zeugnis {
 
 /// A push button that wears a colour, wraps long inscriptions, and grows with the font.
@@ -14,8 +16,12 @@ class TintedButton : public QPushButton {
     explicit TintedButton(Role role, QWidget* parent = nullptr);
 
     void setTint(const QColor& tint);
-    /// Stands out among its like, as the one that is worked on.
+    /// Stands out among its like, as the one that is worked on. From then on it is one of several
+    /// that lead to a page.
     void setMarked(bool marked);
+    [[nodiscard]] std::optional<bool> marked() const { return m_marked; }
+    /// A few characters that say what the colour says, in a corner.
+    void setBadge(const QString& badge);
     /// A small sign that tells whether what the button leads to holds anything.
     enum class Content { Unknown, Empty, Filled };
     void setContent(Content content);
@@ -38,11 +44,14 @@ class TintedButton : public QPushButton {
   private:
     [[nodiscard]] int textFlags() const;
     [[nodiscard]] int leastHeight() const;
+    [[nodiscard]] int sidePadding() const;
     [[nodiscard]] QRect textArea(const QRect& area) const;
+    void paintBadge(QPainter& painter) const;
 
     Role m_role;
     QColor m_tint;
-    bool m_marked = false;
+    std::optional<bool> m_marked;
+    std::optional<QString> m_badge;
     Content m_content = Content::Unknown;
 };
 

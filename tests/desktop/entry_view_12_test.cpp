@@ -73,17 +73,6 @@ TEST_F(EntryView12Test, ShowsEveryInscriptionWhole) {
     }
 }
 
-TEST_F(EntryView12Test, PageButtonsTellWhatIsStillEmpty) {
-    const QAbstractButton* listening = button(u"Deutsch Sprechen Zuhören");
-    EXPECT_EQ(listening->accessibleDescription(), QStringLiteral("noch leer"));
-    turnTo(1);
-    QAbstractButton* row = button(screen->options(1)(0).Caption);
-    QTest::mouseClick(row, Qt::LeftButton);
-    EXPECT_EQ(listening->accessibleDescription(), QStringLiteral("hat einen Text"));
-    EXPECT_EQ(row->accessibleDescription(), QStringLiteral("gewählt"));
-    EXPECT_EQ(button(u"Bemerkungen")->accessibleDescription(), QStringLiteral("noch leer"));
-}
-
 TEST_F(EntryView12Test, OneKeyLeadsFromTheChoicesToTheirText) {
     turnTo(5);
     QTest::keyClick(window, Qt::Key_F6);

@@ -7,7 +7,6 @@
 #include "years34/entry_screen.h"
 
 #include <QApplication>
-#include <QPlainTextEdit>
 #include <QTest>
 
 namespace zeugnis::test {
@@ -30,14 +29,6 @@ class EntryView34Test : public testing::Test {
                 window = one;
     }
 
-    template <typename W>
-    W* named(const QString& name) {
-        for (auto* one : window->findChildren<W*>())
-            if (one->isVisible() && one->accessibleName() == name)
-                return one;
-        ADD_FAILURE() << name.toStdString();
-        return nullptr;
-    }
     void turnTo(int page) {
         host.run([&] { user::click(screen->Command2(page)); });
         settleLayouts();
@@ -50,24 +41,18 @@ class EntryView34Test : public testing::Test {
     QWidget* window = nullptr;
 };
 
-TEST_F(EntryView34Test, ShowsEveryInscriptionWholeAndNamesEveryWidget) {
+TEST_F(EntryView34Test, ShowsEveryInscriptionWhole) {
     for (const QSize size : {QSize(1270, 760), QSize(1000, 640)}) {
         window->resize(size);
         for (const int page : {0, 1, 2}) {
             turnTo(page);
             int rows = 0;
-            for (const QWidget* one : window->findChildren<QWidget*>()) {
-                if (!one->isVisible() || one->focusPolicy() == Qt::NoFocus)
-                    continue;
-                const auto* button = qobject_cast<const QAbstractButton*>(one);
-                EXPECT_FALSE(one->accessibleName().isEmpty() &&
-                             (button == nullptr || button->text().isEmpty()))
-                    << page << one->metaObject()->className();
-                if (qobject_cast<const ChoiceRow*>(one) == nullptr)
+            for (const auto* one : window->findChildren<ChoiceRow*>()) {
+                if (!one->isVisible())
                     continue;
                 ++rows;
                 EXPECT_GE(one->height(), one->heightForWidth(one->width()))
-                    << page << button->text().toStdString();
+                    << page << one->text().toStdString();
             }
             EXPECT_EQ(rows, page == 0 ? 10 : page == 1 ? 21 : 17);
         }

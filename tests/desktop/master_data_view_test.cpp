@@ -60,7 +60,7 @@ class MasterDataViewTest : public MasterDataTest {
 };
 
 TEST_F(MasterDataViewTest, TypesPupilAfterPupilWithoutTheMouse) {
-    widget<QListWidget>("Nummer")->setFocus(Qt::TabFocusReason);
+    widget<QListWidget>("Namensliste")->setFocus(Qt::TabFocusReason);
     press(Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget(), widget<TextEditor>("Nachname"));
     QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_Y, QStringLiteral("y"),
@@ -92,7 +92,7 @@ TEST_F(MasterDataViewTest, TypesPupilAfterPupilWithoutTheMouse) {
 }
 
 TEST_F(MasterDataViewTest, PicksPupilsByTheArrowKeysAndNamesThem) {
-    auto* pupils = widget<QListWidget>("Nummer");
+    auto* pupils = widget<QListWidget>("Namensliste");
     pupils->setFocus();
     press(Qt::Key_Down);
     EXPECT_EQ(screen->AktuellerSchueler, 1);
@@ -124,9 +124,9 @@ TEST_F(MasterDataViewTest, InsertsAWorkingGroupByDoubleClickOrItsKey) {
     widget<QListWidget>("Arbeitsgemeinschaften")->setFocus();
     press(Qt::Key_Down);
     EXPECT_EQ(screen->GewaehlteAG, u"Chor");
-    auto* second = widget<TextEditor>("AG 2");
+    auto* second = widget<TextEditor>("Arbeitsgemeinschaft 2");
     QTest::mouseDClick(second->viewport(), Qt::LeftButton);
-    widget<TextEditor>("AG 3")->setFocus();
+    widget<TextEditor>("Arbeitsgemeinschaft 3")->setFocus();
     press(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(screen->Liste.Kinder[0].AG, (std::array<Text, 4>{u"", u"Chor", u"Chor", u""}));
 }
