@@ -74,6 +74,7 @@ QBoxLayout* ReviewView::choices() {
     // In the order of the text.
     for (const int box : {0, 1, 2, 3, 4, 5, 6, 7, 8, 10, 9})
         boxes->addWidget(bind().check(m_review.Check1(box)));
+    bind().widgetOf(m_review.Check1(0))->setFocus();
     column->addWidget(frame);
     column->addSpacing(10);
     column->addWidget(bind().button(m_review.Command1(0), u'T'));

@@ -17,7 +17,9 @@ ScreenWindow::ScreenWindow(Screen& screen, WindowHost& host, QWidget* below)
 }
 
 void ScreenWindow::refresh() {
+    const QWidget* before = focusWidget();
     m_binder.refresh();
+    leaveHelp(before);
     keepOnTop(m_screen->AlwaysOnTop);
     if (isVisible() != m_screen->shown()) {
         if (m_screen->shown() && !isPlaced())
@@ -31,6 +33,20 @@ void ScreenWindow::refresh() {
         m_host.cameToFront(*m_screen);
         raise();
         activateWindow();
+    }
+}
+
+// Where what had the keyboard rests now, Qt gives it to whatever comes next. That had better not be
+// a button that opens the help.
+void ScreenWindow::leaveHelp(const QWidget* before) {
+    const auto isHelp = [](const QWidget* widget) {
+        const auto* button = qobject_cast<const TintedButton*>(widget);
+        return button != nullptr && button->showsSign();
+    };
+    const QWidget* first = focusWidget();
+    if (first == before || !isHelp(first))
+        return;
+    while (isHelp(focusWidget()) && focusNextChild() && focusWidget() != first) {
     }
 }
 

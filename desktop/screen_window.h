@@ -49,6 +49,7 @@ class ScreenWindow : public QWidget {
 
   private:
     void keepOnTop(bool onTop);
+    void leaveHelp(const QWidget* before);
 
     Screen* m_screen;
     WindowHost& m_host;

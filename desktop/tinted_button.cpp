@@ -16,6 +16,7 @@ namespace {
 constexpr int SidePadding = 12;
 constexpr int TopPadding = 6;
 constexpr int WidestLine = 420;
+constexpr int MarkRoom = 4;
 constexpr int BadgeRoom = 12; // beside the padding
 
 } // namespace
@@ -44,6 +45,8 @@ void TintedButton::setTint(const QColor& tint) {
 void TintedButton::setMarked(bool marked) {
     if (m_marked == marked)
         return;
+    if (!m_marked)
+        updateGeometry();
     m_marked = marked;
     update();
     QAccessible::State changed;
@@ -81,9 +84,11 @@ int TintedButton::leastHeight() const {
     return m_role == Role::Main ? lines + 8 : lines;
 }
 
-// Room for a badge is kept on both sides, whether there is one or not: the inscription stays in the
-// middle.
-int TintedButton::sidePadding() const { return m_badge ? SidePadding + BadgeRoom : SidePadding; }
+// Room for a badge and a mark is kept on both sides, whether there is one or not: the inscription
+// stays in the middle.
+int TintedButton::sidePadding() const {
+    return SidePadding + (m_badge ? BadgeRoom : 0) + (m_marked ? MarkRoom : 0);
+}
 
 QRect TintedButton::textArea(const QRect& area) const {
     return area.adjusted(sidePadding(), TopPadding, -sidePadding(), -TopPadding);

@@ -1,4 +1,4 @@
-#include "desktop/spoken.h"
+#include "desktop/tinted_button.h"
 #include "tests/desktop/every_window.h"
 
 #include <QAccessible>
@@ -58,6 +58,15 @@ void expectNoNoise(Node& window) {
     });
 }
 
+// Space in a window that has just come up, or changed, must not open the help.
+void expectKeyboardAtWork(OpenWindow& open) {
+    const QWidget* focus = open.window().focusWidget();
+    ASSERT_NE(focus, nullptr);
+    EXPECT_TRUE(focus->isEnabled() && focus->isVisible());
+    const auto* button = qobject_cast<const TintedButton*>(focus);
+    EXPECT_FALSE(button != nullptr && button->showsSign()) << focus->accessibleName().toStdString();
+}
+
 Node& told(OpenWindow& open, TextView name) {
     return *QAccessible::queryAccessibleInterface(&open.widget(name));
 }
@@ -80,10 +89,12 @@ TEST_P(EveryWindowTest, CanBeWorkedInWithoutSeeingIt) {
         expectNoNoise(*tree);
     };
     look();
+    expectKeyboardAtWork(open);
     for (const TextView click : GetParam().clicks) {
         SCOPED_TRACE(utf8FromText(click));
         open.click(click);
         look();
+        expectKeyboardAtWork(open);
     }
 }
 
