@@ -46,8 +46,10 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
     buttons->setSpacing(6);
     buttons->addWidget(bind().button(screen.Command1(2), u'N'));
     auto* removals = new QHBoxLayout;
-    removals->addWidget(bind().button(screen.Command1(0), u'M', TintedButton::Role::Quiet));
-    removals->addWidget(bind().button(screen.Command1(1), u'A', TintedButton::Role::Quiet));
+    for (const int removal : {0, 1})
+        removals->addWidget(
+            bind().button(screen.Command1(removal), {}, TintedButton::Role::Danger));
+    buttons->addSpacing(8);
     buttons->addLayout(removals);
     layout->addLayout(buttons);
 

@@ -19,6 +19,7 @@ namespace zeugnis {
 namespace {
 
 constexpr int FieldSpacing = 12;
+constexpr int ApartFromTheRest = 14; // of what deletes
 
 QFrame* area(const QString& name, QWidget* parent) {
     auto* frame = new QFrame(parent);
@@ -81,7 +82,7 @@ QBoxLayout* MasterDataView::head() {
 }
 
 QBoxLayout* MasterDataView::areaHead(const QString& title, const Control& lockedWith,
-                                     std::initializer_list<QWidget*> buttons) {
+                                     std::initializer_list<TintedButton*> buttons) {
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
     auto* label = new QLabel(title, this);
@@ -99,8 +100,11 @@ QBoxLayout* MasterDataView::areaHead(const QString& title, const Control& locked
     });
     row->addWidget(lock);
     row->addStretch();
-    for (QWidget* button : buttons)
+    for (TintedButton* button : buttons) {
+        if (button->role() == TintedButton::Role::Danger)
+            row->addSpacing(ApartFromTheRest);
         row->addWidget(button);
+    }
     return row;
 }
 
@@ -169,7 +173,7 @@ QWidget* MasterDataView::pupilArea() {
         areaHead(frame->accessibleName(), m_basis.Text2(1),
                  {bind().button(m_basis.Command5, u'r'),
                   bind().button(m_basis.Command6, u'o', TintedButton::Role::Quiet),
-                  bind().button(m_basis.Command4(0), u'G', TintedButton::Role::Quiet)}));
+                  bind().button(m_basis.Command4(0), {}, TintedButton::Role::Danger)}));
     auto* row = new QHBoxLayout;
     row->setSpacing(18);
     row->addLayout(pupilColumn(), 2);
@@ -191,7 +195,8 @@ QBoxLayout* MasterDataView::pupilColumn() {
     column->addWidget(caption);
     column->addWidget(pupils, 1);
     column->addWidget(bind().button(m_basis.Command4(2), u'h'));
-    column->addWidget(bind().button(m_basis.Command4(1), u'k', TintedButton::Role::Quiet));
+    column->addSpacing(ApartFromTheRest);
+    column->addWidget(bind().button(m_basis.Command4(1), {}, TintedButton::Role::Danger));
     return column;
 }
 
@@ -270,7 +275,8 @@ QBoxLayout* MasterDataView::workingGroups() {
     row->addWidget(groups, 1);
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(bind().button(m_basis.Command2(0), u'A', TintedButton::Role::Quiet));
-    buttons->addWidget(bind().button(m_basis.Command2(1), u'L', TintedButton::Role::Quiet));
+    buttons->addSpacing(ApartFromTheRest);
+    buttons->addWidget(bind().button(m_basis.Command2(1), {}, TintedButton::Role::Danger));
     buttons->addStretch();
     row->addLayout(buttons, 1);
     column->addLayout(row, 1);

@@ -27,7 +27,7 @@ class MasterDataView : public ScreenWindow {
     QBoxLayout* actions();
 
     QBoxLayout* areaHead(const QString& title, const Control& lockedWith,
-                         std::initializer_list<QWidget*> buttons);
+                         std::initializer_list<TintedButton*> buttons);
     QBoxLayout* captioned(TextBox& box, const QString& name, const QString& spokenName = {});
     QBoxLayout* schoolField(int index);
     QBoxLayout* pupilField(int index);

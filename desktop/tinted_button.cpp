@@ -151,6 +151,8 @@ void TintedButton::paintEvent(QPaintEvent*) {
     QColor fill = m_tint.isValid() ? m_tint : theme::Surface;
     QColor ink = theme::inkOn(fill);
     QColor outline = theme::OutlineStrong;
+    if (m_role == Role::Danger)
+        ink = outline = theme::Danger;
     if (!isEnabled()) {
         fill = m_tint.isValid() ? m_tint.lighter(104) : theme::Background;
         fill.setAlpha(140);

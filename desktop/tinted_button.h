@@ -11,10 +11,12 @@ class TintedButton : public QPushButton {
     Q_OBJECT
 
   public:
-    enum class Role { Normal, Main, Quiet, Round };
+    /// Danger is for what is gone at once: it looks it, and has no mnemonic.
+    enum class Role { Normal, Main, Quiet, Round, Danger };
 
     explicit TintedButton(Role role, QWidget* parent = nullptr);
 
+    [[nodiscard]] Role role() const { return m_role; }
     void setTint(const QColor& tint);
     /// Stands out among its like, as the one that is worked on. From then on it is one of several
     /// that lead to a page.
