@@ -3,6 +3,7 @@
 #include "documents/app/review_document.h"
 #include "documents/app/word_processor.h"
 #include "documents/content/report_marks.h"
+#include "documents/content/wording.h"
 #include "documents/window/preview_window.h"
 #include "documents/window/progress.h"
 #include "documents/window/report_list_window.h"
@@ -10,6 +11,9 @@
 #include "documents/window/theme.h"
 #include "platform/failure.h"
 #include "platform/machine.h"
+#include "safety/guard.h"
+#include "safety/layouts.h"
+#include "safety/recovery.h"
 #include "toolkit/qt_text.h"
 
 #include <QApplication>
@@ -26,11 +30,38 @@ using namespace zeugnis;
 using namespace zeugnis::dokumente;
 
 constexpr TextView OhneFenster = u"--no-window";
+constexpr std::chrono::minutes EinStand{10};
+
+// The net below the list of absences and grades, the one data file that this program writes.
+class Netz {
+  public:
+    // The list's own writes alone: those of the program that has started this one may be under way.
+    explicit Netz(const std::filesystem::path& programmordner) : m_guard(programmordner) {
+        const safety::Recovery recovery =
+            safety::takeBackInterrupted(programmordner, safety::isReportList);
+        if (!recovery.complete())
+            throw Laufzeitfehler(Fehlerart::AccessDenied, recovery.obstacles.front());
+        m_guard.together = EinStand;
+        m_guard.onUnavailable = [this](const Text& satz) { Hinweis = satz; };
+    }
+
+    // A copy of the directory that is watched.
+    Arbeitsverzeichnis unter(Arbeitsverzeichnis verzeichnis) {
+        verzeichnis.watchWrites(&m_guard);
+        return verzeichnis;
+    }
+
+    Text Hinweis; ///< what the teacher has to know about it; mostly empty
+
+  private:
+    safety::Guard m_guard;
+};
 
 int ohneFenster(const Aufruf& aufruf) {
     if (IstAnzeigetext(aufruf))
         AnzeigetextVerweigern();
-    Arbeitsverzeichnis verzeichnis(startFolder());
+    Netz netz(startFolder());
+    Arbeitsverzeichnis verzeichnis = netz.unter(Arbeitsverzeichnis(startFolder()));
     DokumentBereitstellen(verzeichnis, aufruf);
     return 0;
 }
@@ -85,13 +116,15 @@ std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programm
                                           neuSchreiben);
 }
 
-Fenster listenfenster(const Arbeitsverzeichnis& programmordner, bool neu,
+Fenster listenfenster(Netz& netz, const Arbeitsverzeichnis& ordner, bool neu,
                       const std::filesystem::path& umwandlungen) {
+    const Arbeitsverzeichnis programmordner = netz.unter(ordner);
     Listenstand stand = withProgress(QStringLiteral("Die Liste wird geöffnet …"), nullptr,
                                      [&](const std::stop_token&) {
                                          Arbeitsverzeichnis verzeichnis = programmordner;
                                          return ListeBereitstellen(verzeichnis, neu);
                                      });
+    stand.Hinweis = verbunden(stand.Hinweis, u" ", netz.Hinweis);
     return std::make_unique<ReportListWindow>(
         programmordner, std::move(stand), [umwandlungen](const Dokumentdateien& dateien) {
             auto* druck = new PreviewWindow(nachschauen(dateien, umwandlungen));
@@ -140,8 +173,10 @@ int mitFenster(const Aufruf& aufruf) {
     const QTemporaryDir ordner;
     const std::filesystem::path umwandlungen = ordner.path().toStdU16String();
     const bool neu = art == Fensterart::ZeugnislisteNeu;
-    if (neu || art == Fensterart::Zeugnisliste)
-        return zeigen(listenfenster(verzeichnis, neu, umwandlungen));
+    if (neu || art == Fensterart::Zeugnisliste) {
+        Netz netz(verzeichnis.current());
+        return zeigen(listenfenster(netz, verzeichnis, neu, umwandlungen));
+    }
     return dokumentZeigen(verzeichnis, aufruf, art, umwandlungen);
 }
 

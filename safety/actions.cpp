@@ -2,6 +2,7 @@
 
 #include "files/module_files.h"
 #include "files/section_stores.h"
+#include "safety/layouts.h"
 #include "safety/paths.h"
 
 #include <algorithm>
@@ -90,6 +91,8 @@ Text actionOf(const std::set<std::string>& names) {
     for (const Sign& sign : Signs)
         if (isIn(written, sign.File))
             return Text(sign.Action);
+    if (std::any_of(names.begin(), names.end(), isReportList))
+        return u"Versäumnisse und Noten eingetragen";
     if (Text action = moduleAction(written); !action.empty())
         return action;
     if (std::any_of(written.begin(), written.end(), isStandard))

@@ -41,8 +41,9 @@ std::set<std::string> filesToExamine(const Paths& paths, const Latest& latest) {
         if (const std::optional<std::string> name = paths.nameOf(entry->path());
             name && entry->is_regular_file(ignored) && Latest::covers(*name) && layoutOf(*name))
             names.insert(*name);
+    // The lists of grades are looked at by the program that opens them: old ones may go.
     for (const std::string& name : latest.names())
-        if (layoutOf(name))
+        if (layoutOf(name) && !isReportList(name))
             names.insert(name);
     return names;
 }

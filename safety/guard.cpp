@@ -260,10 +260,12 @@ void Guard::keep() {
     if (running.handle >= 0) {
         syncTouchedFolders();
         const Text action = running.action.empty() ? actionOf(running.touched) : running.action;
-        const bool asState = wanted && !running.unjournaled;
+        const bool asState = wanted && !running.unjournaled && !goesWithLast();
         if (asState)
             raw::write(running.handle, journalEnd(action));
         outcome = closeJournal(asState) ? Outcome::Kept : Outcome::Pending;
+        if (asState)
+            m_keptAt = running.begin;
         if (asState && m_statesSize && (*m_statesSize += running.length) > StatesLimit)
             thinOutStates();
     }
@@ -272,12 +274,23 @@ void Guard::keep() {
         onUnitEnd(outcome);
 }
 
+bool Guard::goesWithLast() const {
+    const auto since = m_unit->begin - m_keptAt;
+    const auto wentOn = [&](const Former& one) {
+        const auto last = m_lastWritten.find(one.name);
+        return last != m_lastWritten.end() && last->second == one.content;
+    };
+    return since.count() >= 0 && since < together &&
+           std::all_of(m_unit->formers.begin(), m_unit->formers.end(), wentOn);
+}
+
 // These copies are for comparing only, so they need not be on the disk at once.
 void Guard::keepLatest() {
     const Latest latest(m_paths);
     for (const auto& [name, content] : m_unit->written)
         if (m_unit->known.contains(name) || latest.of(name) != content)
             latest.keep(name, content);
+    m_lastWritten = std::move(m_unit->written);
 }
 
 // Names that came or went must be on the disk before the journal goes.

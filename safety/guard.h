@@ -38,6 +38,10 @@ class Guard : public WriteWatcher {
     /// Called after each unit that has changed or tried to change a file.
     std::function<void(Outcome outcome)> onUnitEnd;
 
+    /// For many small units: one that goes on from what the one before has left in the same files,
+    /// within this time of the last that was kept, leaves no former state of its own.
+    std::chrono::seconds together{0};
+
     /// What the former state of the unit under way will say that was done.
     void nameUnit(const Text& action);
 
@@ -66,6 +70,7 @@ class Guard : public WriteWatcher {
     void goWithoutJournal(int error);
     void endUnit(bool takeBack);
     void keep();
+    [[nodiscard]] bool goesWithLast() const;
     void keepLatest();
     void takeBack();
     void syncTouchedFolders();
@@ -80,6 +85,8 @@ class Guard : public WriteWatcher {
     /// The files that the last unit wrote which began with a file: the next one likely writes them
     /// again, so they are set down together.
     std::map<std::string, std::vector<std::string>> m_habits;
+    std::map<std::string, std::string> m_lastWritten; ///< by the last unit
+    Moment m_keptAt{};                                ///< the last former state
     bool m_said = false;
     std::optional<std::uintmax_t> m_statesSize; ///< empty until it is asked for
     std::set<std::filesystem::path> m_pending;  ///< journals that would not go

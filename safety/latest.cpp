@@ -3,6 +3,7 @@
 #include "files/file_catalogue.h"
 #include "platform/raw_file.h"
 #include "safety/actions.h"
+#include "safety/layouts.h"
 #include "safety/seal.h"
 
 #include <algorithm>
@@ -33,6 +34,8 @@ std::string nameIn(std::string file) {
 } // namespace
 
 bool Latest::covers(const std::string& name) {
+    if (isReportList(name))
+        return true;
     const Text shown = shownName(name);
     const Text data = Text(dateien::Daten) + u"\\";
     const Text copies = data + Text(dateien::Sicherheit);

@@ -11,7 +11,8 @@ class Latest {
     explicit Latest(const std::filesystem::path& programFolder) : m_paths(programFolder) {}
     explicit Latest(const Paths& paths) : m_paths(paths) {}
 
-    /// Whether copies of the file are kept: of all in Daten but work files and dated copies.
+    /// Whether copies of the file are kept: of all in Daten but work files and dated copies,
+    /// and of the lists of absences and grades.
     [[nodiscard]] static bool covers(const std::string& name);
 
     /// In place and not at once on the disk: it is for comparing. Gives 0 or the number of an

@@ -1,6 +1,7 @@
 #include "safety/layouts.h"
 
 #include "files/module_files.h"
+#include "files/report_columns.h"
 #include "files/section_stores.h"
 #include "safety/paths.h"
 
@@ -100,6 +101,32 @@ Layout listLayout(const Text& name, size_t columns = 1) {
     return layout;
 }
 
+constexpr TextView ReportList = u"Zeugnisliste";
+constexpr TextView ReportListEnding = u".txt";
+constexpr size_t YearAndHalf = 2;
+
+// "32.txt" of "3aZeugnisliste32.txt"; empty for any other file.
+TextView endOfReportList(TextView name) {
+    const size_t length = YearAndHalf + ReportListEnding.size();
+    if (name.size() < ReportList.size() + length || name.find(u'\\') != TextView::npos)
+        return {};
+    const TextView end = name.substr(name.size() - length);
+    const TextView word = name.substr(name.size() - length - ReportList.size(), ReportList.size());
+    const bool numbered = std::all_of(end.begin(), end.begin() + YearAndHalf,
+                                      [](char16_t c) { return c >= u'0' && c <= u'9'; });
+    return numbered && sameIgnoringCase(word, ReportList) &&
+                   sameIgnoringCase(end.substr(YearAndHalf), ReportListEnding)
+               ? end
+               : TextView();
+}
+
+Layout reportListLayout(char16_t year) {
+    Layout layout = pupilLayout();
+    for (const Spalte& column : SpaltenFuer(year - u'0'))
+        add(layout, Text(column.Name), false);
+    return layout;
+}
+
 // Folder and mark of a copy away: "Sicherheit\AVSVspeicher23.11.2026.txt",
 // "Standard\AGStandard.Txt"
 Text original(TextView name) {
@@ -136,6 +163,8 @@ std::optional<Layout> moduleLayout(const Text& file) {
 } // namespace
 
 std::optional<Layout> layoutOf(std::string_view name) {
+    if (const Text shown = shownName(name); !endOfReportList(shown).empty())
+        return reportListLayout(endOfReportList(shown).front());
     const Text file = original(shownName(name));
     if (file.empty())
         return std::nullopt;
@@ -163,6 +192,8 @@ std::optional<Layout> layoutOf(std::string_view name) {
         return listLayout(u"Pfad");
     return moduleLayout(file);
 }
+
+bool isReportList(std::string_view name) { return !endOfReportList(shownName(name)).empty(); }
 
 Text pupilOf(const Record& record, const Layout& layout) {
     if (!layout.byPupil || record.fields.size() < layout.familyName + 2)

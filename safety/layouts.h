@@ -23,6 +23,9 @@ struct Layout {
 /// that of its original. Empty for a file of no such form.
 std::optional<Layout> layoutOf(std::string_view name);
 
+/// Whether a file is a list of absences and grades: "3aZeugnisliste32.txt", in the program folder.
+bool isReportList(std::string_view name);
+
 /// "Ahlers, Tom"; empty for a record that has no names.
 Text pupilOf(const Record& record, const Layout& layout);
 

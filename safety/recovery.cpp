@@ -32,8 +32,11 @@ Text namesOf(const std::vector<std::string>& files) {
 
 class Interrupted {
   public:
-    Interrupted(const Paths& paths, const fs::path& journal, Recovery& recovery)
-        : m_paths(paths), m_journal(journal), m_recovery(recovery) {}
+    using Wanted = std::function<bool(std::string_view)>;
+
+    Interrupted(const Paths& paths, const fs::path& journal, const Wanted& wanted,
+                Recovery& recovery)
+        : m_paths(paths), m_journal(journal), m_wanted(wanted), m_recovery(recovery) {}
     ~Interrupted() {
         if (m_opened.handle >= 0)
             raw::close(m_opened.handle);
@@ -54,6 +57,9 @@ class Interrupted {
                             shownName("Notsicherung/Staende/" + m_journal.filename().string()) +
                             u"“.");
         const Journal journal = readJournal(content.bytes);
+        if (m_wanted && !std::all_of(journal.files.begin(), journal.files.end(),
+                                     [&](const Former& one) { return m_wanted(one.name); }))
+            return;
         Restored restored = restore(m_paths, journal.files);
         // What is old may have to give way to what is needed.
         if (restored.diskFull && States(m_paths.program).makeRoom(2 * content.bytes.size()))
@@ -100,6 +106,7 @@ class Interrupted {
 
     const Paths& m_paths;
     const fs::path& m_journal;
+    const Wanted& m_wanted;
     Recovery& m_recovery;
     raw::Opened m_opened;
 };
@@ -107,6 +114,11 @@ class Interrupted {
 } // namespace
 
 Recovery takeBackInterrupted(const fs::path& programFolder) {
+    return takeBackInterrupted(programFolder, {});
+}
+
+Recovery takeBackInterrupted(const fs::path& programFolder,
+                             const std::function<bool(std::string_view name)>& wanted) {
     Recovery recovery;
     const Paths paths(programFolder);
     std::error_code failed;
@@ -122,7 +134,7 @@ Recovery takeBackInterrupted(const fs::path& programFolder) {
         // What is older must not be put back before what is newer.
         if (!recovery.complete())
             break;
-        Interrupted(paths, journal, recovery).takeBack();
+        Interrupted(paths, journal, wanted, recovery).takeBack();
     }
     return recovery;
 }

@@ -3,6 +3,7 @@
 #include "platform/text.h"
 
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 namespace zeugnis::safety {
@@ -21,5 +22,10 @@ struct Recovery {
 /// Takes back what was interrupted, so that every set of files is as before its save. To be called
 /// before anything is read. Units of a program that is running are left alone.
 Recovery takeBackInterrupted(const std::filesystem::path& programFolder);
+
+/// The same for those units alone that changed no file but such as `wanted` takes: for a program
+/// that starts beside another, where files may not be lockable.
+Recovery takeBackInterrupted(const std::filesystem::path& programFolder,
+                             const std::function<bool(std::string_view name)>& wanted);
 
 } // namespace zeugnis::safety

@@ -95,8 +95,10 @@ bool IstBearbeitet(const Dokumentdateien& dateien) {
            fs::last_write_time(dateien.Doc, ignored) > fs::last_write_time(dateien.Pdf, ignored);
 }
 
-Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& inhalt,
+Dokumentdateien DokumentSchreiben(Arbeitsverzeichnis verzeichnis, const Document& inhalt,
                                   const Text& stamm, const std::stop_token& abbruch) {
+    // Documents can be made anew at any time: no former states of them.
+    verzeichnis.watchWrites(nullptr);
     const Document dokument = fittedToPages(inhalt);
     const LaidDocument gesetzt = layOut(dokument);
     abbruchPruefen(abbruch);

@@ -20,7 +20,7 @@ struct Dokumentdateien {
 /// Writes both, first the .doc: a .doc that is younger than its .pdf has been edited since. Fails
 /// as writeWholeFile does, and with invalid-call if it is told to stop; the former files are then
 /// as they were. `stamm` may name a folder.
-Dokumentdateien DokumentSchreiben(const Arbeitsverzeichnis& verzeichnis, const Document& inhalt,
+Dokumentdateien DokumentSchreiben(Arbeitsverzeichnis verzeichnis, const Document& inhalt,
                                   const Text& stamm, const std::stop_token& abbruch = {});
 
 /// Whether both are there and the .doc has been changed by a word processor since.

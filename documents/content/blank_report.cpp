@@ -1,10 +1,10 @@
 #include "documents/content/blank_report.h"
 
 #include "documents/content/list_frame.h"
-#include "documents/content/report_columns.h"
 #include "documents/content/report_frame.h"
 #include "documents/content/report_grades.h"
 #include "documents/content/report_sections.h"
+#include "files/report_columns.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/content/report_columns.h"
+#include "files/report_columns.h"
 #include "platform/working_directory.h"
 
 namespace zeugnis::dokumente {

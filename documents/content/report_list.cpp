@@ -1,6 +1,7 @@
 #include "documents/content/report_list.h"
 
 #include "files/pupil_records.h"
+#include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/record_reader.h"
 #include "platform/whole_file.h"
@@ -60,6 +61,16 @@ std::span<const Spalte> spaltenDerDatei(std::string_view inhalt, std::span<const
     return aelter && inhalt.empty() ? alle.first(felder - FelderDavor) : alle;
 }
 
+void zeilenAnfuegen(std::string_view bytes, const Text& datei, int jahrgang,
+                    std::vector<Listenzeile>& zeilen) {
+    const std::span<const Spalte> spalten = spaltenDerDatei(bytes, SpaltenFuer(jahrgang));
+    RecordReader reader(decodeWindows1252(bytes), datei);
+    while (!reader.atEnd()) {
+        PlatzPruefen(reader, static_cast<int>(zeilen.size()));
+        zeilen.push_back(zeileLesen(reader, spalten));
+    }
+}
+
 std::multiset<int> nummernInDerDatei(const std::vector<Listenzeile>& zeilen, const Name& name) {
     std::multiset<int> nummern;
     for (const Listenzeile& zeile : zeilen)
@@ -98,13 +109,22 @@ Text Listenstamm(const Stammdaten& daten) { return Klassenstamm(daten, u"Zeugnis
 
 std::vector<Listenzeile> ListenzeilenLesen(const Arbeitsverzeichnis& verzeichnis, TextView datei,
                                            int jahrgang) {
+    return ListenzeilenAus(readWholeFile(verzeichnis, datei), verzeichnis.displayName(datei),
+                           jahrgang);
+}
+
+std::vector<Listenzeile> ListenzeilenAus(std::string_view bytes, const Text& datei, int jahrgang) {
     std::vector<Listenzeile> zeilen;
-    const std::span<const Spalte> spalten =
-        spaltenDerDatei(readWholeFile(verzeichnis, datei), SpaltenFuer(jahrgang));
-    RecordReader reader(verzeichnis, datei);
-    while (!reader.atEnd()) {
-        PlatzPruefen(reader, static_cast<int>(zeilen.size()));
-        zeilen.push_back(zeileLesen(reader, spalten));
+    zeilenAnfuegen(bytes, datei, jahrgang, zeilen);
+    return zeilen;
+}
+
+std::vector<Listenzeile> LesbareZeilenAus(std::string_view bytes, int jahrgang) {
+    std::vector<Listenzeile> zeilen;
+    try {
+        zeilenAnfuegen(bytes, {}, jahrgang, zeilen);
+    } catch (const Laufzeitfehler&) {
+        return zeilen;
     }
     return zeilen;
 }
@@ -123,12 +143,16 @@ Zeugnisliste Zuordnen(const std::vector<Listenzeile>& zeilen, const Namensliste&
 
 void ZeugnislisteSchreiben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten,
                            const Schuelertabelle<Eintrag>& eintraege) {
+    ZeugnislisteSchreiben(verzeichnis, daten, eintraege, Listenstamm(daten) + u".txt");
+}
+
+void ZeugnislisteSchreiben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten,
+                           const Schuelertabelle<Eintrag>& eintraege, const Text& datei) {
     const size_t spalten = SpaltenFuer(daten.Jahrgang).size();
-    JeSchuelerSchreiben(verzeichnis, Listenstamm(daten) + u".txt", daten.Liste,
-                        [&](RecordWriter& writer, int platz) {
-                            for (size_t i = 0; i < spalten; ++i)
-                                writer.add(eintraege[platz].Werte.at(i));
-                        });
+    JeSchuelerSchreiben(verzeichnis, datei, daten.Liste, [&](RecordWriter& writer, int platz) {
+        for (size_t i = 0; i < spalten; ++i)
+            writer.add(eintraege[platz].Werte.at(i));
+    });
 }
 
 std::optional<Zeugnisliste> ZeugnislisteLesen(const Arbeitsverzeichnis& verzeichnis,

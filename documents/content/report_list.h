@@ -1,7 +1,7 @@
 #pragma once
 
 #include "documents/content/class_data.h"
-#include "documents/content/report_columns.h"
+#include "files/report_columns.h"
 
 #include <optional>
 #include <vector>
@@ -36,11 +36,20 @@ Text Listenstamm(const Stammdaten& daten);
 std::vector<Listenzeile> ListenzeilenLesen(const Arbeitsverzeichnis& verzeichnis, TextView datei,
                                            int jahrgang);
 
+/// The same from the bytes of a file; `datei` names it in failures.
+std::vector<Listenzeile> ListenzeilenAus(std::string_view bytes, const Text& datei, int jahrgang);
+
+/// The records in front of the first that is damaged.
+std::vector<Listenzeile> LesbareZeilenAus(std::string_view bytes, int jahrgang);
+
 /// Gives each child what is entered under its name. Of several with the same name each keeps its
 /// own as long as their numbers are the same, or else gets nothing: no child must get the grades
 /// of another.
 Zeugnisliste Zuordnen(const std::vector<Listenzeile>& zeilen, const Namensliste& liste);
 
+/// Writes the list, to its file or to a copy.
+void ZeugnislisteSchreiben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten,
+                           const Schuelertabelle<Eintrag>& eintraege, const Text& datei);
 void ZeugnislisteSchreiben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten,
                            const Schuelertabelle<Eintrag>& eintraege);
 

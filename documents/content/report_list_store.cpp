@@ -1,9 +1,11 @@
 #include "documents/content/report_list_store.h"
 
+#include "documents/content/report_list_damage.h"
 #include "documents/content/wording.h"
 #include "platform/failure.h"
 #include "platform/path_text.h"
 #include "platform/whole_file.h"
+#include "platform/write_watcher.h"
 
 #include <algorithm>
 #include <array>
@@ -22,19 +24,24 @@ constexpr size_t Datumslaenge = 10;
 constexpr std::array Schadensarten = {Fehlerart::EndOfFile, Fehlerart::IndexOutOfRange,
                                       Fehlerart::TypeMismatch, Fehlerart::Overflow};
 
-std::optional<std::string> inhaltVon(const Arbeitsverzeichnis& verzeichnis, TextView datei) {
-    if (!hasFile(verzeichnis, datei))
-        return std::nullopt;
-    return readWholeFile(verzeichnis, datei);
-}
-
-// "3aZeugnisliste32 vom 07.07.2027.txt", and for a further one of the day "… 07.07.2027-2.txt".
-Text kopieAnlegen(const Arbeitsverzeichnis& verzeichnis, const Text& stamm, const Text& heute) {
+// "3aZeugnisliste32 vom 07.07.2027.txt", and for a further one of the day "… 07.07.2027-2.txt". One
+// that holds these bytes already will do.
+Text kopiename(const Arbeitsverzeichnis& verzeichnis, const Text& stamm, const Text& heute,
+               const std::optional<std::string>& bytes) {
     const Text anfang = stamm + Text(Kopiewort) + heute;
     Text kopie = anfang + Text(Endung);
-    for (int nummer = 2; hasFile(verzeichnis, kopie); ++nummer)
+    for (int nummer = 2; hasFile(verzeichnis, kopie); ++nummer) {
+        if (bytes && InhaltVon(verzeichnis, kopie) == bytes)
+            return kopie;
         kopie = anfang + u"-" + textFromNumber(nummer) + Text(Endung);
-    copyWholeFile(verzeichnis, stamm + Text(Endung), kopie);
+    }
+    return kopie;
+}
+
+Text kopieAnlegen(const Arbeitsverzeichnis& verzeichnis, const Text& stamm, const Text& heute,
+                  const std::string& bytes) {
+    Text kopie = kopiename(verzeichnis, stamm, heute, bytes);
+    writeWholeFile(verzeichnis, kopie, bytes);
     return kopie;
 }
 
@@ -73,8 +80,9 @@ bool hatEintraege(const Arbeitsverzeichnis& verzeichnis, TextView datei, int jah
     }
 }
 
-void leerSchreiben(const Arbeitsverzeichnis& verzeichnis, Listenstand& stand) {
-    stand.Liste = {};
+void zeilenSchreiben(const Arbeitsverzeichnis& verzeichnis, Listenstand& stand,
+                     const std::vector<Listenzeile>& zeilen) {
+    stand.Liste = Zuordnen(zeilen, stand.Stamm.Liste);
     ListenstandSchreiben(verzeichnis, stand, stand.Liste.Eintraege);
 }
 
@@ -88,18 +96,41 @@ Text ohneKindSatz(const std::vector<Text>& namen, const Text& kopie) {
 
 void unpassendesAufheben(const Arbeitsverzeichnis& verzeichnis, Listenstand& stand,
                          const Text& heute) {
-    const Text kopie = kopieAnlegen(verzeichnis, Listenstamm(stand.Stamm), heute);
-    stand.Hinweis = ohneKindSatz(stand.Liste.OhneKind, kopie);
+    const Text kopie =
+        kopieAnlegen(verzeichnis, Listenstamm(stand.Stamm), heute, stand.Bytes.value_or(""));
+    stand.Hinweis = verbunden(stand.Hinweis, u" ", ohneKindSatz(stand.Liste.OhneKind, kopie));
     stand.Liste.OhneKind.clear();
     ListenstandSchreiben(verzeichnis, stand, stand.Liste.Eintraege);
 }
 
 void beschaedigtesAufheben(const Arbeitsverzeichnis& verzeichnis, Listenstand& stand,
-                           const Text& schaden, const Text& heute) {
-    const Text kopie = kopieAnlegen(verzeichnis, Listenstamm(stand.Stamm), heute);
-    stand.Hinweis = u"Die gespeicherte Liste ist beschädigt und wurde als „" + kopie +
-                    u"“ aufgehoben; hier beginnt sie leer. " + schaden;
-    leerSchreiben(verzeichnis, stand);
+                           const Text& schaden, const Text& heute, Nachschaden danach) {
+    const std::string bytes = stand.Bytes.value_or("");
+    const Text kopie =
+        bytes.empty() ? Text() : kopieAnlegen(verzeichnis, Listenstamm(stand.Stamm), heute, bytes);
+    const Rest rest =
+        RestDerListe(verzeichnis, stand.Stamm, bytes, danach == Nachschaden::NurDatei);
+    stand.Hinweis = u"Die gespeicherte Liste war beschädigt" +
+                    (kopie.empty() ? Text() : u" und wurde als „" + kopie + u"“ aufgehoben") +
+                    u". " + schaden + u" " + rest.Satz;
+    zeilenSchreiben(verzeichnis, stand, rest.Zeilen);
+}
+
+// Who has deleted it may have meant to; so it is offered, not brought back.
+void verlorenesAufheben(const Arbeitsverzeichnis& verzeichnis, Listenstand& stand,
+                        const Text& heute) {
+    const std::optional<std::string> zuletzt = ZuletztGespeichert(verzeichnis, stand.Stamm);
+    if (!zuletzt)
+        return;
+    const Text kopie = kopieAnlegen(verzeichnis, Listenstamm(stand.Stamm), heute, *zuletzt);
+    stand.Hinweis = u"Die Datei der Liste ist nicht mehr da; hier beginnt sie leer. Was zuletzt "
+                    u"gespeichert wurde, steht in der Kopie „" +
+                    kopie + u"“.";
+}
+
+// A list that is shorter since the class has grown is as it was saved.
+bool istWieGespeichert(const Arbeitsverzeichnis& verzeichnis, const Listenstand& stand) {
+    return stand.Bytes && ZuletztGespeichert(verzeichnis, stand.Stamm) == stand.Bytes;
 }
 
 bool gleicheKinder(const Stammdaten& eine, const Stammdaten& andere) {
@@ -115,48 +146,102 @@ bool gleicheKinder(const Stammdaten& eine, const Stammdaten& andere) {
 
 } // namespace
 
-Listenstand ZeugnislisteOeffnen(Arbeitsverzeichnis& verzeichnis, const Text& heute) {
+Listenstand ZeugnislisteOeffnen(Arbeitsverzeichnis& verzeichnis, const Text& heute,
+                                Nachschaden danach) {
+    const WriteUnit einheit(verzeichnis.watcher());
     Listenstand stand{
         .Stamm = StammdatenLesen(verzeichnis), .Liste = {}, .Bytes = {}, .Hinweis = {}};
-    stand.Bytes = inhaltVon(verzeichnis, Listenstamm(stand.Stamm) + Text(Endung));
-    try {
-        if (std::optional<Zeugnisliste> liste = ZeugnislisteLesen(verzeichnis, stand.Stamm))
-            stand.Liste = std::move(*liste);
-    } catch (const Laufzeitfehler& failure) {
-        if (!istSchaden(failure))
-            throw;
-        beschaedigtesAufheben(verzeichnis, stand, failure.sentence(), heute);
+    stand.Bytes = InhaltVon(verzeichnis, Listenstamm(stand.Stamm) + Text(Endung));
+    if (!stand.Bytes) {
+        if (danach == Nachschaden::BesterStand)
+            verlorenesAufheben(verzeichnis, stand, heute);
+        return stand;
     }
+    const Text schaden = SchadenDerListe(verzeichnis, stand.Stamm, stand.Bytes);
+    if (!schaden.empty() && !istWieGespeichert(verzeichnis, stand))
+        beschaedigtesAufheben(verzeichnis, stand, schaden, heute, danach);
+    else
+        stand.Liste =
+            Zuordnen(LesbareZeilenAus(*stand.Bytes, stand.Stamm.Jahrgang), stand.Stamm.Liste);
     if (!stand.Liste.OhneKind.empty())
         unpassendesAufheben(verzeichnis, stand, heute);
     return stand;
 }
 
 Listenstand ZeugnislisteNeuBeginnen(Arbeitsverzeichnis& verzeichnis, const Text& heute) {
+    const WriteUnit einheit(verzeichnis.watcher());
     Listenstand stand{
         .Stamm = StammdatenLesen(verzeichnis), .Liste = {}, .Bytes = {}, .Hinweis = {}};
-    // A damaged list may hold entries too.
-    const Text datei = Listenstamm(stand.Stamm) + Text(Endung);
-    if (hatEintraege(verzeichnis, datei, stand.Stamm.Jahrgang, true)) {
-        const Text kopie = kopieAnlegen(verzeichnis, Listenstamm(stand.Stamm), heute);
+    const Text stamm = Listenstamm(stand.Stamm);
+    const Text datei = stamm + Text(Endung);
+    // A damaged list may hold entries too, and more of them what was last saved.
+    Text kopie;
+    if (hatEintraege(verzeichnis, datei, stand.Stamm.Jahrgang, true))
+        kopie = DateiAufheben(verzeichnis, stand.Stamm, heute);
+    const std::optional<std::string> zuletzt = ZuletztGespeichert(verzeichnis, stand.Stamm);
+    if (zuletzt && zuletzt != InhaltVon(verzeichnis, datei) &&
+        !SchadenDerListe(verzeichnis, stand.Stamm, InhaltVon(verzeichnis, datei)).empty())
+        kopie = kopieAnlegen(verzeichnis, stamm, heute, *zuletzt);
+    if (!kopie.empty())
         stand.Hinweis = u"Die Stammdaten wurden gespeichert, deshalb beginnt die Liste neu. Die "
                         u"bisherigen Einträge stehen in der Kopie „" +
                         kopie + u"“.";
-    }
-    leerSchreiben(verzeichnis, stand);
+    zeilenSchreiben(verzeichnis, stand, {});
     return stand;
 }
 
-bool IstAktuell(Arbeitsverzeichnis& verzeichnis, const Listenstand& stand) {
-    return gleicheKinder(StammdatenLesen(verzeichnis), stand.Stamm) &&
-           inhaltVon(verzeichnis, Listenstamm(stand.Stamm) + Text(Endung)) == stand.Bytes;
+Listenpruefung ListeVergleichen(Arbeitsverzeichnis& verzeichnis, const Listenstand& stand) {
+    if (!gleicheKinder(StammdatenLesen(verzeichnis), stand.Stamm))
+        return {.Lage = Listenlage::AndereKlasse, .Satz = {}};
+    const std::optional<std::string> bytes =
+        InhaltVon(verzeichnis, Listenstamm(stand.Stamm) + Text(Endung));
+    if (bytes == stand.Bytes)
+        return {.Lage = Listenlage::Unveraendert, .Satz = {}};
+    const Text schaden = SchadenDerListe(verzeichnis, stand.Stamm, bytes);
+    return {.Lage = schaden.empty() ? Listenlage::NeuerStand : Listenlage::Schaden,
+            .Satz = schaden};
 }
 
 void ListenstandSchreiben(const Arbeitsverzeichnis& verzeichnis, Listenstand& stand,
                           const Schuelertabelle<Eintrag>& eintraege) {
-    ZeugnislisteSchreiben(verzeichnis, stand.Stamm, eintraege);
+    const Text datei = Listenstamm(stand.Stamm) + Text(Endung);
+    try {
+        ZeugnislisteSchreiben(verzeichnis, stand.Stamm, eintraege);
+    } catch (const Laufzeitfehler&) {
+        // What a failed write has left must not pass for the work of someone else.
+        stand.Bytes = InhaltVon(verzeichnis, datei);
+        throw;
+    }
     stand.Liste.Eintraege = eintraege;
-    stand.Bytes = inhaltVon(verzeichnis, Listenstamm(stand.Stamm) + Text(Endung));
+    stand.Bytes = InhaltVon(verzeichnis, datei);
+}
+
+Text EintraegeAufheben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten,
+                       const Schuelertabelle<Eintrag>& eintraege, const Text& heute) {
+    if (Zeugnisliste{.Eintraege = eintraege, .OhneKind = {}}.istLeer())
+        return {};
+    if (const Text letzte = LetzteKopie(verzeichnis, daten); !letzte.empty()) {
+        const Zeugnisliste liste =
+            Zuordnen(ListenzeilenLesen(verzeichnis, letzte, daten.Jahrgang), daten.Liste);
+        if (std::equal(eintraege.begin(), eintraege.end(), liste.Eintraege.begin()))
+            return letzte;
+    }
+    Text kopie = kopiename(verzeichnis, Listenstamm(daten), heute, std::nullopt);
+    ZeugnislisteSchreiben(verzeichnis, daten, eintraege, kopie);
+    return kopie;
+}
+
+Text DateiAufheben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten,
+                   const Text& heute) {
+    const std::optional<std::string> bytes =
+        InhaltVon(verzeichnis, Listenstamm(daten) + Text(Endung));
+    if (!bytes || bytes->empty())
+        return {};
+    return kopieAnlegen(verzeichnis, Listenstamm(daten), heute, *bytes);
+}
+
+Text KopienameFuer(const Stammdaten& daten, const Text& heute) {
+    return Listenstamm(daten) + Text(Kopiewort) + heute + Text(Endung);
 }
 
 Text LetzteKopie(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten) {

@@ -1,6 +1,6 @@
 #include "documents/content/report_sections.h"
 
-#include "documents/content/report_columns.h"
+#include "files/report_columns.h"
 
 #include <array>
 #include <span>

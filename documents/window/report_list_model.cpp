@@ -2,6 +2,7 @@
 
 #include "documents/content/wording.h"
 #include "platform/failure.h"
+#include "platform/path_text.h"
 #include "platform/plain_machine.h"
 #include "toolkit/qt_text.h"
 
@@ -153,6 +154,8 @@ void ReportListModel::apply(const std::vector<Zellwert>& values) {
 }
 
 bool ReportListModel::save() {
+    if (m_asks)
+        return m_saved = false;
     try {
         ListenstandSchreiben(m_verzeichnis, m_stand, m_eintraege);
         if (!std::exchange(m_saved, true))
@@ -160,17 +163,30 @@ bool ReportListModel::save() {
     } catch (const Laufzeitfehler& failure) {
         m_saved = false;
         emit notice(QStringLiteral("Die letzte Änderung ist noch nicht gespeichert. ") +
-                    qString(failure.sentence()));
+                    qString(failure.sentence()) +
+                    QStringLiteral(" Sie steht noch hier; bei jeder Eingabe wird es wieder "
+                                   "versucht."));
     }
     return m_saved;
 }
 
 bool ReportListModel::refresh() {
     try {
-        if (IstAktuell(m_verzeichnis, m_stand))
+        const Listenpruefung pruefung = ListeVergleichen(m_verzeichnis, m_stand);
+        if (pruefung.Lage == Listenlage::Unveraendert) {
+            settle();
             return true;
-        // Not at once: an editor may be handing over its text at this moment.
-        QMetaObject::invokeMethod(this, &ReportListModel::reload, Qt::QueuedConnection);
+        }
+        const bool nurGelesen = pruefung.Lage == Listenlage::NeuerStand && m_saved;
+        if (pruefung.Lage == Listenlage::AndereKlasse || nurGelesen) {
+            // Not at once: an editor may be handing over its text at this moment.
+            QMetaObject::invokeMethod(this, &ReportListModel::reload, Qt::QueuedConnection);
+            return false;
+        }
+        ask(pruefung.Lage == Listenlage::Schaden
+                ? pruefung.Satz
+                : Text(u"Die Liste wurde inzwischen an anderer Stelle geändert."));
+        return true;
     } catch (const Laufzeitfehler& failure) {
         notUsable(failure);
     }
@@ -182,26 +198,105 @@ void ReportListModel::notUsable(const Laufzeitfehler& failure) {
                 qString(failure.sentence()));
 }
 
-void ReportListModel::reload() {
+void ReportListModel::ask(const Text& sentence) {
+    m_saved = false;
+    if (!std::exchange(m_asks, true))
+        emit notice(qString(sentence) +
+                    QStringLiteral(" Was Sie hier sehen, ist noch da, wird aber erst wieder "
+                                   "gespeichert, wenn Sie wählen: diese Tabelle oder den Stand "
+                                   "der Datei. Das andere bleibt als Kopie erhalten."));
+}
+
+// The file is again as it was.
+void ReportListModel::settle() {
+    if (std::exchange(m_asks, false))
+        save();
+}
+
+void ReportListModel::keepTable() {
     try {
-        if (!IstAktuell(m_verzeichnis, m_stand))
-            take(ZeugnislisteOeffnen(m_verzeichnis, SystemCalendar().today()));
+        if (ListeVergleichen(m_verzeichnis, m_stand).Lage == Listenlage::AndereKlasse)
+            return reload();
+        if (m_asks)
+            DateiAufheben(m_verzeichnis, m_stand.Stamm, SystemCalendar().today());
+        m_asks = false;
+        save();
+        emit changed();
     } catch (const Laufzeitfehler& failure) {
         notUsable(failure);
     }
 }
 
-void ReportListModel::take(Listenstand stand) {
+void ReportListModel::takeFile() {
+    try {
+        const Text heute = SystemCalendar().today();
+        const Text kopie = EintraegeAufheben(m_verzeichnis, m_stand.Stamm, m_eintraege, heute);
+        take(ZeugnislisteOeffnen(m_verzeichnis, heute, Nachschaden::NurDatei),
+             u"Hier steht jetzt der Stand der Datei." +
+                 (kopie.empty() ? Text() : u" Was hier stand, ist in der Kopie „" + kopie + u"“."));
+    } catch (const Laufzeitfehler& failure) {
+        notUsable(failure);
+    }
+}
+
+// Whether something that stands here would be gone with it.
+bool ReportListModel::hasLost(const Listenstand& stand) const {
+    for (int platz = 0; platz < rowCount(); ++platz)
+        for (size_t spalte = 0; spalte < Spaltenzahl; ++spalte)
+            if (m_eintraege[platz].Werte.at(spalte) != LeereZelle &&
+                stand.Liste.Eintraege[platz].Werte.at(spalte) == LeereZelle)
+                return true;
+    return false;
+}
+
+void ReportListModel::reload() {
+    try {
+        const Listenlage lage = ListeVergleichen(m_verzeichnis, m_stand).Lage;
+        if (lage == Listenlage::Unveraendert)
+            return;
+        const Text heute = SystemCalendar().today();
+        Text kopie;
+        if (!m_saved)
+            kopie = EintraegeAufheben(m_verzeichnis, m_stand.Stamm, m_eintraege, heute);
+        Listenstand neu = ZeugnislisteOeffnen(m_verzeichnis, heute);
+        if (m_saved && lage == Listenlage::NeuerStand && hasLost(neu))
+            kopie = EintraegeAufheben(m_verzeichnis, m_stand.Stamm, m_eintraege, heute);
+        take(std::move(neu),
+             u"Die Liste oder die Stammdaten wurden inzwischen an anderer Stelle geändert. Hier "
+             u"steht jetzt der neue Stand." +
+                 (kopie.empty() ? Text() : u" Was hier stand, ist in der Kopie „" + kopie + u"“."));
+    } catch (const Laufzeitfehler& failure) {
+        notUsable(failure);
+    }
+}
+
+void ReportListModel::take(Listenstand stand, const Text& how) {
     beginResetModel();
     m_stand = std::move(stand);
     m_eintraege = m_stand.Liste.Eintraege;
     m_history.clear();
     m_saved = true;
+    m_asks = false;
     endResetModel();
-    emit notice(QStringLiteral("Die Liste oder die Stammdaten wurden inzwischen an anderer Stelle "
-                               "geändert. Hier steht jetzt der neue Stand. ") +
-                qString(m_stand.Hinweis));
+    emit notice(qString(verbunden(how, u" ", m_stand.Hinweis)));
     emit changed();
+}
+
+Listenstand ReportListModel::shown() const {
+    Listenstand stand = m_stand;
+    stand.Liste.Eintraege = m_eintraege;
+    return stand;
+}
+
+bool ReportListModel::saveElsewhere(const std::filesystem::path& file) {
+    try {
+        ZeugnislisteSchreiben(Arbeitsverzeichnis(file.parent_path()), m_stand.Stamm, m_eintraege,
+                              textFromPath(file.filename()));
+        return true;
+    } catch (const Laufzeitfehler& failure) {
+        emit notice(qString(failure.sentence()));
+        return false;
+    }
 }
 
 Text ReportListModel::lastCopy() const {

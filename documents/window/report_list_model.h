@@ -31,9 +31,17 @@ class ReportListModel : public QAbstractTableModel {
     void redo();
     [[nodiscard]] const QUndoStack& history() const { return m_history; }
 
-    /// False if another program has changed the files, or they cannot be read: then nothing can be
-    /// changed now. What has changed is read anew as soon as the present event is over.
+    /// False if the class or the list has been changed elsewhere, or the files cannot be read: then
+    /// nothing can be changed now. What has changed is read anew as soon as the present event is
+    /// over. What is not saved is never dropped for it, nor anything for a damaged file: then the
+    /// table asks, and takes changes without writing them.
     bool refresh();
+
+    /// The table does not go by the file any more, and the teacher has to say which of both holds.
+    [[nodiscard]] bool asks() const { return m_asks; }
+    /// The two answers. What gives way stays in a dated copy.
+    void keepTable();
+    void takeFile();
 
     /// Takes the entries of the last dated copy over for the children that are still there.
     void takeOver();
@@ -45,6 +53,10 @@ class ReportListModel : public QAbstractTableModel {
     bool save();
     [[nodiscard]] bool isSaved() const { return m_saved; }
     [[nodiscard]] const Listenstand& state() const { return m_stand; }
+    /// With what the table shows, saved or not.
+    [[nodiscard]] Listenstand shown() const;
+    /// Writes what the table shows to a file elsewhere. False, with a notice, if that fails.
+    bool saveElsewhere(const std::filesystem::path& file);
     [[nodiscard]] const Arbeitsverzeichnis& folder() const { return m_verzeichnis; }
     [[nodiscard]] const Spalte& column(int number) const;
 
@@ -58,7 +70,10 @@ class ReportListModel : public QAbstractTableModel {
     friend class ListChange;
     void apply(const std::vector<Zellwert>& values);
     void reload();
-    void take(Listenstand stand);
+    void take(Listenstand stand, const Text& how);
+    void ask(const Text& sentence);
+    void settle();
+    [[nodiscard]] bool hasLost(const Listenstand& stand) const;
     void notUsable(const Laufzeitfehler& failure);
     [[nodiscard]] QVariant nameData(int row, int role) const;
 
@@ -67,6 +82,7 @@ class ReportListModel : public QAbstractTableModel {
     Schuelertabelle<Eintrag> m_eintraege;
     QUndoStack m_history;
     bool m_saved = true;
+    bool m_asks = false;
 };
 
 } // namespace zeugnis::dokumente

@@ -1,11 +1,13 @@
 #include "documents/window/report_list_window.h"
 
 #include "platform/failure.h"
+#include "platform/plain_machine.h"
 #include "toolkit/qt_text.h"
 
 #include <QAccessible>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -51,6 +53,11 @@ ReportListWindow::ReportListWindow(Arbeitsverzeichnis verzeichnis, Listenstand s
       m_takeOver(buttonOf(QStringLiteral("Frühere &Einträge übernehmen"),
                           QStringLiteral("Die Einträge der letzten Kopie für alle Kinder "
                                          "übernehmen, die noch in der Klasse sind"))),
+      m_keepTable(buttonOf(QStringLiteral("Diese &Tabelle speichern"),
+                           QStringLiteral("Was Sie hier sehen, gilt und wird gespeichert"))),
+      m_takeFile(buttonOf(QStringLiteral("Stand der &Datei nehmen"),
+                          QStringLiteral("Die Datei gilt; was Sie hier sehen, kommt in eine "
+                                         "Kopie"))),
       m_hint(labelOf(QStringLiteral("hinweis"))),
       m_cell(labelOf(QStringLiteral("leise"))),
       m_refusal(labelOf(QStringLiteral("fehler"))),
@@ -108,8 +115,17 @@ QWidget* ReportListWindow::noticeRow() {
         m_view->setFocus();
         m_model.takeOver();
     });
+    connect(m_keepTable, &QPushButton::clicked, this, [this] {
+        m_view->setFocus();
+        m_model.keepTable();
+    });
+    connect(m_takeFile, &QPushButton::clicked, this, [this] {
+        m_view->setFocus();
+        m_model.takeFile();
+    });
     layout->addWidget(m_hint, 1);
-    layout->addWidget(m_takeOver);
+    for (QPushButton* button : {m_takeOver, m_keepTable, m_takeFile})
+        layout->addWidget(button);
     return row;
 }
 
@@ -158,6 +174,8 @@ void ReportListWindow::showState() {
     setWindowTitle(qString(Text(Listenname(stamm.Jahrgang)) + u" der Klasse " + stamm.Liste.Klasse +
                            u", " + stamm.Halbjahr + u". Halbjahr"));
     m_takeOver->setVisible(m_model.canTakeOver());
+    m_keepTable->setVisible(!m_model.isSaved());
+    m_takeFile->setVisible(m_model.asks());
     m_saved->setText(m_model.isSaved() ? QStringLiteral("Alles ist gespeichert.")
                                        : QStringLiteral("Noch nicht gespeichert!"));
 }
@@ -202,7 +220,7 @@ bool ReportListWindow::isEdited() const {
 
 bool ReportListWindow::writeDocument() {
     try {
-        ListendokumentSchreiben(m_model.folder(), m_model.state());
+        ListendokumentSchreiben(m_model.folder(), m_model.shown());
         m_documentIsStale = false;
         return true;
     } catch (const Laufzeitfehler& failure) {
@@ -232,6 +250,34 @@ void ReportListWindow::print() {
     m_zeigen(Listendateien(m_model.folder(), m_model.state()));
 }
 
+// Whether what could not be saved may go, or is saved elsewhere.
+bool ReportListWindow::mayClose() {
+    QMessageBox box(QMessageBox::Warning, windowTitle(),
+                    QStringLiteral("Was in dieser Tabelle steht, ist noch nicht gespeichert."),
+                    QMessageBox::NoButton, this);
+    box.setInformativeText(QStringLiteral(
+        "Sie können die Einträge in eine Datei an einem anderen Ort schreiben, zum Beispiel auf "
+        "einen Stick. Legen Sie diese später in den Programmordner; dann bietet die Liste sie zur "
+        "Übernahme an."));
+    const QPushButton* elsewhere =
+        box.addButton(QStringLiteral("Woanders &speichern …"), QMessageBox::AcceptRole);
+    const QPushButton* discard =
+        box.addButton(QStringLiteral("&Verwerfen"), QMessageBox::DestructiveRole);
+    QPushButton* back =
+        box.addButton(QStringLiteral("&Zurück zur Tabelle"), QMessageBox::RejectRole);
+    box.setDefaultButton(back);
+    box.setEscapeButton(back);
+    box.exec();
+    if (box.clickedButton() == discard)
+        return true;
+    if (box.clickedButton() != elsewhere)
+        return false;
+    const QString file = QFileDialog::getSaveFileName(
+        this, QStringLiteral("Einträge speichern"),
+        qString(KopienameFuer(m_model.state().Stamm, SystemCalendar().today())));
+    return !file.isEmpty() && m_model.saveElsewhere(file.toStdU16String());
+}
+
 // The document is left as new as the table, since it is what opens where Word is installed.
 void ReportListWindow::closeEvent(QCloseEvent* event) {
     if (!takeTyped()) {
@@ -239,11 +285,7 @@ void ReportListWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     const bool saved = m_model.isSaved() || m_model.save();
-    if (!saved &&
-        QMessageBox::question(this, windowTitle(),
-                              QStringLiteral("Die letzten Änderungen konnten nicht "
-                                             "gespeichert werden und gehen verloren. "
-                                             "Trotzdem schließen?")) != QMessageBox::Yes) {
+    if (!saved && !mayClose()) {
         event->ignore();
         return;
     }

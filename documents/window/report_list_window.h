@@ -36,6 +36,7 @@ class ReportListWindow : public QWidget {
     [[nodiscard]] QString openingNotice() const;
     void showState();
     void showCell();
+    [[nodiscard]] bool mayClose();
     void showRefusal(const QString& sentence);
     void showNotice(const QString& sentence);
     bool takeTyped();
@@ -49,6 +50,8 @@ class ReportListWindow : public QWidget {
     QPushButton* m_undo;
     QPushButton* m_redo;
     QPushButton* m_takeOver;
+    QPushButton* m_keepTable;
+    QPushButton* m_takeFile;
     QLabel* m_hint;
     QLabel* m_cell;
     QLabel* m_refusal;

@@ -263,15 +263,15 @@ void ComposedClass::compose() {
 void ComposedClass::enterGrades() const {
     Arbeitsverzeichnis verzeichnis(path());
     const dokumente::Stammdaten stamm = dokumente::StammdatenLesen(verzeichnis);
-    Schuelertabelle<dokumente::Eintrag> eintraege;
+    Schuelertabelle<Eintrag> eintraege;
     for (int place = 0; place < Children; ++place) {
-        dokumente::Eintrag& eintrag = eintraege[place];
-        eintrag.Werte[dokumente::SpalteTage] = place % 9;
-        eintrag.Werte[dokumente::SpalteUnentschuldigt] = place % 9 == 8 ? 1 : 0;
-        for (size_t fach = dokumente::ErstesFach; fach < eintrag.Werte.size(); ++fach)
+        Eintrag& eintrag = eintraege[place];
+        eintrag.Werte[SpalteTage] = place % 9;
+        eintrag.Werte[SpalteUnentschuldigt] = place % 9 == 8 ? 1 : 0;
+        for (size_t fach = ErstesFach; fach < eintrag.Werte.size(); ++fach)
             eintrag.Werte.at(fach) = 1 + (place + static_cast<int>(fach)) % 4;
         if (place % 5 == 0)
-            eintrag.Werte[dokumente::Spaltenzahl - 2] = dokumente::LeereZelle;
+            eintrag.Werte[Spaltenzahl - 2] = LeereZelle;
     }
     dokumente::ZeugnislisteSchreiben(verzeichnis, stamm, eintraege);
 }

@@ -10,6 +10,9 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace zeugnis::dokumente {
 namespace {
 
@@ -18,8 +21,8 @@ constexpr TextView Datei = u"3aZeugnisliste32.txt";
 class ReportListWindowTest : public testing::Test {
   protected:
     ReportListWindowTest() {
-        m_installation.write({{test::schueler(u"Kim", u"Ahlers"), u"", u""},
-                              {test::schueler(u"Lena", u"Bäcker"), u"", u""}});
+        installation.write({{test::schueler(u"Kim", u"Ahlers"), u"", u""},
+                            {test::schueler(u"Lena", u"Bäcker"), u"", u""}});
         open(false);
     }
 
@@ -31,7 +34,7 @@ class ReportListWindowTest : public testing::Test {
     }
 
     std::unique_ptr<ReportListWindow> make(bool anew) {
-        Arbeitsverzeichnis folder(m_installation.path());
+        Arbeitsverzeichnis folder(installation.path());
         auto one = std::make_unique<ReportListWindow>(
             folder, ListeBereitstellen(folder, anew),
             [this](const Dokumentdateien& files) { printed = files.Doc.filename().string(); });
@@ -62,12 +65,23 @@ class ReportListWindowTest : public testing::Test {
         return all;
     }
 
-    Text file() { return m_installation.read(Datei); }
+    Text file() { return installation.read(Datei); }
 
     std::unique_ptr<ReportListWindow> window;
     ReportListView* view = nullptr;
     QLabel* refusal = nullptr;
     std::string printed;
+
+    QString hint() { return window->findChild<QLabel*>(QStringLiteral("hinweis"))->text(); }
+    void click(const char* words) {
+        for (auto* button : window->findChildren<QPushButton*>())
+            if (button->isVisible() &&
+                button->text().remove(u'&').contains(QString::fromUtf8(words)))
+                return QTest::mouseClick(button, Qt::LeftButton);
+        ADD_FAILURE() << words;
+    }
+
+    test::ReportInstallation installation;
 
   private:
     QWidget* receiver() {
@@ -76,8 +90,6 @@ class ReportListWindowTest : public testing::Test {
                 return editor;
         return view;
     }
-
-    test::ReportInstallation m_installation;
 };
 
 TEST_F(ReportListWindowTest, IsFilledInLikeASpreadsheetAndSavesAtOnce) {
@@ -161,20 +173,81 @@ TEST_F(ReportListWindowTest, TwoWindowsDoNotOverwriteEachOther) {
                     .contains(QStringLiteral("an anderer Stelle")));
 }
 
+// What another program may do to the file while the table is open.
+TEST_F(ReportListWindowTest, ADamagedFileTakesNothingFromTheTable) {
+    const Text one = u"1,\"3a\",\"Ahlers\",\"Kim\",12,-1,-1,-1,-1,-1,-1,-1,-1,-1,-1,-1\r\n";
+    const struct {
+        std::optional<Text> content; // nothing: it is removed
+        const char* words;
+    } damages[] = {{u"", "ist leer"},
+                   {one.substr(0, 30), "Zeugnisliste32.txt"},
+                   {one, "nur 1 von 2 Kindern"},
+                   {std::nullopt, "nicht mehr da"}};
+    for (const auto& damage : damages)
+        for (const bool keep : {true, false}) {
+            SCOPED_TRACE(damage.words);
+            view->setCurrentIndex(view->model()->index(0, 0));
+            keys("12");
+            press(Qt::Key_Return);
+            keys("5");
+            press(Qt::Key_Return);
+            if (damage.content)
+                installation.write(Datei, *damage.content);
+            else
+                installation.remove(Datei);
+            view->setCurrentIndex(view->model()->index(1, 2));
+            keys("3");
+            press(Qt::Key_Return);
+            EXPECT_EQ(cells(3), "12 . .|5 . 3|");
+            EXPECT_TRUE(hint().contains(QString::fromUtf8(damage.words))) << hint().toStdString();
+            click(keep ? "Tabelle" : "Datei");
+            EXPECT_EQ(cells(3) == "12 . .|5 . 3|", keep);
+            EXPECT_FALSE(hint().contains(QStringLiteral("wählen")));
+            if (!keep) {
+                Arbeitsverzeichnis folder(installation.path());
+                const Text copy = LetzteKopie(folder, StammdatenLesen(folder));
+                EXPECT_EQ(ListenzeilenLesen(folder, copy, 3).at(1).Werte.Werte[2], 3);
+            }
+            EXPECT_TRUE(window->close());
+            open(false);
+            EXPECT_EQ(cells(3) == "12 . .|5 . 3|", keep);
+            installation.remove(Datei);
+            open(true);
+        }
+}
+
+TEST_F(ReportListWindowTest, AFailedWriteTakesNothingFromTheTable) {
+    keys("12");
+    press(Qt::Key_Return);
+    struct sigaction ignore {};
+    ignore.sa_handler = SIG_IGN;
+    sigaction(SIGXFSZ, &ignore, nullptr);
+    rlimit former{};
+    getrlimit(RLIMIT_FSIZE, &former);
+    const rlimit small{.rlim_cur = 20, .rlim_max = former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    for (const char* value : {"5", "6"}) {
+        view->setCurrentIndex(view->model()->index(1, 0));
+        keys(value);
+        press(Qt::Key_Return);
+        EXPECT_TRUE(hint().contains(QStringLiteral("noch nicht gespeichert")));
+    }
+    setrlimit(RLIMIT_FSIZE, &former);
+    keys("7");
+    press(Qt::Key_Return);
+    EXPECT_EQ(hint(), "");
+    EXPECT_TRUE(window->close());
+    open(false);
+    EXPECT_EQ(cells(1), "12|7|");
+}
+
 TEST_F(ReportListWindowTest, BegunAnewItOffersTheFormerEntries) {
     keys("9");
     press(Qt::Key_Return);
     open(true);
     EXPECT_EQ(cells(1), ".|.|");
-    QPushButton* takeOver = nullptr;
-    for (auto* button : window->findChildren<QPushButton*>())
-        if (button->text().contains(QStringLiteral("übernehmen")))
-            takeOver = button;
-    ASSERT_NE(takeOver, nullptr);
-    EXPECT_TRUE(takeOver->isVisible());
-    QTest::mouseClick(takeOver, Qt::LeftButton);
+    click("übernehmen");
     EXPECT_EQ(cells(1), "9|.|");
-    EXPECT_FALSE(takeOver->isVisible());
     press(Qt::Key_P, Qt::ControlModifier);
     EXPECT_EQ(printed, "3aZeugnisliste32.doc");
 }

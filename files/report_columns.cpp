@@ -1,8 +1,8 @@
-#include "documents/content/report_columns.h"
+#include "files/report_columns.h"
 
 #include <algorithm>
 
-namespace zeugnis::dokumente {
+namespace zeugnis {
 namespace {
 
 constexpr int TageHoechstens = 200;
@@ -106,4 +106,4 @@ TextView EintragPruefen(const Eintrag& eintrag) {
 
 Text Zellentext(int wert) { return wert == LeereZelle ? Text() : textFromNumber(wert); }
 
-} // namespace zeugnis::dokumente
+} // namespace zeugnis

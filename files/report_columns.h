@@ -7,7 +7,7 @@
 #include <variant>
 
 /// What is entered about a child besides the texts: days absent, and in years 3 and 4 the grades.
-namespace zeugnis::dokumente {
+namespace zeugnis {
 
 /// A cell in which nothing has been entered, in memory as in the file.
 inline constexpr int LeereZelle = -1;
@@ -58,4 +58,4 @@ TextView EintragPruefen(const Eintrag& eintrag);
 /// The value as it is typed and shown; empty for an empty cell.
 Text Zellentext(int wert);
 
-} // namespace zeugnis::dokumente
+} // namespace zeugnis
