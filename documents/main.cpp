@@ -1,6 +1,7 @@
 #include "documents/app/document_keys.h"
 #include "documents/app/report_list_files.h"
 #include "documents/app/review_document.h"
+#include "documents/app/temporary_folder.h"
 #include "documents/app/word_processor.h"
 #include "documents/content/report_marks.h"
 #include "documents/content/wording.h"
@@ -19,7 +20,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMessageBox>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <iostream>
@@ -104,6 +104,14 @@ PreviewWindow::Nachschauen nachschauen(const Dokumentdateien& dateien,
     };
 }
 
+Text aufgehobenHinweis(const Dokumentdateien& dateien) {
+    return dateien.Aufgehoben.empty()
+               ? Text()
+               : u"Das Dokument wurde neu geschrieben. Das in der Textverarbeitung geänderte steht "
+                 u"in der Kopie „" +
+                     dateien.Aufgehoben + u"“.";
+}
+
 // Whatever they were opened with, it is the macro that writes the reports anew.
 std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programmordner,
                                               const Dokumentdateien& dateien,
@@ -112,8 +120,9 @@ std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programm
         mitFortschrittSchreiben(
             {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"}, {});
     };
-    return std::make_unique<ReportWindow>(programmordner, nachschauen(dateien, umwandlungen),
-                                          neuSchreiben);
+    return std::make_unique<ReportWindow>(
+        programmordner, nachschauen(dateien, umwandlungen, aufgehobenHinweis(dateien)),
+        neuSchreiben);
 }
 
 Fenster listenfenster(Netz& netz, const Arbeitsverzeichnis& ordner, bool neu,
@@ -142,8 +151,8 @@ int zeigen(const Fenster& fenster) {
 // The text of the review lies in a folder of its own, which stays if it is being edited.
 int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufruf, Fensterart art,
                    const std::filesystem::path& umwandlungen) {
-    QTemporaryDir texte;
-    const Dokumentdateien dateien = mitFortschrittSchreiben(aufruf, texte.path().toStdU16String());
+    TemporaryFolder texte;
+    const Dokumentdateien dateien = mitFortschrittSchreiben(aufruf, texte.path());
     if (art == Fensterart::Zeugnisse) {
         std::unique_ptr<PreviewWindow> fenster =
             zeugnisfenster(programmordner, dateien, umwandlungen);
@@ -159,19 +168,21 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
         const Fenster offen = std::move(fenster);
         return zeigen(offen);
     }
-    const Text hinweis = IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : Text();
+    const Text hinweis = IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : aufgehobenHinweis(dateien);
     const Fenster fenster =
         std::make_unique<PreviewWindow>(nachschauen(dateien, umwandlungen, hinweis));
     const int ende = zeigen(fenster);
-    texte.setAutoRemove(!IstAnzeigetext(aufruf) || !WirdBearbeitet(dateien));
+    if (IstAnzeigetext(aufruf) && WirdBearbeitet(dateien))
+        texte.stay();
     return ende;
 }
 
 int mitFenster(const Aufruf& aufruf) {
     Arbeitsverzeichnis verzeichnis(startFolder());
     const Fensterart art = FensterFuer(verzeichnis, aufruf);
-    const QTemporaryDir ordner;
-    const std::filesystem::path umwandlungen = ordner.path().toStdU16String();
+    RemoveLeftFolders();
+    const TemporaryFolder ordner;
+    const std::filesystem::path umwandlungen = ordner.path();
     const bool neu = art == Fensterart::ZeugnislisteNeu;
     if (neu || art == Fensterart::Zeugnisliste) {
         Netz netz(verzeichnis.current());

@@ -1,11 +1,16 @@
 #include "documents/app/document_files.h"
 
 #include "documents/app/document_keys.h"
+#include "documents/content/dated_copy.h"
 #include "documents/pdf/page_fit.h"
+#include "documents/pdf/pdf_outline.h"
 #include "documents/pdf/pdf_writer.h"
 #include "documents/rtf/rtf_writer.h"
 #include "platform/failure.h"
+#include "platform/plain_machine.h"
+#include "platform/raw_file.h"
 #include "platform/whole_file.h"
+#include "safety/seal.h"
 
 #include <fstream>
 #include <system_error>
@@ -38,33 +43,21 @@ void abbruchPruefen(const std::stop_token& abbruch) {
                              u"Das Schreiben wurde abgebrochen. Alle Dateien sind, wie sie waren.");
 }
 
-struct Vorstand {
-    std::optional<std::string> Inhalt; ///< nothing if there was no such file
-    fs::file_time_type Zeit;
-};
-
-Vorstand vorstandLesen(const Arbeitsverzeichnis& verzeichnis, const Text& name) {
-    const fs::path pfad = verzeichnis.path(name);
-    if (!vorhanden(pfad))
-        return {};
-    return {.Inhalt = readWholeFile(verzeichnis, name), .Zeit = fs::last_write_time(pfad)};
-}
+std::string bytesVon(const fs::path& pfad) { return raw::read(pfad).bytes; }
 
 // Puts a written file back as it was, unless what comes after it succeeds too.
 class Ruecknahme {
   public:
-    Ruecknahme(fs::path pfad, Vorstand vorher)
+    Ruecknahme(fs::path pfad, std::optional<std::string> vorher)
         : m_pfad(std::move(pfad)), m_vorher(std::move(vorher)) {}
     ~Ruecknahme() {
         std::error_code ignored;
         if (m_gelungen)
             return;
-        if (!m_vorher.Inhalt) {
+        if (!m_vorher)
             fs::remove(m_pfad, ignored);
-            return;
-        }
-        std::ofstream(m_pfad, std::ios::binary) << *m_vorher.Inhalt;
-        fs::last_write_time(m_pfad, m_vorher.Zeit, ignored);
+        else
+            std::ofstream(m_pfad, std::ios::binary) << *m_vorher;
     }
     Ruecknahme(const Ruecknahme&) = delete;
     Ruecknahme& operator=(const Ruecknahme&) = delete;
@@ -73,7 +66,7 @@ class Ruecknahme {
 
   private:
     fs::path m_pfad;
-    Vorstand m_vorher;
+    std::optional<std::string> m_vorher; ///< nothing if there was no such file
     bool m_gelungen = false;
 };
 
@@ -89,10 +82,15 @@ Dokumentdateien DokumentdateienZu(const Arbeitsverzeichnis& verzeichnis, const T
             .Pdf = verzeichnis.path(stamm + u".pdf")};
 }
 
+// Not by the times of the files: copying and unpacking changes them.
 bool IstBearbeitet(const Dokumentdateien& dateien) {
     std::error_code ignored;
-    return vorhanden(dateien.Doc) && vorhanden(dateien.Pdf) &&
-           fs::last_write_time(dateien.Doc, ignored) > fs::last_write_time(dateien.Pdf, ignored);
+    if (!vorhanden(dateien.Doc) || !vorhanden(dateien.Pdf))
+        return false;
+    if (const std::string pruefsumme = docChecksumIn(bytesVon(dateien.Pdf)); !pruefsumme.empty())
+        return safety::checksumText(bytesVon(dateien.Doc)) != pruefsumme;
+    // A .pdf from elsewhere tells nothing else.
+    return fs::last_write_time(dateien.Doc, ignored) > fs::last_write_time(dateien.Pdf, ignored);
 }
 
 Dokumentdateien DokumentSchreiben(Arbeitsverzeichnis verzeichnis, const Document& inhalt,
@@ -103,14 +101,20 @@ Dokumentdateien DokumentSchreiben(Arbeitsverzeichnis verzeichnis, const Document
     const LaidDocument gesetzt = layOut(dokument);
     abbruchPruefen(abbruch);
     const std::string rtf = rtfFromDocument(dokument, gesetzt.pagesPerSection());
-    const std::string pdf = pdfFromLayout(gesetzt);
+    const std::string pdf = pdfFromLayout(gesetzt, safety::checksumText(rtf));
     abbruchPruefen(abbruch);
-    Vorstand vorher = vorstandLesen(verzeichnis, stamm + u".doc");
+    Dokumentdateien dateien = DokumentdateienZu(verzeichnis, stamm);
+    std::optional<std::string> vorher;
+    if (vorhanden(dateien.Doc))
+        vorher = readWholeFile(verzeichnis, stamm + u".doc");
+    if (vorher && IstBearbeitet(dateien))
+        dateien.Aufgehoben =
+            KopieAnlegen(verzeichnis, stamm, u".doc", SystemCalendar().today(), *vorher);
     writeWholeFile(verzeichnis, stamm + u".doc", rtf);
     Ruecknahme doc(verzeichnis.path(stamm + u".doc"), std::move(vorher));
     writeWholeFile(verzeichnis, stamm + u".pdf", pdf);
     doc.gelungen();
-    return DokumentdateienZu(verzeichnis, stamm);
+    return dateien;
 }
 
 Dokumentdateien DokumentBereitstellen(Arbeitsverzeichnis& verzeichnis, const Aufruf& aufruf,

@@ -15,9 +15,11 @@ struct Dokumentdateien {
     Text Name; ///< of the .doc as the user knows it
     std::filesystem::path Doc;
     std::filesystem::path Pdf;
+    Text Aufgehoben = {}; ///< the copy of the edited .doc that has given way; mostly empty
 };
 
-/// Writes both, first the .doc: a .doc that is younger than its .pdf has been edited since. Fails
+/// Writes both. The .pdf knows the checksum of its .doc, so it can be told whether that was edited
+/// since; if the former one was, it is kept in a dated copy. Fails
 /// as writeWholeFile does, and with invalid-call if it is told to stop; the former files are then
 /// as they were. `stamm` may name a folder.
 Dokumentdateien DokumentSchreiben(Arbeitsverzeichnis verzeichnis, const Document& inhalt,

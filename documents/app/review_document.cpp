@@ -46,7 +46,7 @@ Text AnzeigetextHinweis() {
 
 bool WirdBearbeitet(const Dokumentdateien& dateien) {
     std::error_code ignored;
-    if (fs::last_write_time(dateien.Doc, ignored) > fs::last_write_time(dateien.Pdf, ignored))
+    if (IstBearbeitet(dateien))
         return true;
     for (const fs::directory_entry& eintrag :
          fs::directory_iterator(dateien.Doc.parent_path(), ignored))

@@ -1,5 +1,6 @@
 #include "documents/content/report_list_store.h"
 
+#include "documents/content/dated_copy.h"
 #include "documents/content/report_list_damage.h"
 #include "documents/content/wording.h"
 #include "platform/failure.h"
@@ -17,32 +18,15 @@ namespace zeugnis::dokumente {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr TextView Kopiewort = u" vom ";
 constexpr TextView Endung = u".txt";
 constexpr size_t Datumslaenge = 10;
 
 constexpr std::array Schadensarten = {Fehlerart::EndOfFile, Fehlerart::IndexOutOfRange,
                                       Fehlerart::TypeMismatch, Fehlerart::Overflow};
 
-// "3aZeugnisliste32 vom 07.07.2027.txt", and for a further one of the day "… 07.07.2027-2.txt". One
-// that holds these bytes already will do.
-Text kopiename(const Arbeitsverzeichnis& verzeichnis, const Text& stamm, const Text& heute,
-               const std::optional<std::string>& bytes) {
-    const Text anfang = stamm + Text(Kopiewort) + heute;
-    Text kopie = anfang + Text(Endung);
-    for (int nummer = 2; hasFile(verzeichnis, kopie); ++nummer) {
-        if (bytes && InhaltVon(verzeichnis, kopie) == bytes)
-            return kopie;
-        kopie = anfang + u"-" + textFromNumber(nummer) + Text(Endung);
-    }
-    return kopie;
-}
-
 Text kopieAnlegen(const Arbeitsverzeichnis& verzeichnis, const Text& stamm, const Text& heute,
                   const std::string& bytes) {
-    Text kopie = kopiename(verzeichnis, stamm, heute, bytes);
-    writeWholeFile(verzeichnis, kopie, bytes);
-    return kopie;
+    return KopieAnlegen(verzeichnis, stamm, Endung, heute, bytes);
 }
 
 // Sorts copies by age: year, month, day, number of the day. Empty for any other file.
@@ -226,7 +210,7 @@ Text EintraegeAufheben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& 
         if (std::equal(eintraege.begin(), eintraege.end(), liste.Eintraege.begin()))
             return letzte;
     }
-    Text kopie = kopiename(verzeichnis, Listenstamm(daten), heute, std::nullopt);
+    Text kopie = Kopiename(verzeichnis, Listenstamm(daten), Endung, heute);
     ZeugnislisteSchreiben(verzeichnis, daten, eintraege, kopie);
     return kopie;
 }

@@ -10,6 +10,7 @@ namespace zeugnis::dokumente {
 namespace {
 
 constexpr int PageHeight = 842;
+constexpr std::string_view ChecksumKey = "/DocChecksum (";
 
 std::optional<int> numberAt(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \n"), text.size()));
@@ -161,27 +162,10 @@ class Update {
     std::vector<std::pair<int, size_t>> m_places;
 };
 
-} // namespace
-
-std::string withBookmarks(std::string pdf, const std::vector<Bookmark>& bookmarks) {
-    const std::optional<PdfFile> file = PdfFile::parse(pdf);
-    if (!file || bookmarks.empty())
-        return pdf;
-    const std::vector<int> pages = file->pageObjects();
-    const std::string catalogue(file->dictionary(file->root));
-    const int count = static_cast<int>(bookmarks.size());
-    const auto fits = [&](const Bookmark& mark) {
-        return mark.page >= 0 && static_cast<size_t>(mark.page) < pages.size();
-    };
-    if (catalogue.empty() || !std::all_of(bookmarks.begin(), bookmarks.end(), fits))
-        return pdf;
-
-    const int outline = file->size;
+void addBookmarks(Update& update, int outline, const std::vector<Bookmark>& bookmarks,
+                  const std::vector<int>& pages) {
     const int first = outline + 1;
-    Update update(pdf, *file);
-    update.add(file->root, catalogue + "/Outlines " + reference(outline) +
-                               "\n/PageMode /UseOutlines\n/Lang (de-DE)\n"
-                               "/ViewerPreferences <</DisplayDocTitle true>>\n");
+    const int count = static_cast<int>(bookmarks.size());
     update.add(outline, "/Type /Outlines /First " + reference(first) + " /Last " +
                             reference(outline + count) + " /Count " + std::to_string(count));
     for (int i = 0; i < count; ++i) {
@@ -193,7 +177,44 @@ std::string withBookmarks(std::string pdf, const std::vector<Bookmark>& bookmark
                        reference(pages[static_cast<size_t>(mark.page)]) + " /XYZ 0 " +
                        std::to_string(PageHeight - mark.fromTop) + " null]");
     }
+}
+
+} // namespace
+
+std::string withAdditions(std::string pdf, const std::vector<Bookmark>& bookmarks,
+                          std::string_view docChecksum) {
+    const std::optional<PdfFile> file = PdfFile::parse(pdf);
+    if (!file)
+        return pdf;
+    const std::vector<int> pages = file->pageObjects();
+    const std::string catalogue(file->dictionary(file->root));
+    const std::string info(file->dictionary(file->info));
+    const auto fits = [&](const Bookmark& mark) {
+        return mark.page >= 0 && static_cast<size_t>(mark.page) < pages.size();
+    };
+    if (catalogue.empty() || info.empty() || !std::all_of(bookmarks.begin(), bookmarks.end(), fits))
+        return pdf;
+
+    const int outline = file->size;
+    Update update(pdf, *file);
+    update.add(file->root, catalogue +
+                               (bookmarks.empty() ? std::string()
+                                                  : "/Outlines " + reference(outline) +
+                                                        "\n/PageMode /UseOutlines\n") +
+                               "/Lang (de-DE)\n/ViewerPreferences <</DisplayDocTitle true>>\n");
+    if (!bookmarks.empty())
+        addBookmarks(update, outline, bookmarks, pages);
+    if (!docChecksum.empty())
+        update.add(file->info, info + std::string(ChecksumKey) + std::string(docChecksum) + ")\n");
     return update.finished();
+}
+
+std::string docChecksumIn(std::string_view pdf) {
+    const size_t key = pdf.rfind(ChecksumKey);
+    if (key == std::string_view::npos)
+        return {};
+    const std::string_view rest = pdf.substr(key + ChecksumKey.size());
+    return std::string(rest.substr(0, rest.find(')')));
 }
 
 } // namespace zeugnis::dokumente

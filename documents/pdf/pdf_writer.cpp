@@ -91,7 +91,7 @@ LaidDocument layOut(const Document& document) {
     return laid;
 }
 
-std::string pdfFromLayout(const LaidDocument& document) {
+std::string pdfFromLayout(const LaidDocument& document, std::string_view docChecksum) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     std::vector<Bookmark> bookmarks;
@@ -103,7 +103,7 @@ std::string pdfFromLayout(const LaidDocument& document) {
         for (const LaidSection& section : document.sections)
             sections.draw(section);
     }
-    return withBookmarks(buffer.data().toStdString(), bookmarks);
+    return withAdditions(buffer.data().toStdString(), bookmarks, docChecksum);
 }
 
 } // namespace zeugnis::dokumente

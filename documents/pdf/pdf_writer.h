@@ -21,7 +21,8 @@ struct LaidDocument {
 
 LaidDocument layOut(const Document& document);
 
-/// The bytes of a PDF file with embedded fonts, title and bookmarks.
-std::string pdfFromLayout(const LaidDocument& document);
+/// The bytes of a PDF file with embedded fonts, title and bookmarks, and with the checksum of the
+/// .doc beside it, if there is one.
+std::string pdfFromLayout(const LaidDocument& document, std::string_view docChecksum = {});
 
 } // namespace zeugnis::dokumente

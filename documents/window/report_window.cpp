@@ -1,6 +1,7 @@
 #include "documents/window/report_window.h"
 
 #include "documents/app/report_files.h"
+#include "documents/app/temporary_folder.h"
 #include "documents/window/layout_dialog.h"
 #include "documents/window/progress.h"
 #include "platform/failure.h"
@@ -9,7 +10,6 @@
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QUrl>
 
 namespace zeugnis::dokumente {
@@ -51,20 +51,20 @@ bool ReportWindow::mayBeLost(const QString& title, const QString& question) {
 
 void ReportWindow::changeLayout() {
     try {
-        const QTemporaryDir folder;
+        const TemporaryFolder folder;
         const Zeugnisaufbau before = ZeugnisaufbauLesen(m_folder);
         LayoutDialog dialog(
             before, Kopfbilder(m_folder),
             [&](const Zeugnisaufbau& aufbau) {
-                return ProbezeugnisSchreiben(m_folder, aufbau, folder.path().toStdU16String());
+                return ProbezeugnisSchreiben(m_folder, aufbau, folder.path());
             },
             this);
         if (dialog.exec() != QDialog::Accepted || dialog.chosen() == before)
             return;
         if (!mayBeLost(LayoutTitle,
                        QStringLiteral("Die Zeugnisse wurden in der Textverarbeitung geändert. Mit "
-                                      "dem neuen Aufbau werden sie neu geschrieben, und diese "
-                                      "Änderungen gehen verloren.")))
+                                      "dem neuen Aufbau werden sie neu geschrieben; das "
+                                      "geänderte Dokument bleibt als Kopie erhalten.")))
             return;
         ZeugnisaufbauSchreiben(m_folder, dialog.chosen());
         m_rewrite();

@@ -1,9 +1,13 @@
 #include "documents/app/document_files.h"
 #include "documents/app/document_keys.h"
+#include "documents/app/review_document.h"
+#include "documents/app/temporary_folder.h"
 #include "tests/documents/report_installation.h"
 #include "tests/support/failure_of.h"
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace zeugnis::dokumente {
 namespace {
@@ -81,14 +85,12 @@ TEST_F(DocumentFiles, KeepsBothOldFilesIfOneCannotBeWritten) {
     installation.write(u"3aKlassenliste32.doc", u"alt");
     const fs::path doc = installation.path() / "3aKlassenliste32.doc";
     const fs::path pdf = installation.path() / "3aKlassenliste32.pdf";
-    const auto time = fs::last_write_time(doc);
     fs::create_directory(pdf);
     fails(u"3aKlassenliste32.pdf");
     fs::remove(pdf);
     fs::create_symlink("/dev/full", pdf);
     fails(u"3aKlassenliste32.pdf");
     EXPECT_EQ(installation.read(u"3aKlassenliste32.doc"), u"alt");
-    EXPECT_EQ(fs::last_write_time(doc), time);
 
     installation.remove(u"3aKlassenliste32.doc");
     fails(u"3aKlassenliste32.pdf");
@@ -111,6 +113,25 @@ TEST_F(DocumentFiles, WritesNothingOnceItIsToldToStop) {
     EXPECT_FALSE(installation.has(u"3aKlassenliste32.doc"));
 }
 
+TEST_F(DocumentFiles, AnEmptyClassListGivesOneHelpfulSentenceInEveryDocument) {
+    installation.write(u"Daten/Namen.Txt", u"");
+    for (const auto& [document, macro] :
+         {std::pair{u"ZeugnisseSchreiben.doc", u"ZeugnisseSchreiben"},
+          {u"ZeugnisseAnlagen.doc", u"ZeugnisseAnlagen"},
+          {u"KlListe.doc", u"Klassenliste"},
+          {u"StListe.doc", u"Strichliste"},
+          {u"BldListe.doc", u"Bilderliste"},
+          {u"Leerformular.doc", u"Leerformular"},
+          {u"Zeugnisliste.doc", u"Zeugnisliste"},
+          {u"ZeugnislisteNeu.doc", u"ZeugnislisteNeu"}}) {
+        const Text sentence = test::failureSentenceOf([&] { open(document, macro); });
+        EXPECT_NE(sentence.find(u"noch keine Klasse. Tragen Sie sie im Zeugnisprogramm unter "
+                                u"„Basisdaten“ ein."),
+                  Text::npos)
+            << utf8FromText(macro) << ": " << utf8FromText(sentence);
+    }
+}
+
 TEST_F(DocumentFiles, MakesNoListOfNobodyButTheEmptyForm) {
     installation.write({{{}, u"", u""}});
     for (const auto& key : {std::pair{u"ZeugnisseAnlagen.doc", u"ZeugnisseAnlagen"},
@@ -118,15 +139,64 @@ TEST_F(DocumentFiles, MakesNoListOfNobodyButTheEmptyForm) {
                             {u"StListe.doc", u"Strichliste"}})
         EXPECT_EQ(failureOf([&] { open(key.first, key.second); }), "invalid-call");
     EXPECT_EQ(open(u"Leerformular.doc", u"Leerformular").Name, u"3aLeerformular32.doc");
-    installation.write(u"Daten/Namen.Txt", u"");
-    const Text sentence =
-        test::failureSentenceOf([&] { open(u"Leerformular.doc", u"Leerformular"); });
-    EXPECT_NE(sentence.find(u"noch keine Klasse"), Text::npos);
+}
+
+TEST_F(DocumentFiles, TellsByTheContentWhetherADocumentWasEdited) {
+    const auto write = [&] { return open(u"ZeugnisseSchreiben.doc", u"ZeugnisseSchreiben"); };
+    const Dokumentdateien files = write();
+    // A copied folder has other times, in any order.
+    for (const int minutes : {-1, 1}) {
+        fs::last_write_time(files.Doc,
+                            fs::last_write_time(files.Pdf) + std::chrono::minutes(minutes));
+        EXPECT_FALSE(IstBearbeitet(files)) << minutes;
+    }
+    installation.edit("3aZeugnisse32.doc");
+    const Text edited = installation.read(u"3aZeugnisse32.doc");
+    for (const int minutes : {-1, 1}) {
+        fs::last_write_time(files.Doc,
+                            fs::last_write_time(files.Pdf) + std::chrono::minutes(minutes));
+        EXPECT_TRUE(IstBearbeitet(files)) << minutes;
+    }
+    const Text copy = write().Aufgehoben;
+    EXPECT_EQ(installation.read(copy), edited);
+    EXPECT_EQ(write().Aufgehoben, u"");
+}
+
+TEST_F(DocumentFiles, TextsInTheTemporaryFolderGoAtTheNextStart) {
+    qputenv("TMPDIR", installation.path().c_str());
+    const auto left = [&](const char* name, bool edited) {
+        const fs::path folder = installation.path() / name;
+        fs::create_directories(folder / "profil");
+        AnzeigetextSchreiben(folder, u"Azra liest.");
+        std::ofstream(folder / "offen").flush();
+        if (edited)
+            installation.edit((std::string(name) + "/Anzeigetext.doc").c_str());
+        return folder;
+    };
+    const fs::path killed = left("zeugnisdokumente-kalt", false);
+    const fs::path edited = left("zeugnisdokumente-neu", true);
+    const fs::path old = left("zeugnisdokumente-alt", true);
+    const fs::path other = left("anderes", false);
+    fs::last_write_time(old / "Anzeigetext.doc",
+                        fs::file_time_type::clock::now() - std::chrono::hours(24 * 8));
+    fs::path own;
+    {
+        const TemporaryFolder open;
+        own = open.path();
+        RemoveLeftFolders();
+        EXPECT_TRUE(fs::exists(own));
+    }
+    qunsetenv("TMPDIR");
+    EXPECT_FALSE(fs::exists(own));
+    EXPECT_FALSE(fs::exists(killed));
+    EXPECT_FALSE(fs::exists(old));
+    EXPECT_TRUE(fs::exists(edited)) << "a word processor has saved it";
+    EXPECT_TRUE(fs::exists(other));
 }
 
 TEST_F(DocumentFiles, ShowsAnEditedDocumentAfreshOrSaysThatItCannot) {
     const Dokumentdateien files = open(u"3aZeugnisse32.doc");
-    installation.makeYounger("3aZeugnisse32.doc", "3aZeugnisse32.pdf");
+    installation.edit("3aZeugnisse32.doc");
     const Anzeige former = AnzeigeFinden(files, cannotConvert);
     EXPECT_EQ(former.Pdf, files.Pdf);
     EXPECT_NE(former.Hinweis.find(u"Stand davor"), Text::npos);

@@ -1,11 +1,14 @@
 #include "documents/app/document_files.h"
 #include "documents/app/word_processor.h"
+#include "documents/content/help_markup.h"
+#include "platform/whole_file.h"
 #include "tests/documents/printed_pages.h"
 #include "tests/documents/report_installation.h"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -97,6 +100,38 @@ TEST(OtherReaders, FindEveryWordOfThePagesInTheDoc) {
     for (const Reader& reader : readers())
         if (!QStandardPaths::findExecutable(QString::fromLatin1(reader.Program)).isEmpty())
             expectSameWords(ours, wordsOf(outputOf(reader, doc, folder.path())), reader.Program);
+}
+
+// The validator knows all that PDF/A-1b asks for: fonts, colours, metadata, no transparency.
+TEST(OtherReaders, FindTheFilesFitForTheArchive) {
+    if (!std::filesystem::exists("/usr/share/java/preflight.jar"))
+        GTEST_SKIP() << "the validator is not there: tools/install-packages test";
+    test::ReportInstallation installation;
+    installation.write({{Zoe, u"Zoé sagt: 'Schön!'", test::saetze(40), {u"Ýngvar.", u"ﬁ ½ €"}}});
+    // A picture with parts that can be seen through.
+    QImage picture(20, 20, QImage::Format_ARGB32);
+    picture.fill(QColor(200, 0, 0, 100));
+    picture.save(QString::fromStdString((installation.path() / "a.png").string()));
+    Arbeitsverzeichnis verzeichnis(installation.path());
+    DokumentSchreiben(
+        verzeichnis,
+        HilfeAusMarkup(u"# Hilfe\n\n[Bild: a.png | ein Bild]\n",
+                       [&](const Text& name) { return readWholeFile(verzeichnis, name); }),
+        u"Hilfe");
+    QStringList files{QStringLiteral("Hilfe.pdf")};
+    for (const auto& [document, macro] :
+         {std::pair{u"ZeugnisseSchreiben.doc", u"ZeugnisseSchreiben"},
+          {u"Leerformular.doc", u"Leerformular"}})
+        files += QString::fromStdString(
+            DokumentBereitstellen(verzeichnis, {.Dokument = document, .Makro = macro})
+                .Pdf.filename()
+                .string());
+    QProcess validator;
+    validator.setWorkingDirectory(QString::fromStdString(installation.path().string()));
+    validator.start(QStringLiteral(DOCUMENTS_VALIDATOR), files);
+    ASSERT_TRUE(validator.waitForFinished());
+    EXPECT_EQ(validator.exitCode(), 0) << validator.readAllStandardOutput().toStdString()
+                                       << validator.readAllStandardError().toStdString();
 }
 
 } // namespace

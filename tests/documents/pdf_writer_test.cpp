@@ -91,8 +91,7 @@ TEST(PdfLayout, EverySectionBeginsOnANewPageAndCountsItsOwn) {
     EXPECT_EQ(laid.pagesPerSection(), (std::vector{1, 2, 1}));
 
     const test::TemporaryFolder folder;
-    const std::string pdf = pdfFromLayout(laid);
-    std::ofstream(folder.path() / "a.pdf", std::ios::binary) << pdf;
+    std::ofstream(folder.path() / "a.pdf", std::ios::binary) << pdfFromLayout(laid);
     const PdfPages pages(folder.path() / "a.pdf");
     ASSERT_EQ(pages.count(), 4);
     EXPECT_EQ(pages.title(), QStringLiteral("Größe"));
@@ -104,17 +103,12 @@ TEST(PdfLayout, EverySectionBeginsOnANewPageAndCountsItsOwn) {
     EXPECT_EQ(contents[2].title, QStringLiteral("Lotte Aßmann"));
     EXPECT_EQ(contents[2].place.page, 3);
     EXPECT_NEAR(contents[2].place.top, 1134.0 / 16838, 0.01);
-
-    // For the archive: the mark of PDF/A, and an identity in the trailer that counts.
-    EXPECT_NE(pdf.find("pdfaid:part"), std::string::npos);
-    EXPECT_NE(pdf.find("/OutputIntents"), std::string::npos);
-    EXPECT_NE(pdf.find("/ID [", pdf.rfind("trailer")), std::string::npos);
 }
 
 TEST(PdfOutline, LeavesAloneWhatItDoesNotUnderstand) {
     for (const char* bytes :
          {"", "%PDF-1.4", "startxref\n99999\n", "startxref\n0\n/Size 1/Root 1 0 R/Info 1 0 R"})
-        EXPECT_EQ(withBookmarks(bytes, {{.title = u"a", .page = 0, .fromTop = 0}}), bytes);
+        EXPECT_EQ(withAdditions(bytes, {{.title = u"a", .page = 0, .fromTop = 0}}, "1"), bytes);
 }
 
 } // namespace

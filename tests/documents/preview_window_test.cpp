@@ -36,8 +36,7 @@ class PreviewWindowTest : public testing::Test {
             verzeichnis, {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"});
     }
 
-    // As if a word processor had saved it.
-    void edit() { m_installation.makeYounger("3aZeugnisse32.doc", "3aZeugnisse32.pdf"); }
+    void edit() { m_installation.edit("3aZeugnisse32.doc"); }
 
     void returnToWindow() {
         QEvent event(QEvent::ActivationChange);

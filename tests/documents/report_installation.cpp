@@ -4,6 +4,8 @@
 #include "files/pupil_records.h"
 #include "platform/record_writer.h"
 
+#include <fstream>
+
 namespace zeugnis::test {
 namespace fs = std::filesystem;
 
@@ -72,9 +74,8 @@ void ReportInstallation::write(const std::vector<Zeugniskind>& kinder, const Tex
                         });
 }
 
-void ReportInstallation::makeYounger(const char* name, const char* than) const {
-    fs::last_write_time(path() / name,
-                        fs::last_write_time(path() / than) + std::chrono::minutes(1));
+void ReportInstallation::edit(const char* name) const {
+    std::ofstream(path() / name, std::ios::binary | std::ios::app) << "\n";
 }
 
 } // namespace zeugnis::test

@@ -29,8 +29,8 @@ class ReportInstallation : public TemporaryFolder {
     void write(const std::vector<Zeugniskind>& kinder, const Text& klasse = u"3a");
     using TemporaryFolder::write;
 
-    /// Makes a file look as if it had been written a minute later than another.
-    void makeYounger(const char* name, const char* than) const;
+    /// Changes a file as a word processor would.
+    void edit(const char* name) const;
 
     Schuldaten Schule;
 };

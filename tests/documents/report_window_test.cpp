@@ -144,7 +144,7 @@ TEST_F(ReportWindowTest, ANewLayoutIsWrittenAndShownAndAnEditedDocumentIsNotLost
         });
         QTest::mouseClick(change, Qt::LeftButton);
     };
-    installation.makeYounger("3aZeugnisse32.doc", "3aZeugnisse32.pdf");
+    installation.edit("3aZeugnisse32.doc");
     choose("Abbrechen");
     EXPECT_FALSE(installation.has(u"Zeugnisaufbau.txt"));
     EXPECT_TRUE(IstBearbeitet(files));
