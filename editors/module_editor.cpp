@@ -117,6 +117,21 @@ void Bausteineditor::jedesFeld(Action action) {
     }
 }
 
+std::vector<Bausteineditor::Platz> Bausteineditor::Plaetze() const {
+    std::vector<Platz> plaetze;
+    const std::vector<Text> namen = Geladen ? Zieldateien() : std::vector<Text>();
+    for (const Feldreihe& reihe : m_regeln.Felder) {
+        const auto datei = static_cast<size_t>(reihe.Datei);
+        if (datei >= namen.size() || m_regeln.Dateien[datei].Geschrieben == 0 ||
+            !gehoertDazu(m_regeln.Dateien[datei]) || (reihe.Gilt != nullptr && !reihe.Gilt(*this)))
+            continue;
+        for (int j = 0; j < reihe.Anzahl; ++j)
+            plaetze.push_back({textfeld(reihe.Textfeld)(reihe.Ab + j), namen[datei],
+                               reihe.Zeile + j + 1, reihe.Spalte});
+    }
+    return plaetze;
+}
+
 void Bausteineditor::TexteZeigen() {
     jedesFeld([](TextBox& feld, const Text& zelle) { feld.setText(zelle); });
 }

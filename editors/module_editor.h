@@ -49,6 +49,16 @@ class Bausteineditor : public Screen {
     /// Whether a save now would leave the current modules as they are.
     [[nodiscard]] bool SpeichertDaneben() const;
 
+    /// A box that shows a module, and where a save writes it.
+    struct Platz {
+        TextBox& Feld;
+        Text Datei; ///< seen from the folder Daten
+        int Zeile;  ///< the record, from 1
+        int Spalte; ///< its field, the running number being 0
+    };
+    /// All of them; none before a load.
+    [[nodiscard]] std::vector<Platz> Plaetze() const;
+
     /// Asks before it leaves what has been loaded without a save.
     void Command6_Click();
 

@@ -92,6 +92,45 @@ bool takeOver(Pending& pending, const Former& former, const Text& pupil, size_t 
     return true;
 }
 
+// The names of the children in the order of a content.
+std::vector<Text> pupilsIn(const Text& content, const Layout& layout) {
+    std::vector<Text> names;
+    for (const Record& record : recordsOf(content))
+        names.push_back(pupilOf(record, layout));
+    return names;
+}
+
+Text lineOf(const Text& content, const Record& record) {
+    return content.substr(record.fields.front().begin,
+                          record.fields.back().end - record.fields.front().begin);
+}
+
+// A store by pupil in the order of the class list, if both name the same children: the screens read
+// it by place. Anything else stays as it was.
+std::string inOrderOf(const std::vector<Text>& pupils, const Former& former) {
+    const std::optional<Layout> layout = layoutOf(former.name);
+    const Text content = decodeWindows1252(*former.content);
+    if (!layout || !layout->byPupil)
+        return *former.content;
+    std::vector<Text> then = pupilsIn(content, *layout);
+    std::vector<Text> now = pupils;
+    std::sort(then.begin(), then.end());
+    std::sort(now.begin(), now.end());
+    if (then != now || std::adjacent_find(now.begin(), now.end()) != now.end() ||
+        pupilsIn(content, *layout) == pupils)
+        return *former.content;
+    const std::vector<Record> records = recordsOf(content);
+    Text ordered;
+    for (size_t i = 0; i < pupils.size(); ++i) {
+        const Record& record = *recordFor(records, *layout, pupils[i]);
+        Text line = lineOf(content, record);
+        const Field& number = record.fields.front();
+        line.replace(0, number.end - number.begin, textFromNumber(static_cast<int>(i) + 1));
+        ordered += line + Text(Zeilenende);
+    }
+    return encodeWindows1252(ordered);
+}
+
 void write(const Arbeitsverzeichnis& directory, Guard& guard, Pending& pending,
            const Text& action) {
     const WriteUnit unit(directory.watcher());
@@ -148,9 +187,15 @@ void bringBackAll(const Arbeitsverzeichnis& directory, Guard& guard,
                   const std::vector<Former>& formers) {
     const WriteUnit unit(directory.watcher());
     guard.nameUnit(u"Zurückgeholt: ein früherer Stand");
+    const Text list = Text(dateien::Daten) + u"\\" + Text(dateien::Namen);
+    const std::string listName = utf8FromText(list);
+    const Former* formerList = find(formers, listName);
+    const Text names = decodeWindows1252(formerList != nullptr ? *formerList->content
+                                                               : readWholeFile(directory, list));
+    const std::vector<Text> pupils = pupilsIn(names, *layoutOf("Daten/Namen.Txt"));
     for (const Former& former : formers)
         if (former.content)
-            writeWholeFile(directory, shownName(former.name), *former.content);
+            writeWholeFile(directory, shownName(former.name), inOrderOf(pupils, former));
 }
 
 } // namespace zeugnis::safety

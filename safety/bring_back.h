@@ -22,7 +22,8 @@ bool bringBackText(const Arbeitsverzeichnis& directory, Guard& guard,
 bool bringBackPupil(const Arbeitsverzeichnis& directory, Guard& guard,
                     const std::vector<Former>& formers, const Text& pupil);
 
-/// All of these files. What was no file then stays.
+/// All of these files. What was no file then stays. A store of the same children as the class list
+/// comes in its order, since the screens read it by place.
 void bringBackAll(const Arbeitsverzeichnis& directory, Guard& guard,
                   const std::vector<Former>& formers);
 

@@ -64,6 +64,28 @@ std::vector<Former> withTyped(const Paths& paths, const std::vector<Typed>& all)
 
 } // namespace
 
+std::vector<Typed> notInFiles(const fs::path& programFolder, const std::vector<Typed>& all) {
+    struct File {
+        std::optional<Layout> layout;
+        std::vector<Record> records;
+    };
+    const Paths paths(programFolder);
+    std::map<std::string, File> files;
+    std::vector<Typed> missing;
+    for (const Typed& one : all) {
+        const auto [place, isNew] = files.try_emplace(one.file);
+        File& file = place->second;
+        if (isNew)
+            file = {layoutOf(one.file), recordsOf(contentOf(paths, one.file))};
+        const Record* record =
+            file.layout ? recordFor(file.records, *file.layout, one.pupil, one.number) : nullptr;
+        if (record == nullptr || one.field >= record->fields.size() ||
+            record->fields[one.field].value != one.value)
+            missing.push_back(one);
+    }
+    return missing;
+}
+
 TypedStore::TypedStore(const fs::path& programFolder, Clock clock)
     : m_paths(programFolder),
       m_clock(std::move(clock)),

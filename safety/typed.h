@@ -21,6 +21,10 @@ struct Typed {
     bool operator==(const Typed&) const = default;
 };
 
+/// Those that the files do not hold, in their order.
+std::vector<Typed> notInFiles(const std::filesystem::path& programFolder,
+                              const std::vector<Typed>& all);
+
 /// What an earlier run has left.
 struct Offer {
     std::string run;

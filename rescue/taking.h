@@ -1,0 +1,21 @@
+#pragma once
+
+#include "safety/typed.h"
+
+namespace zeugnis {
+
+class Programm;
+
+namespace rescue {
+
+/// Whether a text can be put where it was typed: into the report texts and the text modules.
+bool canTake(const safety::Offer& offer);
+
+/// Puts the text where it was typed, as a hand would: opens the screen if it is not open, chooses
+/// the child and the section, clicks into the box, selects all and pastes. Whatever these actions
+/// bring, questions and locks, comes. Returns what was in the way, in German; empty: the text
+/// stands in its box, and is to be saved like any other.
+Text take(Programm& programm, const safety::Offer& offer);
+
+} // namespace rescue
+} // namespace zeugnis
