@@ -167,8 +167,11 @@ void Binder::holdBack(const Control& control, std::function<bool()> held) {
 }
 
 void Binder::forwardClicks(Control& control, QAbstractButton& widget) {
-    connect(&widget, &QAbstractButton::clicked, this,
-            [this, &control] { m_host.run([&] { user::click(control); }); });
+    connect(&widget, &QAbstractButton::clicked, this, [this, &control] {
+        emit clicking(&control);
+        m_host.run([&] { user::click(control); });
+        emit clicked(&control);
+    });
 }
 
 TintedButton* Binder::button(Button& control, QChar mnemonic, TintedButton::Role role) {
@@ -372,6 +375,17 @@ void Binder::timer(Timer& control) {
 void Binder::refresh() {
     for (const auto& refresh : m_refreshes)
         refresh();
+    followPlace();
+}
+
+void Binder::followPlace() {
+    if (!m_placeNow || m_place == m_placeNow())
+        return;
+    m_place = m_placeNow();
+    for (const auto& [control, widget] : m_widgets)
+        if (auto* editor = qobject_cast<TextEditor*>(widget))
+            editor->forgetHistory();
+    emit placeChanged();
 }
 
 QWidget* Binder::widgetOf(const Control& control) const {
@@ -388,6 +402,7 @@ void Binder::detach() {
     m_widgets.clear();
     m_held.clear();
     m_refreshes.clear();
+    m_placeNow = {};
 }
 
 } // namespace zeugnis

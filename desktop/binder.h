@@ -88,6 +88,10 @@ class Binder : public QObject {
     /// Makes one stop of the Tab key of them: the one that is chosen or has had the keyboard.
     void oneStop(const std::vector<const Control*>& controls);
 
+    /// Where the texts belong, such as a child and a page. What was typed at one place is not
+    /// undone at another.
+    void placeOfTexts(std::function<std::vector<int>()> place) { m_placeNow = std::move(place); }
+
     /// Something of the view that follows a control and is no widget of it.
     void follow(std::function<void()> refresh) { m_refreshes.push_back(std::move(refresh)); }
 
@@ -96,10 +100,17 @@ class Binder : public QObject {
     /// Lets go of all controls: their screen is gone.
     void detach();
 
+  signals:
+    /// Around the click of a button that the user presses.
+    void clicking(const zeugnis::Control* control);
+    void clicked(const zeugnis::Control* control);
+    void placeChanged();
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void followPlace();
     void add(Control& control, QWidget& widget, std::function<void()> refresh);
     TextEditor* editor(TextBox& control, const QString& name, TextEditor::Lines lines);
     void forwardClicks(Control& control, QAbstractButton& widget);
@@ -116,6 +127,8 @@ class Binder : public QObject {
     std::map<const QObject*, Control*> m_controls;
     std::map<const Control*, std::function<bool()>> m_held;
     bool m_secondRelease = false;
+    std::function<std::vector<int>()> m_placeNow;
+    std::vector<int> m_place;
     std::vector<std::function<void()>> m_refreshes;
     std::vector<QTimer*> m_timers;
 };

@@ -68,6 +68,10 @@ EditorViewAVSV::EditorViewAVSV(GSAVSVAenderung& screen, WindowHost& host, QWidge
         ->setToolTip(tr("Fragt, ob gespeichert werden soll. Die sichtbare Kategorie wird dabei nur "
                         "mit der Taste daneben ganz gespeichert."));
     warnBeforeClosing(editorparts::lostByClosing());
+    bind().placeOfTexts([this] {
+        return std::vector{static_cast<int>(m_editor.Bereich), m_editor.KategorieAV,
+                           m_editor.KategorieSV};
+    });
     resize(1220, 760);
 }
 

@@ -3,6 +3,7 @@
 #include "controls/list_controls.h"
 #include "controls/text_box.h"
 #include "desktop/binder.h"
+#include "desktop/deleted_text.h"
 #include "desktop/picture_view.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
@@ -11,6 +12,7 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -48,6 +50,18 @@ QBoxLayout* selectionRow(Binder& binder, const Head& parts, std::initializer_lis
     return row;
 }
 
+// No higher than the name of the text beside it, so that nothing moves when it comes.
+QWidget* deletedText(Binder& binder, TextBox& box, const Button& reset) {
+    QWidget* editor = binder.widgetOf(box);
+    auto* offer = new QPushButton(tr("Gelöschten Text zurückholen"), editor->parentWidget());
+    offer->setObjectName(QStringLiteral("link"));
+    offer->setFont(theme::scaledFont(0.92));
+    offer->setCursor(Qt::PointingHandCursor);
+    offer->setToolTip(tr("Strg+Z im Textfeld"));
+    new DeletedText(binder, reset, box, *offer);
+    return offer;
+}
+
 } // namespace
 
 EntryCombo* pupilList(Binder& binder, ComboBox& pupils) {
@@ -82,7 +96,7 @@ QLabel* nextStep(Binder& binder, Label& label) {
     return widget;
 }
 
-QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name) {
+QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name, const Button& reset) {
     TextEditor* editor = binder.text(box, name);
     editor->setFont(theme::scaledFont(1.08));
     editor->setMinimumHeight(120);
@@ -92,7 +106,10 @@ QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name) {
     binder.follow([caption, &box] { caption->setVisible(box.Visible); });
     auto* column = new QVBoxLayout;
     column->setSpacing(2);
-    column->addWidget(caption);
+    auto* above = new QHBoxLayout;
+    above->addWidget(caption, 1);
+    above->addWidget(deletedText(binder, box, reset));
+    column->addLayout(above);
     column->addWidget(editor, 1);
     return column;
 }

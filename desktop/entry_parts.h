@@ -48,8 +48,9 @@ EntryCombo* pupilList(Binder& binder, ComboBox& pupils);
 /// The large line that says what to do next, as long as no page is shown.
 QLabel* nextStep(Binder& binder, Label& label);
 
-/// A report text with its name above it; both come and go together.
-QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name);
+/// A report text with its name above it; both come and go together. What `reset` deletes can be
+/// brought back.
+QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name, const Button& reset);
 
 /// The sign that the page takes no choices.
 QWidget* lockSign(Binder& binder, PictureBox& picture);

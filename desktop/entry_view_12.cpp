@@ -76,6 +76,7 @@ EntryView12::EntryView12(Kompetenzen& screen, WindowHost& host, QWidget* below)
     layout->addLayout(actions());
     jumpBetweenPageAndText();
     warnBeforeClosing(entryparts::lostSinceSaving());
+    bind().placeOfTexts([this] { return std::vector{m_entry.aktSchueler, m_entry.aktSeite}; });
     resize(1270, 760);
 }
 
@@ -329,7 +330,8 @@ QBoxLayout* EntryView12::texts() {
     m_entry.Text1.each([&](TextBox& box) {
         const int page = *box.index();
         auto* place = new QWidget(this);
-        place->setLayout(entryparts::reportText(bind(), box, qString(bereich(page).Name)));
+        place->setLayout(
+            entryparts::reportText(bind(), box, qString(bereich(page).Name), m_entry.Command4));
         place->layout()->setContentsMargins(0, 0, 0, 0);
         row->addWidget(place);
         // The text that is worked on has more room than its neighbours.

@@ -88,6 +88,7 @@ EntryView34::EntryView34(GSAGFI& screen, WindowHost& host, QWidget* below)
                                                    .Save = {m_entry.Command1(0), u'T'},
                                                    .Leave = {m_entry.Command1(1), u'b'}}));
     warnBeforeClosing(entryparts::lostSinceSaving());
+    bind().placeOfTexts([this] { return std::vector{m_entry.AktuellerSchueler, m_entry.Seite}; });
     resize(1220, 760);
 }
 
@@ -283,7 +284,9 @@ QLayout* EntryView34::texts() {
                              tr("Zeugnistext zu den Interessen"),
                              tr("Zeugnistext zu den Bemerkungen")};
     for (size_t i = 0; i < m_entry.Textfelder.size(); ++i)
-        place->addLayout(entryparts::reportText(bind(), *m_entry.Textfelder.at(i), names[i]), 0, 0);
+        place->addLayout(entryparts::reportText(bind(), *m_entry.Textfelder.at(i), names[i],
+                                                m_entry.Command1(2)),
+                         0, 0);
     return place;
 }
 

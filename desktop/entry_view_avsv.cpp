@@ -33,6 +33,9 @@ EntryViewAVSV::EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidg
     warnBeforeClosing(tr("Das Fenster wird geschlossen, ohne zu speichern. Was Sie seit dem "
                          "letzten Wechsel des Kindes eingegeben haben, geht verloren.\n\n"
                          "Soll es trotzdem geschlossen werden?"));
+    bind().placeOfTexts([this] {
+        return std::vector{m_entry.Schueler, static_cast<int>(m_entry.Bereich)};
+    });
     resize(1220, 760);
 }
 
@@ -117,7 +120,8 @@ QBoxLayout* EntryViewAVSV::texts() {
     const QString names[] = {tr("Zeugnistext zum Arbeitsverhalten"),
                              tr("Zeugnistext zum Sozialverhalten")};
     m_entry.Text1.each([&](TextBox& box) {
-        row->addLayout(entryparts::reportText(bind(), box, names[*box.index()]), 1);
+        row->addLayout(entryparts::reportText(bind(), box, names[*box.index()], m_entry.Command6),
+                       1);
     });
     return row;
 }

@@ -67,6 +67,7 @@ MasterDataView::MasterDataView(GsBasis& screen, WindowHost& host, QWidget* below
                               : QString());
     });
     bind().widgetOf(m_basis.Combo1)->setFocus();
+    bind().placeOfTexts([this] { return std::vector{m_basis.AktuellerSchueler}; });
     resize(1240, 740);
 }
 

@@ -182,19 +182,51 @@ void TextEditor::takeSelectionFromBox() {
 
 void TextEditor::showText(const QString& text) {
     if (m_ownAction)
-        replaceDifference(text);
-    else
-        setPlainText(text);
+        return replaceDifference(text);
+    m_going.at = -1;
+    setPlainText(text);
 }
 
 void TextEditor::replaceDifference(const QString& text) {
-    const Difference change = differenceBetween(documentText(), text);
+    const QString before = documentText();
+    const Difference change = differenceBetween(before, text);
     QTextCursor cursor(document());
-    cursor.beginEditBlock();
+    if (goesOn(change.start, change.removed, change.inserted))
+        cursor.joinPreviousEditBlock();
+    else
+        cursor.beginEditBlock();
     cursor.setPosition(change.start);
     cursor.setPosition(change.start + change.removed, QTextCursor::KeepAnchor);
     cursor.insertText(change.inserted);
     cursor.endEditBlock();
+    const QString changed = change.inserted + before.mid(change.start, change.removed);
+    m_going = {.at = changed.size() == 1 ? change.start + static_cast<int>(change.inserted.size())
+                                         : -1,
+               .removing = change.removed > 0,
+               .wasSpace = changed.size() == 1 && changed[0].isSpace()};
+}
+
+// A word and the blank in front of it are undone together.
+bool TextEditor::goesOn(int start, int removed, const QString& inserted) const {
+    if (m_going.at < 0 || removed + inserted.size() != 1 || m_going.removing != (removed == 1) ||
+        m_going.at != start + removed)
+        return false;
+    const QChar key = removed == 1 ? documentText()[start] : inserted[0];
+    return m_going.removing ? key.isSpace() || !m_going.wasSpace
+                            : !key.isSpace() || m_going.wasSpace;
+}
+
+void TextEditor::replaceAll(const Text& text) {
+    selectAll();
+    ownAction([this, &text] {
+        user::paste(m_box, text);
+        user::click(m_box);
+    });
+}
+
+void TextEditor::forgetHistory() {
+    document()->clearUndoRedoStacks();
+    m_going.at = -1;
 }
 
 void TextEditor::selectInBox() {
@@ -225,7 +257,9 @@ void TextEditor::keyPressEvent(QKeyEvent* event) {
     const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
     const bool control = event->modifiers().testFlag(Qt::ControlModifier);
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (plain && event->key() == Qt::Key_Backspace)
+    if (event->matches(QKeySequence::Undo) && !document()->isUndoAvailable())
+        emit nothingToUndo();
+    else if (plain && event->key() == Qt::Key_Backspace)
         ownAction([this] { user::key(m_box, Backspace); });
     else if (plain && isEnter && oneLine() && !shift)
         enter();
@@ -312,6 +346,7 @@ void TextEditor::takeNativeChange() {
     const Difference change = differenceBetween(before, documentText());
     if (change.removed == 0 && change.inserted.isEmpty())
         return;
+    m_going.at = -1;
     const QScopedValueRollback own(m_ownAction, true);
     m_box.select(boxPosition(m_box.text(), change.start),
                  boxPosition(m_box.text(), change.start + change.removed));

@@ -24,8 +24,13 @@ class TextEditor : public QPlainTextEdit {
     TextEditor(TextBox& box, WindowHost& host, QWidget* parent = nullptr,
                Lines lines = Lines::Many);
 
+    /// Puts another text in and clicks into the box, as by hand.
+    void replaceAll(const Text& text);
+    /// Nothing from before can be undone.
+    void forgetHistory();
+
     /// Takes over what the box says. A text that this editor's own user brought about can be
-    /// undone; any other starts a new history, so that undo never mixes two pupils.
+    /// undone, word by word; any other starts a new history, so that undo never mixes two pupils.
     void refresh();
 
     [[nodiscard]] bool oneLine() const { return m_lines != Lines::Many; }
@@ -34,6 +39,10 @@ class TextEditor : public QPlainTextEdit {
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+
+  signals:
+    /// Undo was asked for where nothing is left to undo.
+    void nothingToUndo();
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -64,6 +73,7 @@ class TextEditor : public QPlainTextEdit {
     void takeNativeChange();
     void showText(const QString& text);
     void replaceDifference(const QString& text);
+    [[nodiscard]] bool goesOn(int start, int removed, const QString& inserted) const;
 
     TextBox& m_box;
     WindowHost& m_host;
@@ -73,6 +83,13 @@ class TextEditor : public QPlainTextEdit {
     bool m_ownAction = false;
     bool m_followsBox = false;
     bool m_secondRelease = false;
+
+    /// Where the next key would go on with what the last one has changed, and how; -1: nowhere.
+    struct {
+        int at = -1;
+        bool removing = false;
+        bool wasSpace = false;
+    } m_going;
 };
 
 } // namespace zeugnis

@@ -2,12 +2,17 @@
 
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QPushButton>
 
 namespace zeugnis::test {
 namespace {
 
 class TextEditorTest : public EntryWindowTest {
   protected:
+    // Of the text on work behaviour, the first.
+    QPushButton* offer() {
+        return editor->window()->findChildren<QPushButton*>(QStringLiteral("link")).front();
+    }
     void commit(const QString& text) {
         QInputMethodEvent event;
         event.setCommitString(text);
@@ -22,27 +27,51 @@ TEST_F(TextEditorTest, TreatsWhatAnInputMethodFinishesAsTyped) {
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("é'l"));
 }
 
-TEST_F(TextEditorTest, TakesDeletingAndUndoFromTheEditor) {
+TEST_F(TextEditorTest, UndoesWordByWord) {
     setText(u"Tom lacht");
     placeCaret(9);
-    QTest::keyClicks(editor, " laut");
+    QTest::keyClicks(editor, " laut mit");
     QTest::keyClick(editor, Qt::Key_Home);
     QTest::keyClick(editor, Qt::Key_Delete);
-    EXPECT_EQ(boxText(), "om lacht laut");
-    editor->undo();
-    EXPECT_EQ(boxText(), "Tom lacht laut");
-    for (int i = 0; i < 5; ++i)
-        editor->undo();
-    EXPECT_EQ(boxText(), "Tom lacht");
+    placeCaret(17);
+    for (int i = 0; i < 7; ++i)
+        QTest::keyClick(editor, Qt::Key_Backspace);
+    const char* const steps[] = {"om lacht l",         "om lacht laut",  "om lacht laut mit",
+                                 "Tom lacht laut mit", "Tom lacht laut", "Tom lacht"};
+    for (const char* const step : steps) {
+        EXPECT_EQ(boxText(), step);
+        QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+    }
 }
 
-TEST_F(TextEditorTest, NeverUndoesIntoAnotherChild) {
+// Neither by undo nor by the offer, although the boxes of both are empty.
+TEST_F(TextEditorTest, NothingComesBackAtAnotherChild) {
     QTest::keyClicks(editor, "Lena lacht");
+    QTest::mouseClick(editor->viewport(), Qt::LeftButton);
+    QTest::mouseClick(button("Aktuelle Eingaben neu"), Qt::LeftButton);
     selectChild(0);
     QTest::mouseClick(button("Arbeitsverhalten"), Qt::LeftButton);
-    editor->undo();
+    QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(boxText(), "");
-    EXPECT_EQ(utf8FromText(screen->Speicher.AV.Texte[1]), "Lena lacht");
+    EXPECT_FALSE(offer()->isVisible());
+}
+
+TEST_F(TextEditorTest, WhatAResetHasDeletedComesBackWithItsLock) {
+    for (const bool byUndo : {false, true}) {
+        QTest::keyClicks(editor, "Lena lacht");
+        QTest::mouseClick(editor->viewport(), Qt::LeftButton);
+        QTest::mouseClick(button("Aktuelle Eingaben neu"), Qt::LeftButton);
+        EXPECT_EQ(screen->Speicher.AV.Gesperrt[1], 0);
+        ASSERT_TRUE(offer()->isVisible());
+        if (byUndo)
+            QTest::keyClick(editor, Qt::Key_Z, Qt::ControlModifier);
+        else
+            QTest::mouseClick(offer(), Qt::LeftButton);
+        EXPECT_EQ(boxText(), "Lena lacht");
+        EXPECT_EQ(screen->Speicher.AV.Gesperrt[1], 1);
+        EXPECT_FALSE(offer()->isVisible());
+        QTest::mouseClick(button("Aktuelle Eingaben neu"), Qt::LeftButton);
+    }
 }
 
 } // namespace

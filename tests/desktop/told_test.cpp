@@ -146,6 +146,39 @@ TEST(Told, Years1And2TellPagesAndChoices) {
     EXPECT_FALSE(told(open, u"Command1(1)").state().selected);
 }
 
+// From the list of pupils to the text, past ten lines and seven categories.
+TEST(Told, GroupsAreOneStopAndArrowsPressNothing) {
+    OpenWindow open(windowNamed("avsv"));
+    open.click(u"2");
+    open.click(u"Command1");
+    const auto press = [&](Qt::Key key) {
+        QTest::keyClick(open.window().focusWidget(), key);
+        open.settle();
+    };
+    const auto focused = [&](TextView control) {
+        return open.window().focusWidget() == &open.widget(control) &&
+               open.machine.programm.focus() == &open.control(control);
+    };
+    open.widget(u"Combo1").setFocus(Qt::TabFocusReason);
+    for (const TextView stop : {u"Command1", u"Command3(0)", u"Option1(0)", u"Text1(0)"}) {
+        press(Qt::Key_Tab);
+        EXPECT_TRUE(focused(stop)) << utf8FromText(stop);
+    }
+    open.widget(u"Command3(0)").setFocus(Qt::TabFocusReason);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Down, Qt::Key_Up})
+        press(key);
+    EXPECT_TRUE(focused(u"Command3(2)"));
+    EXPECT_TRUE(told(open, u"Command3(0)").state().selected) << "arrows press nothing";
+    press(Qt::Key_Return);
+    EXPECT_TRUE(told(open, u"Command3(2)").state().selected);
+    press(Qt::Key_Tab);
+    press(Qt::Key_End);
+    EXPECT_TRUE(focused(u"Option1(9)"));
+    EXPECT_EQ(description(open, u"Command3(2)"), "keine Zeile gewählt");
+    press(Qt::Key_Space);
+    EXPECT_EQ(description(open, u"Command3(2)"), "Zeile 9 gewählt, rosa");
+}
+
 TEST(Told, ColoursOfLinesAndTheHalvesOfTheMasterDataHaveNames) {
     OpenWindow editor(windowNamed("editorAVSV"));
     editor.click(u"Command1(1)");
