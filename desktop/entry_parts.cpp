@@ -56,6 +56,7 @@ QWidget* deletedText(Binder& binder, TextBox& box, const Button& reset) {
     auto* offer = new QPushButton(tr("Gelöschten Text zurückholen"), editor->parentWidget());
     offer->setObjectName(QStringLiteral("link"));
     offer->setFont(theme::scaledFont(0.92));
+    offer->setFixedHeight(offer->fontMetrics().height());
     offer->setCursor(Qt::PointingHandCursor);
     offer->setToolTip(tr("Strg+Z im Textfeld"));
     new DeletedText(binder, reset, box, *offer);

@@ -39,7 +39,7 @@ QListWidget#compact::item { padding: 2px 6px; }
 QLabel#lock { color: #7A5A12; background: #FBF1D6; border: 1px solid #E6D3A0;
     border-radius: 6px; padding: 1px 8px; }
 QFrame#area { background: #FFFFFF; border: 1px solid #DDD8CC; border-radius: 8px; }
-QPushButton#link { border: 2px solid transparent; border-radius: 4px; padding: 0 4px;
+QPushButton#link { border: 1px solid transparent; border-radius: 3px; padding: 0 4px;
     background: transparent; color: #1F6F6B; text-decoration: underline; }
 QPushButton#link:focus { border-color: #1F6F6B; }
 QScrollBar:vertical { width: 12px; background: transparent; border: none; margin: 0; }

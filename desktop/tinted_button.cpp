@@ -16,7 +16,7 @@ namespace {
 constexpr int SidePadding = 12;
 constexpr int TopPadding = 6;
 constexpr int WidestLine = 420;
-constexpr int MarkRoom = 4;
+constexpr int MarkRoom = 2;
 constexpr int BadgeRoom = 12; // beside the padding
 
 } // namespace
