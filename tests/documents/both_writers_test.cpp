@@ -1,7 +1,6 @@
 #include "documents/app/document_files.h"
 #include "documents/app/review_document.h"
 #include "documents/app/word_processor.h"
-#include "documents/window/pdf_pages.h"
 #include "tests/documents/printed_pages.h"
 #include "tests/documents/report_installation.h"
 
@@ -17,50 +16,6 @@ namespace {
 
 using test::pageTexts;
 using test::reportsIn;
-
-std::vector<test::Zeugniskind> children() {
-    const Schueler plain = test::schueler(u"Mats", u"Ahlers", u"14.03.2018", u"Süderfehn");
-    const Schueler letters =
-        test::schueler(u"Zoé Šara", u"O'Neil-Weißgräber", u"01.01.2018", u"Žatec {CZ}");
-    return {
-        {plain, test::saetze(5), test::saetze(4)},
-        {letters, u"Zoé sagt: ‚Schön!‘ – und \\lacht {laut}.\r\nÖfter.", test::saetze(3)},
-        {{}, u"", u""},
-        {plain, test::saetze(60), test::saetze(8)},
-        {plain, test::saetze(6), test::saetze(90)},
-        {plain, test::saetze(6) + u"\r\n\r\n" + test::saetze(6), test::saetze(20)},
-        {plain, u"", test::saetze(24)},
-    };
-}
-
-TEST(BothWriters, GiveTheSameWordsOnTheSameNumberOfPages) {
-    if (QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty())
-        GTEST_SKIP() << "LibreOffice is not installed";
-    test::ReportInstallation installation;
-    installation.write(children());
-    Arbeitsverzeichnis verzeichnis(installation.path());
-    const Dokumentdateien files = DokumentBereitstellen(
-        verzeichnis, {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"});
-
-    const test::TemporaryFolder folder;
-    const auto converted = inPdfUmwandeln(files.Doc, folder.path());
-    ASSERT_TRUE(converted.has_value());
-    const auto ours = reportsIn(files.Pdf);
-    const auto theirs = reportsIn(*converted);
-    ASSERT_EQ(ours.size(), children().size());
-    ASSERT_EQ(theirs.size(), ours.size());
-    std::vector<int> pages;
-    for (size_t i = 0; i < ours.size(); ++i) {
-        EXPECT_EQ(ours[i].words(), theirs[i].words()) << "child " << i + 1;
-        EXPECT_EQ(ours[i].pages.size(), theirs[i].pages.size()) << "child " << i + 1;
-        pages.push_back(static_cast<int>(ours[i].pages.size()));
-    }
-    EXPECT_EQ(pages, (std::vector{2, 2, 2, 2, 3, 2, 2}));
-
-    const auto bookmarks = PdfPages(*converted).contents();
-    ASSERT_EQ(bookmarks.size(), ours.size());
-    EXPECT_EQ(bookmarks[1].title, QStringLiteral("Zoé Šara O'Neil-Weißgräber"));
-}
 
 // A class with names of every length, picture names and one picture.
 class Lists : public testing::Test {

@@ -34,51 +34,14 @@ constexpr std::array<Name, 11> Names = {{
     {u"Moritz", u"Schön", true},
 }};
 
-// A group of options on a page, and how many there are.
-struct Group {
-    const char* Control;
-    int Options;
-};
-struct Page {
-    int Number;
-    std::vector<Group> Groups;
-};
-
-const std::vector<Page>& pages12() {
-    static const std::vector<Page> Pages = {
-        {1, {{"Option2", 4}, {"Option3", 4}, {"Option44", 4}}},
-        {2,
-         {{"Option4", 7},
-          {"Option5", 7},
-          {"Option6", 7},
-          {"Option7", 4},
-          {"Option8", 4},
-          {"Option45", 4}}},
-        {3,
-         {{"Option9", 4},
-          {"Option10", 4},
-          {"Option11", 4},
-          {"Option12", 4},
-          {"Option13", 6},
-          {"Option24", 6}}},
-        {4,
-         {{"Option14", 5},
-          {"Option35", 2},
-          {"Option15", 5},
-          {"Option16", 6},
-          {"Option20", 4},
-          {"Option25", 5}}},
-        {5, {{"Option17", 3}, {"Option18", 3}, {"Option19", 3}, {"Option26", 3}, {"Option27", 4}}},
-        {6,
-         {{"Option29", 3},
-          {"Option30", 3},
-          {"Option31", 3},
-          {"Option32", 4},
-          {"Option33", 4},
-          {"Option34", 4}}},
-    };
-    return Pages;
-}
+// The groups of options on the pages 1 to 6, and how many there are in each.
+constexpr std::array<const char*, 6> Pages12 = {
+    "Option2 4 Option3 4 Option44 4",
+    "Option4 7 Option5 7 Option6 7 Option7 4 Option8 4 Option45 4",
+    "Option9 4 Option10 4 Option11 4 Option12 4 Option13 6 Option24 6",
+    "Option14 5 Option35 2 Option15 5 Option16 6 Option20 4 Option25 5",
+    "Option17 3 Option18 3 Option19 3 Option26 3 Option27 4",
+    "Option29 3 Option30 3 Option31 3 Option32 4 Option33 4 Option34 4"};
 
 class Script {
   public:
@@ -139,13 +102,14 @@ void years12(Script& script, bool first, bool yearOne) {
         script.pick("Kompetenzen.Combo1", place);
         script.click("Kompetenzen.Command1(0)");
         script.click("Kompetenzen.Option1", 1 + place % 15);
-        for (const Page& page : pages12()) {
-            script.click("Kompetenzen.Command1", page.Number);
-            int number = page.Number;
-            for (const Group& group : page.Groups)
-                if (!yearOne || std::string_view(group.Control) != "Option25")
-                    script.click(std::string("Kompetenzen.") + group.Control,
-                                 choice(place, ++number, group.Options));
+        for (int page = 1; page <= static_cast<int>(Pages12.size()); ++page) {
+            script.click("Kompetenzen.Command1", page);
+            int number = page;
+            std::istringstream groups(Pages12.at(static_cast<size_t>(page) - 1));
+            std::string control;
+            for (int options = 0; groups >> control >> options;)
+                if (!yearOne || control != "Option25")
+                    script.click("Kompetenzen." + control, choice(place, ++number, options));
         }
         script.click("Kompetenzen.Command1(7)");
         script.click("Kompetenzen.Check2(1)");

@@ -29,15 +29,6 @@ class DocumentFiles : public testing::Test {
 
 std::optional<fs::path> cannotConvert(const fs::path&) { return std::nullopt; }
 
-TEST_F(DocumentFiles, TheMacroWritesBothFilesAnew) {
-    installation.write(u"3aZeugnisse32.doc", u"alt");
-    const Dokumentdateien files = open(u"zeugnisseschreiben.DOC", u"ZEUGNISSESCHREIBEN");
-    EXPECT_EQ(files.Name, u"3aZeugnisse32.doc");
-    EXPECT_EQ(installation.read(u"3aZeugnisse32.doc").substr(0, 6), u"{\\rtf1");
-    EXPECT_EQ(installation.read(u"3aZeugnisse32.pdf").substr(0, 5), u"%PDF-");
-    EXPECT_EQ(AnzeigeFinden(files, cannotConvert).Hinweis, u"");
-}
-
 TEST_F(DocumentFiles, OpeningMakesTheReportOnlyIfItIsMissing) {
     open(u"3AZEUGNISSE32.DOC");
     EXPECT_TRUE(installation.has(u"3aZeugnisse32.pdf"));
@@ -52,12 +43,7 @@ TEST_F(DocumentFiles, FindsAHelpTextInItsFolder) {
     installation.write(u"Texte/Hilfe1.pdf", u"b");
     EXPECT_EQ(open(u"texte\\hilfe1.doc").Pdf.filename(), "Hilfe1.pdf");
     EXPECT_EQ(failureOf([&] { open(u"Texte\\Hilfe2.doc"); }), "file-not-found");
-}
-
-TEST_F(DocumentFiles, NamesWhatThereIsNotYet) {
-    const Text sentence = test::failureSentenceOf([&] { open(u"KlListe.doc", u"Liste"); });
-    EXPECT_NE(sentence.find(u"„KlListe.doc“"), Text::npos);
-    EXPECT_EQ(failureOf([&] { open(u"3aFotoliste32.doc"); }), "file-not-found");
+    EXPECT_EQ(failureOf([&] { open(u"KlListe.doc", u"Liste"); }), "file-not-found");
     EXPECT_EQ(failureOf([&] { open(u"Anderswo\\a.doc"); }), "path-not-found");
 }
 

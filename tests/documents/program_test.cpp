@@ -74,38 +74,30 @@ TEST_F(Program, BeginsTheListAnewAndKeepsTheFormerOne) {
     EXPECT_EQ(installation.read(u"3aZeugnisliste32.pdf").substr(0, 5), u"%PDF-");
 }
 
-TEST_F(Program, SaysThatTheSchoolDataAreMissing) {
+TEST_F(Program, SaysWhyAndLeavesTheOldFilesWholeIfItCannotWrite) {
+    const Text store = installation.read(u"Daten/AVSVspeicher.txt");
+    installation.write(u"Daten/AVSVspeicher.txt", store.substr(0, store.find(u"\"Azra liest")));
+    expectFailure("Datei „Daten\\AVSVspeicher.txt“");
     installation.remove(u"Daten/Basisdaten.txt");
     expectFailure("Die Datei „Daten\\Basisdaten.txt“ kann nicht gelesen werden");
     EXPECT_EQ(installation.read(Doc), u"alt");
 }
 
-TEST_F(Program, SaysWhereAStoreIsDamaged) {
-    const Text store = installation.read(u"Daten/AVSVspeicher.txt");
-    installation.write(u"Daten/AVSVspeicher.txt", store.substr(0, store.find(u"\"Azra liest")));
-    expectFailure("Datei „Daten\\AVSVspeicher.txt“");
-    EXPECT_EQ(installation.read(Doc), u"alt");
-}
-
-TEST_F(Program, LeavesTheOldFilesWholeIfItCannotWrite) {
-    installation.remove(Doc);
-    std::filesystem::create_directories(installation.path() / "3aZeugnisse32.doc");
-    expectFailure("Unter diesem Namen liegt ein Ordner");
-}
-
-TEST_F(Program, SaysThatThereIsNoClipboardWithoutAWindow) {
-    const Outcome outcome =
-        run(installation, {QStringLiteral("daten\\worddaten\\Anzeigetext.doc"),
-                           QStringLiteral("/mAnzeigetext"), QStringLiteral("--no-window")});
-    EXPECT_EQ(outcome.exitCode, 1);
-    EXPECT_NE(outcome.errors.find("Zwischenablage"), std::string::npos) << outcome.errors;
-}
-
-TEST_F(Program, SaysThatADocumentDoesNotExist) {
-    const Outcome outcome =
-        run(installation, {QStringLiteral("Texte\\Hilfe1.doc"), QStringLiteral("--no-window")});
-    EXPECT_EQ(outcome.exitCode, 1);
-    EXPECT_NE(outcome.errors.find("Texte\\Hilfe1.doc"), std::string::npos) << outcome.errors;
+TEST_F(Program, RefusesWhatItDoesNotKnow) {
+    const std::pair<QStringList, const char*> calls[] = {
+        {{QStringLiteral("daten\\worddaten\\Anzeigetext.doc"), QStringLiteral("/mAnzeigetext")},
+         "Zwischenablage"},
+        {{QStringLiteral("Texte\\Hilfe1.doc")}, "Texte\\Hilfe1.doc"},
+        {{QStringLiteral("3"), QStringLiteral("aListe.doc")}, "„3 aListe.doc“"},
+        {{QStringLiteral("a.doc"), QStringLiteral("--print")}, "--print"},
+        {{}, "Es fehlt der Name"},
+    };
+    for (const auto& [arguments, words] : calls) {
+        const Outcome outcome =
+            run(installation, QStringList(QStringLiteral("--no-window")) + arguments);
+        EXPECT_EQ(outcome.exitCode, 1) << words;
+        EXPECT_NE(outcome.errors.find(words), std::string::npos) << outcome.errors;
+    }
 }
 
 } // namespace
