@@ -168,6 +168,8 @@ void Binder::holdBack(const Control& control, std::function<bool()> held) {
 
 void Binder::forwardClicks(Control& control, QAbstractButton& widget) {
     connect(&widget, &QAbstractButton::clicked, this, [this, &control] {
+        if (!m_host.mayAct(control))
+            return;
         emit clicking(&control);
         m_host.run([&] { user::click(control); });
         emit clicked(&control);
@@ -282,8 +284,10 @@ EntryCombo* Binder::combo(ComboBox& control, const QString& name) {
     auto* widget = new EntryCombo(&m_window);
     widget->setAccessibleName(name);
     widget->setMaxVisibleItems(25);
-    connect(widget, &QComboBox::activated, this,
-            [this, &control](int index) { m_host.run([&] { user::pick(control, index); }); });
+    connect(widget, &QComboBox::activated, this, [this, &control](int index) {
+        if (m_host.mayAct(control))
+            m_host.run([&] { user::pick(control, index); });
+    });
     add(control, *widget, [&control, widget] {
         const QSignalBlocker quiet(widget);
         const QStringList entries = shownEntries(control);

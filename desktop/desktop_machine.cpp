@@ -21,7 +21,10 @@ Antwort DesktopDialogs::message(const Meldung& meldung) {
     DialogBox box(qString(meldung.titel), qString(meldung.text), prepare());
     box.setSign(meldung.symbol);
     box.setButtons(meldung.tasten, meldung.standardAntwort());
-    return box.ask();
+    const Antwort answer = box.ask();
+    if (afterBox)
+        afterBox(meldung, answer);
+    return answer;
 }
 
 std::optional<Text> DesktopDialogs::input(const Text& title, const Text& prompt) {

@@ -16,6 +16,8 @@ class DesktopDialogs : public Dialogs {
 
     /// Runs before a box comes up, so that the windows behind it show the present state.
     std::function<void()> beforeBox;
+    /// Runs after a box was answered.
+    std::function<void(const Meldung& meldung, Antwort answer)> afterBox;
     /// The window that a box belongs to.
     std::function<QWidget*()> parent;
 

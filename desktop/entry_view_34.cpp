@@ -191,6 +191,13 @@ QBoxLayout* EntryView34::supportSentence() {
     left->addSpacing(4);
     left->addWidget(sentencePart(m_entry.Label7(0)));
     QBoxLayout* kinds = rows(m_entry.Check1);
+    // Its module is empty, and a click on it would end the program.
+    m_entry.Check1.each([this](const CheckBox& kind) {
+        bind().holdBack(kind, [&kind] { return kind.Caption.empty(); });
+        if (QWidget* row = bind().widgetOf(kind); kind.Caption.empty())
+            row->setToolTip(tr("Dieser Textbaustein ist leer. In der Werkzeugkiste können Sie ihn "
+                               "wieder mit Text füllen."));
+    });
     kinds->setContentsMargins(24, 3, 0, 3);
     left->addLayout(kinds);
     left->addWidget(sentencePart(m_entry.Label7(1)));

@@ -1,5 +1,6 @@
 #include "common/screen_names.h"
 #include "desktop/desktop_machine.h"
+#include "desktop/rescue/net.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "desktop/word_launcher.h"
@@ -44,16 +45,17 @@ int run() {
     BildschirmeAnmelden(program);
 
     WindowHost host(program);
-    dialogs.beforeBox = [&host] { host.refresh(); };
     dialogs.parent = [&host] { return host.dialogParent(); };
-    guard.onUnavailable = [&](const Text& sentence) {
-        QMetaObject::invokeMethod(
-            &host, [&dialogs, sentence] { dialogs.message({.text = sentence}); },
-            Qt::QueuedConnection);
-    };
+    Net net(host, dialogs, guard, programFolder);
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
-        &host, [&] { host.run([&program] { program.show(bildschirme::GsStart); }); },
+        &host,
+        [&] {
+            net.examine();
+            host.run([&program] { program.show(bildschirme::GsStart); });
+            if (!program.ended() && program.startScreen() != nullptr)
+                net.offerTyped();
+        },
         Qt::QueuedConnection);
     return QApplication::exec();
 }

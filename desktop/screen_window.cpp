@@ -112,7 +112,11 @@ bool ScreenWindow::mayClose() {
     DialogBox box(qString(Programmtitel), m_lostByClosing, this);
     box.setSign(Symbol::Frage);
     box.setButtons(Tasten::JaNein, Antwort::Nein);
-    return box.ask() == Antwort::Ja;
+    if (box.ask() != Antwort::Ja)
+        return false;
+    if (m_host.beside.closesKnowingly)
+        m_host.beside.closesKnowingly(*m_screen);
+    return true;
 }
 
 } // namespace zeugnis

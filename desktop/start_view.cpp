@@ -2,6 +2,7 @@
 
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
+#include "desktop/window_host.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -109,12 +110,25 @@ QBoxLayout* StartView::mainArea() {
     auto* last = new QHBoxLayout;
     last->addWidget(bind().button(m_start.Command2, u'W', Role::Quiet));
     last->addWidget(bind().button(m_start.Command3, u'k', Role::Normal));
+    last->addWidget(formerStates());
     last->addStretch();
     last->addWidget(bind().button(m_start.Command1(7), u'P', Role::Normal));
     layout->addLayout(last);
     layout->addSpacing(4);
     layout->addLayout(helpRow());
     return layout;
+}
+
+// No control of the screen: it belongs to the net below the files.
+QWidget* StartView::formerStates() {
+    auto* button = new TintedButton(TintedButton::Role::Quiet, this);
+    button->setText(tr("F&rühere Stände …"));
+    button->setToolTip(tr("Ansehen und zurückholen, was vor einem Speichern da war"));
+    connect(button, &QAbstractButton::clicked, this, [this] { host().beside.showFormerStates(); });
+    bind().follow([this, button] {
+        button->setVisible(m_start.Command3.Visible && host().beside.showFormerStates);
+    });
+    return button;
 }
 
 QBoxLayout* StartView::helpRow() {

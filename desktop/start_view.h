@@ -16,6 +16,7 @@ class StartView : public ScreenWindow {
     QWidget* sidePanel();
     QBoxLayout* mainArea();
     QBoxLayout* helpRow();
+    QWidget* formerStates();
 
     GsStart& m_start;
 };

@@ -38,7 +38,8 @@ void WindowHost::run(const std::function<void()>& action) {
     } catch (const std::exception& failure) {
         reportFailure({Fehlerart::InvalidCall, sentenceOf(failure)});
     }
-    --m_depth;
+    if (--m_depth == 0 && beside.actionEnded)
+        beside.actionEnded();
     if (m_program.ended())
         QCoreApplication::exit(0);
 }
@@ -159,10 +160,12 @@ ScreenWindow* WindowHost::windowOf(const Screen* screen) const {
 void WindowHost::reportFailure(const Laufzeitfehler& failure) {
     m_failed = true;
     emit failed(failure);
+    const QString unsaved = beside.unsaved ? beside.unsaved() : QString();
     DialogBox box(qString(Programmtitel),
                   qString(failure.sentence()) +
                       QStringLiteral("\n\nDas Programm wird jetzt beendet. Alles, was bis hierher "
-                                     "gespeichert wurde, bleibt erhalten."),
+                                     "gespeichert wurde, bleibt erhalten.") +
+                      (unsaved.isEmpty() ? QString() : QStringLiteral("\n\n") + unsaved),
                   dialogParent());
     box.setSign(Symbol::Stopp);
     box.setButtons(Tasten::Ok, Antwort::Ok);

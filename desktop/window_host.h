@@ -48,6 +48,27 @@ class WindowHost : public QObject {
     /// Asks what each window would ask that is closed with the start page.
     [[nodiscard]] bool allMayClose() const;
 
+    /// What stands beside the screens: each may be left out.
+    struct Beside {
+        /// Asked before a click or a pick by hand is delivered; false: it is not.
+        std::function<bool(Control& control)> mayAct;
+        /// After each action on the screens.
+        std::function<void()> actionEnded;
+        /// Before a window is closed although something is lost, as the teacher has agreed.
+        std::function<void(const Screen& screen)> closesKnowingly;
+        /// What a failure that ends the program leaves unsaved, in a few sentences.
+        std::function<QString()> unsaved;
+        /// Opens the window of former states.
+        std::function<void()> showFormerStates;
+    };
+    Beside beside;
+
+    [[nodiscard]] bool mayAct(Control& control) {
+        return m_depth > 0 || !beside.mayAct || beside.mayAct(control);
+    }
+    /// No action is under way.
+    [[nodiscard]] bool isIdle() const { return m_depth == 0; }
+
     /// Null if the screen has not been shown yet.
     [[nodiscard]] ScreenWindow* windowOf(const Screen* screen) const;
 

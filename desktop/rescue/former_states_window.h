@@ -1,0 +1,44 @@
+#pragma once
+
+#include "rescue/former_states.h"
+
+#include <QDialog>
+
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+
+namespace zeugnis {
+
+class ComparePane;
+
+/// "Frühere Stände": what was before which action, and the ways back.
+class FormerStatesWindow : public QDialog {
+    Q_OBJECT
+
+  public:
+    FormerStatesWindow(rescue::FormerStates& states, QWidget* owner);
+
+  private:
+    QWidget* lists();
+    QLayout* ways();
+    void showStates();
+    void chooseState();
+    void showChosen();
+    void bring(const std::function<bool()>& way, const QString& done);
+    void enableWays();
+    [[nodiscard]] const safety::Difference* chosen() const;
+    [[nodiscard]] QString chosenPupil() const;
+
+    rescue::FormerStates& m_states;
+    QTreeWidget* m_actions;
+    QTreeWidget* m_differences;
+    ComparePane* m_texts;
+    QLabel* m_told;
+    QPushButton* m_text = nullptr;
+    QPushButton* m_pupil = nullptr;
+    QPushButton* m_all = nullptr;
+    QPushButton* m_copy = nullptr;
+};
+
+} // namespace zeugnis

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "desktop/rescue/damage_box.h"
+#include "desktop/rescue/termination.h"
+#include "rescue/former_states.h"
+#include "rescue/typed_keeper.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace zeugnis {
+
+class Control;
+class DesktopDialogs;
+class WindowHost;
+
+/// Ties the net below the files to the windows: what is typed is set down, damage is asked about
+/// before a routine reads it, and what no teacher could know is told before it happens.
+class Net : public QObject {
+    Q_OBJECT
+
+  public:
+    Net(WindowHost& host, DesktopDialogs& dialogs, safety::Guard& guard,
+        const std::filesystem::path& programFolder);
+
+    /// Before anything is read.
+    void examine();
+    /// When the start page stands.
+    void offerTyped();
+
+  private:
+    bool mayAct(Control& control);
+    bool mayWrite(Control& control);
+    bool mayAddPupil(const Control& control);
+    void makeFolders() const;
+    void showFormerStates();
+
+    /// So that with the time of writing it is less than two seconds.
+    static constexpr int Pause = 1000;
+
+    WindowHost& m_host;
+    std::filesystem::path m_folder;
+    rescue::TypedKeeper m_keeper;
+    rescue::FormerStates m_states;
+    DamageBox m_damage;
+    QTimer m_timer;
+    Termination m_termination;
+};
+
+} // namespace zeugnis

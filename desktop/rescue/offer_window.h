@@ -1,0 +1,47 @@
+#pragma once
+
+#include "rescue/offers.h"
+#include "rescue/typed_keeper.h"
+
+#include <QDialog>
+
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+
+namespace zeugnis {
+
+class ComparePane;
+class WindowHost;
+
+/// Offers what was typed and not saved in an earlier run, child by child and section by section,
+/// beside what the files hold.
+class OfferWindow : public QDialog {
+    Q_OBJECT
+
+  public:
+    OfferWindow(rescue::OfferList offers, rescue::TypedKeeper& keeper, WindowHost& host,
+                QWidget* owner);
+
+  private:
+    void showList();
+    void showChosen();
+    void take();
+    void copy();
+    void refuse();
+    void refuseAll();
+    void settled(size_t index);
+    [[nodiscard]] std::optional<size_t> chosen() const;
+
+    rescue::OfferList m_offers;
+    rescue::TypedKeeper& m_keeper;
+    WindowHost& m_host;
+    QTreeWidget* m_list;
+    ComparePane* m_texts;
+    QLabel* m_told;
+    QPushButton* m_take;
+    QPushButton* m_copy;
+    QPushButton* m_refuse;
+};
+
+} // namespace zeugnis
