@@ -1,5 +1,6 @@
 #include "common/screen_names.h"
 #include "desktop/desktop_machine.h"
+#include "desktop/rescue/choice_box.h"
 #include "desktop/rescue/net.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
@@ -8,6 +9,7 @@
 #include "platform/plain_machine.h"
 #include "platform/version.h"
 #include "program/all_screens.h"
+#include "safety/folder_lock.h"
 #include "safety/guard.h"
 #include "safety/recovery.h"
 #include "toolkit/qt_text.h"
@@ -29,6 +31,31 @@ bool startCleanly(Dialogs& dialogs, const std::filesystem::path& programFolder) 
     return recovery.complete();
 }
 
+// False if another program has the folder open and the teacher does not open it all the same.
+bool takeFolder(safety::FolderLock& lock) {
+    using Outcome = safety::FolderLock::Outcome;
+    const safety::FolderLock::Answer answer = lock.take();
+    if (answer.outcome != Outcome::Held && answer.outcome != Outcome::HeldFarAway)
+        return true;
+    const QString who = qString(safety::holderSentence(answer.holder));
+    if (answer.outcome == Outcome::Held) {
+        askChoice(nullptr,
+                  who + QObject::tr("\n\nDamit sich nichts gegenseitig überschreibt, öffnet sich "
+                                    "das Programm kein zweites Mal. Arbeiten Sie in dem Fenster "
+                                    "weiter, das schon offen ist."),
+                  {QObject::tr("&Beenden")}, 0);
+        return false;
+    }
+    return askChoice(nullptr,
+                     who +
+                         QObject::tr("\n\nWenn dort noch gearbeitet wird, würden Sie sich "
+                                     "gegenseitig Texte überschreiben. Öffnen Sie den Ordner nur, "
+                                     "wenn Sie sicher sind, dass er dort nicht mehr offen ist: "
+                                     "etwa nach einem Stromausfall."),
+                     {QObject::tr("Trotzdem &öffnen"), QObject::tr("&Beenden")}, 1) == 0 &&
+           lock.takeOver();
+}
+
 int run() {
     DesktopDialogs dialogs;
     DesktopClipboard clipboard;
@@ -36,7 +63,8 @@ int run() {
     DesktopPictures pictures;
     WordLauncher launcher(QApplication::applicationDirPath());
     const std::filesystem::path programFolder = startFolder();
-    if (!startCleanly(dialogs, programFolder))
+    safety::FolderLock lock(programFolder, safety::thisProgram(safety::now()));
+    if (!takeFolder(lock) || !startCleanly(dialogs, programFolder))
         return 1;
     safety::Guard guard(programFolder);
     guard.thinOutStates();
@@ -47,6 +75,7 @@ int run() {
     WindowHost host(program);
     dialogs.parent = [&host] { return host.dialogParent(); };
     Net net(host, dialogs, guard, programFolder);
+    net.keepFolder(lock);
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
         &host,

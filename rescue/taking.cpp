@@ -108,8 +108,6 @@ bool showPageOf(const ControlArray<Button>& pages, const TextBox& box) {
 
 Text takeModule(Bausteineditor& editor, const Offer& offer) {
     const EditorButtons buttons = buttonsOf(editor);
-    if (!editor.Geladen)
-        user::click(buttons.LoadCurrent);
     for (const Bausteineditor::Platz& place : editor.Plaetze())
         if (utf8FromText(u"Daten/" + place.Datei) == offer.typed.file &&
             static_cast<size_t>(place.Zeile) == offer.typed.number &&
@@ -121,8 +119,6 @@ Text takeModule(Bausteineditor& editor, const Offer& offer) {
 }
 
 Text takeLine(GSAVSVAenderung& editor, const Offer& offer) {
-    if (!editor.Geladen)
-        user::click(editor.Command1(1));
     const auto is = [&](TextView file) {
         return offer.typed.file == utf8FromText(u"Daten/" + Text(file));
     };
@@ -140,10 +136,20 @@ Text takeLine(GSAVSVAenderung& editor, const Offer& offer) {
 
 bool canTake(const Offer& offer) { return wayTo(offer.screen) != nullptr; }
 
-Text take(Programm& programm, const Offer& offer) {
+bool openFor(Programm& programm, const Offer& offer) {
     const Programm::Task task(programm);
     const Way* way = wayTo(offer.screen);
     Screen* screen = way == nullptr ? nullptr : open(programm, *way);
+    if (auto* editor = dynamic_cast<Bausteineditor*>(screen); editor != nullptr && !editor->Geladen)
+        user::click(buttonsOf(*editor).LoadCurrent);
+    if (auto* lines = dynamic_cast<GSAVSVAenderung*>(screen); lines != nullptr && !lines->Geladen)
+        user::click(lines->Command1(1));
+    return screen != nullptr;
+}
+
+Text take(Programm& programm, const Offer& offer) {
+    const Programm::Task task(programm);
+    Screen* screen = programm.find(offer.screen);
     if (screen == nullptr || !screen->shown())
         return u"Das Fenster, in dem der Text stand, lässt sich jetzt nicht öffnen.";
     const auto section = static_cast<int>(offer.typed.field - BehindNames);

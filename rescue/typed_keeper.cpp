@@ -121,6 +121,14 @@ void TypedKeeper::unitEnded(safety::Guard::Outcome outcome) {
         m_kept = true;
 }
 
+Text TypedKeeper::unsavedBut(TextView screen) {
+    note();
+    for (const auto& [name, watched] : m_watched)
+        if (name != screen && !watched.unsaved.empty() && isLoaded(watched.screen))
+            return watched.screen->Title;
+    return {};
+}
+
 Text TypedKeeper::unsavedSentence() {
     constexpr size_t Shown = 6;
     const int error = setDown();

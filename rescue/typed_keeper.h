@@ -43,6 +43,9 @@ class TypedKeeper {
     /// nothing is.
     Text unsavedSentence();
 
+    /// The title of an open screen, but for one, that holds what is not saved; empty if none does.
+    Text unsavedBut(TextView screen);
+
     safety::TypedStore& store() { return m_store; }
 
   private:

@@ -107,7 +107,9 @@ bool FolderLock::renew() {
         m_ours = false;
         return false;
     }
-    return writeSelf();
+    // A full disk is no other program.
+    writeSelf();
+    return true;
 }
 
 // Locks do not reach every other machine, and some disks know none.

@@ -55,6 +55,8 @@ class FolderLock {
     /// program runs. False if another program has taken the folder over meanwhile.
     bool renew();
 
+    [[nodiscard]] bool isOurs() const { return m_ours; }
+
     static constexpr std::chrono::seconds Beat{30};
     /// A file that was not renewed for so long was left behind.
     static constexpr std::chrono::seconds Silence{120};

@@ -25,6 +25,7 @@ QPlainTextEdit* ComparePane::column(const QString& heading) {
     label->setFont(theme::scaledFont(1.0, QFont::DemiBold));
     auto* text = new QPlainTextEdit(this);
     text->setReadOnly(true);
+    text->setStyleSheet(QStringLiteral("QPlainTextEdit { background: white; }"));
     text->setTabChangesFocus(true);
     text->setAccessibleName(heading);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -56,6 +56,24 @@ Net::Net(WindowHost& host, DesktopDialogs& dialogs, safety::Guard& guard,
     };
 }
 
+void Net::keepFolder(safety::FolderLock& lock) {
+    if (!lock.isOurs())
+        return;
+    connect(&m_beat, &QTimer::timeout, this, [this, &lock] {
+        if (lock.renew())
+            return;
+        m_beat.stop();
+        m_keeper.setDown();
+        askChoice(m_host.dialogParent(),
+                  tr("Dieser Ordner ist inzwischen an einem anderen Gerät geöffnet worden. Damit "
+                     "sich nichts gegenseitig überschreibt, speichern Sie hier bitte nicht mehr, "
+                     "solange dort gearbeitet wird. Was Sie hier geschrieben haben, ist "
+                     "aufgehoben und wird beim nächsten Start angeboten."),
+                  {tr("&Weiter")}, 0);
+    });
+    m_beat.start(safety::FolderLock::Beat);
+}
+
 void Net::examine() {
     makeFolders();
     m_damage.examine(m_host.dialogParent());

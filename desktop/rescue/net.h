@@ -4,6 +4,7 @@
 #include "desktop/rescue/termination.h"
 #include "rescue/former_states.h"
 #include "rescue/typed_keeper.h"
+#include "safety/folder_lock.h"
 
 #include <QObject>
 #include <QTimer>
@@ -23,6 +24,8 @@ class Net : public QObject {
     Net(WindowHost& host, DesktopDialogs& dialogs, safety::Guard& guard,
         const std::filesystem::path& programFolder);
 
+    /// Shows others that the folder is open, as long as the program runs.
+    void keepFolder(safety::FolderLock& lock);
     /// Before anything is read.
     void examine();
     /// When the start page stands.
@@ -44,6 +47,7 @@ class Net : public QObject {
     rescue::FormerStates m_states;
     DamageBox m_damage;
     QTimer m_timer;
+    QTimer m_beat;
     Termination m_termination;
 };
 

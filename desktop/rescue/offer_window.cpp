@@ -136,7 +136,16 @@ void OfferWindow::take() {
     if (!index)
         return;
     const rescue::OfferedText one = m_offers.texts()[*index];
+    // Opening another window would drop what is in this one.
+    if (const Text open = m_keeper.unsavedBut(one.offer.screen); !open.empty()) {
+        m_told->setText(tr("Im Fenster „%1“ ist noch etwas nicht gespeichert. Bitte speichern Sie "
+                           "dort zuerst, dann übernehmen Sie diesen Text.")
+                            .arg(qString(open)));
+        return;
+    }
     Text obstacle = u"?";
+    // The screen is known as it comes up before anything is put into it.
+    m_host.run([&] { rescue::openFor(m_host.program(), one.offer); });
     m_host.run([&] { obstacle = rescue::take(m_host.program(), one.offer); });
     if (m_host.program().ended())
         return;

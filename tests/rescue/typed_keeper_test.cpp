@@ -74,7 +74,12 @@ TEST_F(TypedKeeperTest, WhatStandsInTheBoxIsOfferedAndTakenAsAHandWould) {
 
     TestProgramm next(installation);
     next.programm.show(bildschirme::GsStart);
+    // What is taken over is kept in its turn until it is saved.
+    TypedKeeper nextKeeper(next.programm, installation.path());
+    EXPECT_TRUE(openFor(next.programm, offered[0].offer));
+    nextKeeper.actionEnded();
     EXPECT_EQ(take(next.programm, offered[0].offer), u"");
+    EXPECT_NE(nextKeeper.unsavedSentence(), u"");
     const auto& screen =
         dynamic_cast<GsArbeitsverhalten&>(*next.programm.find(bildschirme::GsArbeitsverhalten));
     EXPECT_EQ(screen.Text1(0).text(), u"Tom hört zu.");
@@ -132,8 +137,10 @@ TEST_F(TypedKeeperTest, ModulesAndTheOtherYearsAreKeptAndTakenToo) {
     TestProgramm next(installation);
     next.programm.show(bildschirme::GsStart);
     next.dialogs.answers = {Antwort::Ja};
-    for (const OfferedText& one : offered)
+    for (const OfferedText& one : offered) {
+        EXPECT_TRUE(openFor(next.programm, one.offer));
         EXPECT_EQ(take(next.programm, one.offer), u"");
+    }
     EXPECT_EQ(dynamic_cast<GSAenderung34&>(*next.programm.find(bildschirme::GSAenderung34))
                   .Text3(2)
                   .text(),
