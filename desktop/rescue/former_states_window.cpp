@@ -1,7 +1,7 @@
 #include "desktop/rescue/former_states_window.h"
 
 #include "desktop/rescue/compare_pane.h"
-#include "desktop/theme.h"
+#include "desktop/rescue/wrapped_tree.h"
 #include "platform/failure.h"
 #include "toolkit/qt_text.h"
 
@@ -11,31 +11,12 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace zeugnis {
 namespace {
 
 constexpr int IndexRole = Qt::UserRole;
-
-QTreeWidget* tree(const QString& name, QWidget* parent) {
-    auto* made = new QTreeWidget(parent);
-    made->setHeaderHidden(true);
-    made->setAccessibleName(name);
-    made->setMinimumWidth(170);
-    made->setWordWrap(true);
-    return made;
-}
-
-QTreeWidgetItem* heading(QTreeWidget& list, const QString& text) {
-    const int last = list.topLevelItemCount() - 1;
-    if (last >= 0 && list.topLevelItem(last)->text(0) == text)
-        return list.topLevelItem(last);
-    auto* item = new QTreeWidgetItem(&list, {text});
-    item->setFont(0, theme::scaledFont(1.0, QFont::DemiBold));
-    return item;
-}
 
 std::optional<size_t> indexOf(const QTreeWidgetItem* item) {
     if (item == nullptr || !item->data(0, IndexRole).isValid())
@@ -70,8 +51,8 @@ FormerStatesWindow::FormerStatesWindow(rescue::FormerStates& states, QWidget* ow
 QWidget* FormerStatesWindow::lists() {
     auto* parts = new QSplitter(this);
     parts->setChildrenCollapsible(false);
-    m_actions = tree(tr("Aktionen nach Tagen"), parts);
-    m_differences = tree(tr("Was sich unterscheidet"), parts);
+    m_actions = new WrappedTree(tr("Aktionen nach Tagen"), parts);
+    m_differences = new WrappedTree(tr("Was sich unterscheidet"), parts);
     m_texts = new ComparePane(tr("Damals"), tr("Jetzt"), parts);
     for (QWidget* part : std::initializer_list<QWidget*>{m_actions, m_differences, m_texts})
         parts->addWidget(part);
@@ -119,8 +100,7 @@ void FormerStatesWindow::showStates() {
     QTreeWidgetItem* first = nullptr;
     for (size_t i = 0; i < m_states.states().size(); ++i) {
         const safety::State& state = m_states.states()[i];
-        auto* item =
-            new QTreeWidgetItem(heading(*m_actions, qString(safety::shownDay(state.when))));
+        auto* item = new QTreeWidgetItem(m_actions->heading(qString(safety::shownDay(state.when))));
         item->setText(
             0, tr("%1  %2").arg(qString(safety::shownTime(state.when)), qString(state.action)));
         item->setToolTip(0, item->text(0));
@@ -145,9 +125,8 @@ void FormerStatesWindow::chooseState() {
         m_states.choose(*state);
         for (size_t i = 0; i < m_states.differences().size(); ++i) {
             const safety::Difference& one = m_states.differences()[i];
-            auto* item = new QTreeWidgetItem(
-                heading(*m_differences, one.pupil.empty() ? qString(safety::shownName(one.file))
-                                                          : qString(one.pupil)));
+            auto* item = new QTreeWidgetItem(m_differences->heading(
+                one.pupil.empty() ? qString(safety::shownName(one.file)) : qString(one.pupil)));
             item->setText(0, qString(rescue::headingOf(one)));
             item->setToolTip(0, qString(safety::shownName(one.file)));
             item->setData(0, IndexRole, static_cast<int>(i));

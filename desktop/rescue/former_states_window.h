@@ -6,11 +6,11 @@
 
 class QLabel;
 class QPushButton;
-class QTreeWidget;
 
 namespace zeugnis {
 
 class ComparePane;
+class WrappedTree;
 
 /// "Frühere Stände": what was before which action, and the ways back.
 class FormerStatesWindow : public QDialog {
@@ -31,8 +31,8 @@ class FormerStatesWindow : public QDialog {
     [[nodiscard]] QString chosenPupil() const;
 
     rescue::FormerStates& m_states;
-    QTreeWidget* m_actions;
-    QTreeWidget* m_differences;
+    WrappedTree* m_actions;
+    WrappedTree* m_differences;
     ComparePane* m_texts;
     QLabel* m_told;
     QPushButton* m_text = nullptr;

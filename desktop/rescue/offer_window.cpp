@@ -2,7 +2,7 @@
 
 #include "desktop/rescue/choice_box.h"
 #include "desktop/rescue/compare_pane.h"
-#include "desktop/theme.h"
+#include "desktop/rescue/wrapped_tree.h"
 #include "desktop/window_host.h"
 #include "rescue/taking.h"
 #include "toolkit/qt_text.h"
@@ -13,23 +13,12 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace zeugnis {
 namespace {
 
 constexpr int IndexRole = Qt::UserRole;
-
-QTreeWidgetItem* itemNamed(QTreeWidget& list, const QString& name) {
-    for (int i = 0; i < list.topLevelItemCount(); ++i)
-        if (list.topLevelItem(i)->text(0) == name)
-            return list.topLevelItem(i);
-    auto* item = new QTreeWidgetItem(&list, {name});
-    item->setFlags(Qt::ItemIsEnabled);
-    item->setFont(0, theme::scaledFont(1.0, QFont::DemiBold));
-    return item;
-}
 
 } // namespace
 
@@ -51,10 +40,7 @@ OfferWindow::OfferWindow(rescue::OfferList offers, rescue::TypedKeeper& keeper, 
 
     auto* parts = new QSplitter(this);
     parts->setChildrenCollapsible(false);
-    m_list = new QTreeWidget(parts);
-    m_list->setHeaderHidden(true);
-    m_list->setAccessibleName(tr("Aufgehobene Texte"));
-    m_list->setMinimumWidth(210);
+    m_list = new WrappedTree(tr("Aufgehobene Texte"), parts);
     m_texts = new ComparePane(tr("Aufgehobener Text"), tr("In der Datei steht"), parts);
     parts->addWidget(m_list);
     parts->addWidget(m_texts);
@@ -92,7 +78,7 @@ void OfferWindow::showList() {
     QTreeWidgetItem* first = nullptr;
     for (size_t i = 0; i < m_offers.texts().size(); ++i) {
         const rescue::OfferedText& one = m_offers.texts()[i];
-        auto* item = new QTreeWidgetItem(itemNamed(*m_list, qString(one.who)));
+        auto* item = new QTreeWidgetItem(m_list->heading(qString(one.who)));
         item->setText(0, qString(one.section));
         item->setToolTip(0, tr("Geschrieben %1").arg(qString(one.when)));
         item->setData(0, IndexRole, static_cast<int>(i));

@@ -7,11 +7,11 @@
 
 class QLabel;
 class QPushButton;
-class QTreeWidget;
 
 namespace zeugnis {
 
 class ComparePane;
+class WrappedTree;
 class WindowHost;
 
 /// Offers what was typed and not saved in an earlier run, child by child and section by section,
@@ -36,7 +36,7 @@ class OfferWindow : public QDialog {
     rescue::OfferList m_offers;
     rescue::TypedKeeper& m_keeper;
     WindowHost& m_host;
-    QTreeWidget* m_list;
+    WrappedTree* m_list;
     ComparePane* m_texts;
     QLabel* m_told;
     QPushButton* m_take;
