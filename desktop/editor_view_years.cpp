@@ -175,8 +175,10 @@ QLayout* EditorViewYears::boxRow(const Bausteineditor& editor, const BoxGroup& g
     mark->setFixedWidth(18);
     spoken::silence(*mark); // the box tells it
     mark->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    TextEditor* widget = bind().module(box, red ? tr("%1, vom Programm gesetzt").arg(group.heading)
-                                                : tr("%1, Text %2").arg(group.heading).arg(number));
+    const auto place = std::ranges::find(group.boxes, &box) - group.boxes.begin() + 1;
+    TextEditor* widget = bind().module(
+        box, red ? tr("%1 %2, vom Programm gesetzt").arg(group.heading, QString::number(place))
+                 : tr("%1, Text %2").arg(group.heading).arg(number));
     if (red) {
         widget->setProperty("preset", true);
         widget->setToolTip(

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QTest>
 
+#include <stdexcept>
 #include <string_view>
 #include <vector>
 
@@ -52,7 +53,7 @@ inline const std::vector<WindowState>& everyWindow() {
         {"editor12",
          bildschirme::GSAenderung12,
          u"2b",
-         {u"Command3(1)", u"Command1(1)", u"Command1(3)", u"Command1(7)"}},
+         {u"Command3(1)", u"Command1(2)", u"Command1(4)", u"Command1(9)"}},
         {"editor34",
          bildschirme::GSAenderung34,
          u"3a",
@@ -84,7 +85,12 @@ class OpenWindow {
 
     [[nodiscard]] Screen& screen() { return *machine.programm.find(screenName); }
     [[nodiscard]] ScreenWindow& window() { return *host.windowOf(&screen()); }
-    [[nodiscard]] Control& control(TextView name) { return *screen().find(name); }
+    [[nodiscard]] Control& control(TextView name) {
+        Control* found = screen().find(name);
+        if (found == nullptr)
+            throw std::runtime_error("no control " + utf8FromText(name));
+        return *found;
+    }
     [[nodiscard]] QWidget& widget(TextView name) { return *window().widgetOf(control(name)); }
 
     void click(TextView name) {
