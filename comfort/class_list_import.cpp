@@ -10,13 +10,6 @@
 namespace zeugnis {
 namespace {
 
-/// A double quote would end the field in the file; the boxes turn it into this as well.
-Text zelleFuerDatei(const Text& zelle) {
-    Text text = nearestInWindows1252(zelle);
-    std::ranges::replace(text, u'"', u'\'');
-    return trimmed(text);
-}
-
 void ganznameTeilen(const Text& name, Schueler& kind) {
     const size_t komma = name.find(u',');
     const size_t blank = name.rfind(u' ');
@@ -59,7 +52,7 @@ void zelleUebernehmen(Listenspalte spalte, const Text& zelle, Schueler& kind) {
         kind.Geschlecht = GeschlechtLesen(zelle).empty() ? zelle : GeschlechtLesen(zelle);
         break;
     case Listenspalte::Datum:
-        kind.Geburtsdatum = GeburtsdatumLesen(zelle).value_or(zelle);
+        kind.Geburtsdatum = zelle;
         break;
     case Listenspalte::Ort:
         kind.Geburtsort = zelle;
@@ -109,20 +102,29 @@ std::vector<Listenzeile> KlassenlisteLesen(TextView text) {
         Listenzeile& zeile = liste.emplace_back();
         zeile.Nummer = static_cast<int>(i) + 1;
         if (zeilen[i].size() == 1) {
-            ganznameTeilen(zelleFuerDatei(zeilen[i][0]), zeile.Kind);
+            ganznameTeilen(Listenfeld(zeilen[i][0]), zeile.Kind);
             continue;
         }
         const size_t breite = std::min(zeilen[i].size(), wahl.Spalten.size());
         for (size_t s = 0; s < breite; ++s)
-            zelleUebernehmen(wahl.Spalten[s], zelleFuerDatei(zeilen[i][s]), zeile.Kind);
+            zelleUebernehmen(wahl.Spalten[s], Listenfeld(zeilen[i][s]), zeile.Kind);
     }
     GruendeBilden(liste, 0);
     return liste;
 }
 
+Text Listenfeld(const Text& text) {
+    Text feld = nearestInWindows1252(text);
+    // A double quote would end the field in the file; the boxes turn it into this as well.
+    std::ranges::replace(feld, u'"', u'\'');
+    return trimmed(feld);
+}
+
 void GruendeBilden(std::vector<Listenzeile>& zeilen, int vorhandene) {
     int platz = SchuelerHoechstens - vorhandene;
     for (auto zeile = zeilen.begin(); zeile != zeilen.end(); ++zeile) {
+        if (std::optional<Text> datum = GeburtsdatumLesen(zeile->Kind.Geburtsdatum))
+            zeile->Kind.Geburtsdatum = *datum;
         zeile->Grund = grundAmKind(zeile->Kind);
         const auto gleiche = std::find_if(zeilen.begin(), zeile, [&](const Listenzeile& andere) {
             return dasselbe(andere.Kind, zeile->Kind);

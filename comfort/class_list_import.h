@@ -17,9 +17,13 @@ struct Listenzeile {
 /// out.
 std::vector<Listenzeile> KlassenlisteLesen(TextView text);
 
-/// Fills in the reasons anew, after a line was changed by hand: names or sex missing, no birth
-/// date, one that stands there already, more than fit beside the `vorhandene` pupils of the class.
+/// Fills in the reasons anew, after a line was changed by hand, and gives dates their form: names
+/// or sex missing, no birth date, one that stands there already, more than fit beside the
+/// `vorhandene` pupils of the class.
 void GruendeBilden(std::vector<Listenzeile>& zeilen, int vorhandene);
+
+/// A text for a field of a line, as it would have been read.
+Text Listenfeld(const Text& text);
 
 /// The children of all lines without a reason.
 std::vector<Schueler> KinderAus(const std::vector<Listenzeile>& zeilen);

@@ -1,5 +1,6 @@
 #include "desktop/master_data_view.h"
 
+#include "desktop/comfort/class_list_window.h"
 #include "desktop/entry_list.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
@@ -77,6 +78,11 @@ QBoxLayout* MasterDataView::head() {
     title->setFont(theme::scaledFont(1.25, QFont::DemiBold));
     row->addWidget(title);
     row->addStretch();
+    auto* list = new TintedButton(TintedButton::Role::Quiet, this);
+    list->setText(tr("Klassen&liste einlesen …"));
+    connect(list, &QAbstractButton::clicked, this,
+            [this] { readClassList(m_basis, host(), *this); });
+    row->addWidget(list);
     row->addWidget(bind().signButton(m_basis.Command8, QStringLiteral("?"), tr("Hilfe"),
                                      QKeySequence::HelpContents));
     return row;

@@ -27,6 +27,8 @@ class ScreenWindow : public QWidget {
     [[nodiscard]] QWidget* widgetOf(const Control& control) const {
         return m_binder.widgetOf(control);
     }
+    /// Something that follows the screen's controls and stands beside their widgets.
+    void follow(std::function<void()> refresh) { m_binder.follow(std::move(refresh)); }
     /// Asks, if something would be lost by closing the window.
     bool mayClose();
     /// Presses the button that the key brings with Alt, in this window, with the window in front.

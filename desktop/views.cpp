@@ -1,5 +1,6 @@
 #include "desktop/views.h"
 
+#include "desktop/comfort/entry_comfort.h"
 #include "desktop/editor_view_avsv.h"
 #include "desktop/editor_view_years.h"
 #include "desktop/entry_view_12.h"
@@ -41,8 +42,10 @@ constexpr ScreenWindow* (*Makers[])(Screen&, WindowHost&, QWidget*) = {
 
 ScreenWindow* makeWindow(Screen& screen, WindowHost& host, QWidget* below) {
     for (const auto make : Makers)
-        if (ScreenWindow* window = make(screen, host, below))
+        if (ScreenWindow* window = make(screen, host, below)) {
+            addEntryComfort(*window, screen, host);
             return window;
+        }
     throw std::logic_error("a screen without a window");
 }
 
