@@ -77,6 +77,9 @@ void showEntries(QListWidget& list, const QStringList& entries) {
     for (int row = 0; row < list.count(); ++row)
         if (list.item(row)->text() != entries[row])
             list.item(row)->setText(entries[row]);
+    // Where a row is cut, its tool tip tells it whole.
+    for (int row = 0; row < list.count() && !list.wordWrap(); ++row)
+        list.item(row)->setToolTip(entries[row]);
 }
 
 // A style sheet rules the editor's border, so the ground behind its text has to be told there too.

@@ -15,7 +15,6 @@
 #include "toolkit/qt_text.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QMessageBox>
 
 namespace {
@@ -96,7 +95,6 @@ int main(int argc, char** argv) {
     QApplication::setApplicationDisplayName(qString(Programmtitel));
     QApplication::setApplicationVersion(qString(Programmversion()));
     theme::apply(application);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
     try {
         return run();
     } catch (const std::exception& failure) {

@@ -1,6 +1,7 @@
 #include "desktop/master_data_view.h"
 
 #include "desktop/comfort/class_list_window.h"
+#include "desktop/elided_label.h"
 #include "desktop/entry_list.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
@@ -210,10 +211,8 @@ QBoxLayout* MasterDataView::pupilColumn() {
 QBoxLayout* MasterDataView::pupilForm() {
     auto* column = new QVBoxLayout;
     column->setSpacing(7);
-    auto* heading = new QLabel(this);
+    auto* heading = new ElidedLabel(this);
     heading->setFont(theme::scaledFont(1.3, QFont::DemiBold));
-    heading->setTextFormat(Qt::PlainText);
-    heading->setMinimumWidth(1);
     bind().follow([this, heading] { heading->setText(pupilHeading()); });
     column->addWidget(heading);
     column->addLayout(side({{pupilField(1), 1}, {pupilField(2), 1}}));

@@ -5,6 +5,7 @@
 #include "documents/app/word_processor.h"
 #include "documents/content/report_marks.h"
 #include "documents/content/wording.h"
+#include "documents/window/one_window.h"
 #include "documents/window/preview_window.h"
 #include "documents/window/progress.h"
 #include "documents/window/report_list_window.h"
@@ -125,8 +126,15 @@ std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programm
         neuSchreiben);
 }
 
-Fenster listenfenster(Netz& netz, const Arbeitsverzeichnis& ordner, bool neu,
-                      const std::filesystem::path& umwandlungen) {
+int zeigen(const Fenster& fenster, const std::filesystem::path& dokument) {
+    const OneWindow einzig(dokument, *fenster);
+    fenster->show();
+    QApplication::setQuitOnLastWindowClosed(true);
+    return QApplication::exec();
+}
+
+int listeZeigen(Netz& netz, const Arbeitsverzeichnis& ordner, bool neu,
+                const std::filesystem::path& umwandlungen) {
     const Arbeitsverzeichnis programmordner = netz.unter(ordner);
     Listenstand stand = withProgress(QStringLiteral("Die Liste wird geöffnet …"), nullptr,
                                      [&](const std::stop_token&) {
@@ -134,18 +142,16 @@ Fenster listenfenster(Netz& netz, const Arbeitsverzeichnis& ordner, bool neu,
                                          return ListeBereitstellen(verzeichnis, neu);
                                      });
     stand.Hinweis = verbunden(stand.Hinweis, u" ", netz.Hinweis);
-    return std::make_unique<ReportListWindow>(
+    const std::filesystem::path liste = Listendateien(programmordner, stand).Doc;
+    if (OneWindow::bringToFront(liste))
+        return 0;
+    const Fenster fenster = std::make_unique<ReportListWindow>(
         programmordner, std::move(stand), [umwandlungen](const Dokumentdateien& dateien) {
             auto* druck = new PreviewWindow(nachschauen(dateien, umwandlungen));
             druck->setAttribute(Qt::WA_DeleteOnClose);
             druck->show();
         });
-}
-
-int zeigen(const Fenster& fenster) {
-    fenster->show();
-    QApplication::setQuitOnLastWindowClosed(true);
-    return QApplication::exec();
+    return zeigen(fenster, liste);
 }
 
 // The text of the review lies in a folder of its own, which stays if it is being edited.
@@ -153,6 +159,8 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
                    const std::filesystem::path& umwandlungen) {
     TemporaryFolder texte;
     const Dokumentdateien dateien = mitFortschrittSchreiben(aufruf, texte.path());
+    if (OneWindow::bringToFront(dateien.Doc))
+        return 0;
     if (art == Fensterart::Zeugnisse) {
         std::unique_ptr<PreviewWindow> fenster =
             zeugnisfenster(programmordner, dateien, umwandlungen);
@@ -166,12 +174,12 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
              .Lernen =
                  [&](const Befund& befund) { WoerterLernen(programmordner, befund.Woerter); }});
         const Fenster offen = std::move(fenster);
-        return zeigen(offen);
+        return zeigen(offen, dateien.Doc);
     }
     const Text hinweis = IstAnzeigetext(aufruf) ? AnzeigetextHinweis() : aufgehobenHinweis(dateien);
     const Fenster fenster =
         std::make_unique<PreviewWindow>(nachschauen(dateien, umwandlungen, hinweis));
-    const int ende = zeigen(fenster);
+    const int ende = zeigen(fenster, dateien.Doc);
     if (IstAnzeigetext(aufruf) && WirdBearbeitet(dateien))
         texte.stay();
     return ende;
@@ -186,7 +194,7 @@ int mitFenster(const Aufruf& aufruf) {
     const bool neu = art == Fensterart::ZeugnislisteNeu;
     if (neu || art == Fensterart::Zeugnisliste) {
         Netz netz(verzeichnis.current());
-        return zeigen(listenfenster(netz, verzeichnis, neu, umwandlungen));
+        return listeZeigen(netz, verzeichnis, neu, umwandlungen);
     }
     return dokumentZeigen(verzeichnis, aufruf, art, umwandlungen);
 }

@@ -1,8 +1,12 @@
 #include "toolkit/entry_combo.h"
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 namespace zeugnis {
 namespace {
@@ -21,6 +25,34 @@ void EntryCombo::showPopup() {
         setItemDelegate(new QStyledItemDelegate(this));
     view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
+}
+
+QString EntryCombo::shownText() const {
+    return currentIndex() < 0 ? placeholderText() : currentText();
+}
+
+QString EntryCombo::elidedText() const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    return fontMetrics().elidedText(shownText(), Qt::ElideRight, field.width() - 2);
+}
+
+void EntryCombo::paintEvent(QPaintEvent* /*event*/) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText = elidedText();
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+bool EntryCombo::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || elidedText() == shownText())
+        return QComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shownText(), this);
+    return true;
 }
 
 void EntryCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }

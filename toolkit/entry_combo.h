@@ -4,7 +4,8 @@
 
 namespace zeugnis {
 
-/// A list to open and pick from. Nothing is picked on the way: the wheel scrolls what lies around
+/// A list to open and pick from. A name that does not fit ends in an ellipsis, and the tool tip
+/// tells it whole. Nothing is picked on the way: the wheel scrolls what lies around
 /// it, and a letter opens it at that letter.
 class EntryCombo : public QComboBox {
     Q_OBJECT
@@ -15,8 +16,14 @@ class EntryCombo : public QComboBox {
     void showPopup() override;
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    [[nodiscard]] QString shownText() const;
+    [[nodiscard]] QString elidedText() const;
 };
 
 } // namespace zeugnis

@@ -2,11 +2,16 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QTranslator>
+
+// Resources of a static library are not linked in unless they are asked for, and that outside any
+// namespace.
+static void initResources() { Q_INIT_RESOURCE(toolkit); }
 
 namespace zeugnis::look {
 namespace {
@@ -58,6 +63,8 @@ QPalette palette() {
 } // namespace
 
 void apply(QApplication& application, const QString& ownStyleSheet) {
+    initResources();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
     speakGerman(application);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setFont(

@@ -19,8 +19,8 @@ inline const QColor InkDisabled(0x9A, 0x97, 0x90);
 inline const QColor Danger(0xB3, 0x26, 0x1E); ///< outline and inscription of what deletes
 inline const QColor Accent(0x1F, 0x6F, 0x6B);
 
-/// Style, palette, font and German standard texts for the whole application. `ownStyleSheet` comes
-/// behind the rules that both programs share.
+/// Style, palette, font, icon and German standard texts for the whole application. `ownStyleSheet`
+/// comes behind the rules that both programs share.
 void apply(QApplication& application, const QString& ownStyleSheet);
 
 } // namespace zeugnis::look

@@ -27,12 +27,14 @@ class ChecksPanel : public QWidget {
 
     explicit ChecksPanel(Quelle quelle, QWidget* parent = nullptr);
 
+    /// Looks at the texts anew.
+    void check();
+
   signals:
     void chosen(const Befund& befund);
 
   private:
     QWidget* buttons();
-    void check();
     void show();
     void choose(const QListWidgetItem* item);
     void finish(const std::function<void(const Befund&)>& how);

@@ -222,13 +222,16 @@ void PreviewWindow::changeEvent(QEvent* event) {
         reloadIfChanged();
 }
 
-// Whoever comes back from the word processor expects to see, and print, what was changed there.
+// Whoever comes back from the word processor, or asks for the document once more, expects to see,
+// and print, what has changed.
 void PreviewWindow::reloadIfChanged() {
     if (!m_pages || standVon(m_anzeige.Dateien.Doc) == m_stand)
         return;
     m_stand = standVon(m_anzeige.Dateien.Doc);
     try {
         load();
+        if (m_checks != nullptr)
+            m_checks->check();
     } catch (const Laufzeitfehler& failure) {
         m_hint->setText(qString(failure.sentence()));
         m_hint->show();
@@ -241,7 +244,7 @@ void PreviewWindow::goTo(int row) {
 }
 
 void PreviewWindow::showChecks(const ChecksPanel::Quelle& quelle) {
-    auto* panel = new ChecksPanel(quelle);
+    auto* panel = m_checks = new ChecksPanel(quelle);
     connect(panel, &ChecksPanel::chosen, this, &PreviewWindow::goToFinding);
     m_middle->addWidget(panel);
     resize(WidthWithChecks, WindowHeight);

@@ -69,6 +69,7 @@ class PreviewWindow : public QWidget {
     QLabel* m_hint;
     QLabel* m_position;
     QPushButton* m_edit;
+    ChecksPanel* m_checks = nullptr;
 };
 
 } // namespace zeugnis::dokumente

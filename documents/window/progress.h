@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
 #include <QTimer>
@@ -10,9 +11,9 @@
 namespace zeugnis::dokumente {
 
 /// Runs `work` in a thread of its own and returns what it returns, or fails as it fails. The
-/// windows stay alive meanwhile; after half a second `text` says what is being done. The token that
-/// `work` takes says that the user does not want to wait any longer; it then has to return or fail
-/// soon.
+/// windows stay alive meanwhile; after 150 ms the pointer says so, and after half a second `text`
+/// says what is being done. The token that `work` takes says that the user does not want to wait
+/// any longer; it then has to return or fail soon.
 template <typename Work>
 auto withProgress(const QString& text, QWidget* parent, Work work) {
     std::stop_source abbruch;
@@ -29,7 +30,15 @@ auto withProgress(const QString& text, QWidget* parent, Work work) {
             loop.quit();
     });
     watch.start(20);
+    constexpr int PatientMs = 150;
+    QTimer busy;
+    busy.setSingleShot(true);
+    QObject::connect(&busy, &QTimer::timeout, &loop,
+                     [] { QApplication::setOverrideCursor(Qt::BusyCursor); });
+    busy.start(PatientMs);
     loop.exec();
+    if (!busy.isActive())
+        QApplication::restoreOverrideCursor();
     return result.get();
 }
 

@@ -14,18 +14,11 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr int RowHeight = 25;
-constexpr int HeadHeight = 50;
-constexpr int NarrowestColumn = 76;
 constexpr int NameWidth = 270; // so that all subjects fit beside it on a small screen
 constexpr int GoodColumn = 90;
-constexpr double HeadPoints = 9.5;
-
-void setPoints(QWidget& widget, double points) {
-    QFont font = widget.font();
-    font.setPointSizeF(points);
-    widget.setFont(font);
-}
+constexpr double HeadShare = 0.86; // of the size of the cells
+constexpr int RowPadding = 4;
+constexpr QSize HeadPadding(10, 10);
 
 /// The editor of a cell is as wide as the cell, with its text in the middle.
 class CellDelegate : public QStyledItemDelegate {
@@ -57,23 +50,44 @@ ReportListView::ReportListView(ReportListModel& model, QWidget* parent)
     setCornerButtonEnabled(false);
     setAlternatingRowColors(true);
     setHorizontalScrollMode(ScrollPerPixel);
-    horizontalHeader()->setFixedHeight(HeadHeight);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
         header->setTextElideMode(Qt::ElideRight);
-    horizontalHeader()->setMinimumSectionSize(NarrowestColumn);
-    setPoints(*horizontalHeader(), HeadPoints);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(RowHeight);
     verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(&model, &ReportListModel::refused, this, [this](const QModelIndex& cell) {
         m_wasRefused = true;
         // The view may be on its way to another cell at this moment.
         QTimer::singleShot(0, this, [this, cell = QPersistentModelIndex(cell)] { returnTo(cell); });
     });
-    connect(&model, &QAbstractItemModel::modelReset, this,
-            [this] { setCurrentIndex(m_model.index(0, 0)); });
+    connect(&model, &QAbstractItemModel::modelReset, this, [this] {
+        setCurrentIndex(m_model.index(0, 0));
+        measure();
+    });
+    measure();
     setCurrentIndex(model.index(0, 0));
+}
+
+// Headings may have two lines. None is cut, however large the letters are.
+void ReportListView::measure() {
+    QFont font = this->font();
+    font.setPointSizeF(font.pointSizeF() * HeadShare);
+    horizontalHeader()->setFont(font);
+    const QFontMetrics metrics(font);
+    QSize widest;
+    for (int column = 0; column < m_model.columnCount(); ++column)
+        widest = widest.expandedTo(metrics.size(
+            0, m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()));
+    horizontalHeader()->setFixedHeight(widest.height() + HeadPadding.height());
+    horizontalHeader()->setMinimumSectionSize(widest.width() + HeadPadding.width());
+    verticalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + RowPadding);
+}
+
+void ReportListView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        measure();
 }
 
 void ReportListView::returnTo(const QModelIndex& cell) {

@@ -24,6 +24,7 @@ class ReportListView : public QTableView {
     void cellEntered();
 
   protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
@@ -34,6 +35,7 @@ class ReportListView : public QTableView {
   private:
     [[nodiscard]] QRect block() const; ///< the selected cells: columns and rows
     bool step(int columns, int rows);
+    void measure();
     void returnTo(const QModelIndex& cell);
     bool handleEditorKey(const QKeyEvent& event);
 

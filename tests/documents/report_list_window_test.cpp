@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -115,6 +116,23 @@ TEST_F(ReportListWindowTest, IsFilledInLikeASpreadsheetAndSavesAtOnce) {
     EXPECT_EQ(cells(3), "12 1 .|3 . .|");
     open(false);
     EXPECT_EQ(cells(3), "12 1 .|3 . .|");
+}
+
+TEST_F(ReportListWindowTest, CutsNoHeadingInAnyFont) {
+    for (const double share : {1.0, 1.5, 2.0}) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * share);
+        view->setFont(font);
+        QApplication::processEvents();
+        const QHeaderView& head = *view->horizontalHeader();
+        for (int column = 0; column < view->model()->columnCount(); ++column) {
+            const QString text = view->model()->headerData(column, Qt::Horizontal).toString();
+            const QSize needed = head.fontMetrics().size(0, text);
+            EXPECT_LT(needed.width(), head.sectionSize(column)) << share << text.toStdString();
+            EXPECT_LT(needed.height(), head.height()) << share << text.toStdString();
+        }
+        EXPECT_LT(view->fontMetrics().height(), view->rowHeight(0));
+    }
 }
 
 TEST_F(ReportListWindowTest, RefusesWhatCannotBeAndStaysThere) {

@@ -1,0 +1,37 @@
+#include "documents/window/one_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QWidget>
+
+#include <future>
+#include <optional>
+
+namespace zeugnis::dokumente {
+namespace {
+
+// As another process would, while the windows of this one stay alive.
+bool called(const std::filesystem::path& document) {
+    auto answer =
+        std::async(std::launch::async, [&document] { return OneWindow::bringToFront(document); });
+    while (answer.wait_for(std::chrono::milliseconds(5)) != std::future_status::ready)
+        QCoreApplication::processEvents();
+    return answer.get();
+}
+
+TEST(OneWindow, IsBroughtToTheFrontInsteadOfASecondOne) {
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "Größe Klasse 3a";
+    QWidget window;
+    window.showMinimized();
+    std::optional<OneWindow> open(std::in_place, folder / "3aZeugnisse32.doc", window);
+    EXPECT_TRUE(called(folder / "." / "3aZEUGNISSE32.doc"));
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_FALSE(called(folder / "3aNamensliste.doc"));
+    EXPECT_FALSE(called(folder.parent_path() / "3aZeugnisse32.doc"));
+    open.reset();
+    EXPECT_FALSE(called(folder / "3aZeugnisse32.doc"));
+}
+
+} // namespace
+} // namespace zeugnis::dokumente
