@@ -68,10 +68,11 @@ int run() {
     safety::Guard guard(programFolder);
     guard.thinOutStates();
     Programm program({dialogs, clipboard, calendar, pictures, launcher}, programFolder);
-    program.directory().watchWrites(&guard);
     BildschirmeAnmelden(program);
 
     WindowHost host(program);
+    BusyWrites watcher(host.busyPointer(), guard);
+    program.directory().watchWrites(&watcher);
     dialogs.parent = [&host] { return host.dialogParent(); };
     Net net(host, dialogs, guard, programFolder);
     net.keepFolder(lock);

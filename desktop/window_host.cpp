@@ -38,10 +38,18 @@ void WindowHost::run(const std::function<void()>& action) {
     } catch (const std::exception& failure) {
         reportFailure({Fehlerart::InvalidCall, sentenceOf(failure)});
     }
-    if (--m_depth == 0 && beside.actionEnded)
-        beside.actionEnded();
+    if (--m_depth == 0) {
+        m_busy.rest();
+        if (beside.actionEnded)
+            beside.actionEnded();
+    }
     if (m_program.ended())
         QCoreApplication::exit(0);
+}
+
+void WindowHost::refreshForBox() {
+    refresh();
+    m_busy.rest();
 }
 
 void WindowHost::refresh() {
@@ -85,6 +93,7 @@ void WindowHost::openWindows() {
     for (Screen* screen : m_program.screens()) {
         if (!screen->shown() || m_windows.contains(screen))
             continue;
+        m_busy.work();
         m_windows.emplace(screen, makeWindow(*screen, *this, windowOf(m_program.startScreen())));
     }
 }
@@ -159,6 +168,7 @@ ScreenWindow* WindowHost::windowOf(const Screen* screen) const {
 
 void WindowHost::reportFailure(const Laufzeitfehler& failure) {
     m_failed = true;
+    m_busy.rest();
     emit failed(failure);
     const QString unsaved = beside.unsaved ? beside.unsaved() : QString();
     DialogBox box(qString(Programmtitel),

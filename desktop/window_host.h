@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/program.h"
+#include "desktop/busy_pointer.h"
 
 #include <QObject>
 #include <QPointer>
@@ -28,7 +29,9 @@ class WindowHost : public QObject {
     /// caught here and nowhere else: it is shown, and the program ends with exit code 1.
     void run(const std::function<void()>& action);
 
-    /// Brings the windows up to date; for dialogs, which come up in the middle of an action.
+    /// For dialogs, which come up in the middle of an action: brings the windows up to date, and
+    /// the pointer rests.
+    void refreshForBox();
     void refresh();
 
     /// The focus has come to a control's widget. Only what the user brought about counts: a window
@@ -37,6 +40,7 @@ class WindowHost : public QObject {
     void focusArrived(Control& control, Qt::FocusReason reason);
 
     [[nodiscard]] Programm& program() { return m_program; }
+    [[nodiscard]] BusyPointer& busyPointer() { return m_busy; }
 
     /// The window that dialogs belong to, or null.
     [[nodiscard]] QWidget* dialogParent() const;
@@ -84,6 +88,7 @@ class WindowHost : public QObject {
     void reportFailure(const Laufzeitfehler& failure);
 
     Programm& m_program;
+    BusyPointer m_busy;
     // The window of the start page owns the others.
     std::map<const Screen*, QPointer<ScreenWindow>> m_windows;
     int m_depth = 0;

@@ -32,7 +32,7 @@ Net::Net(WindowHost& host, DesktopDialogs& dialogs, safety::Guard& guard,
             Qt::QueuedConnection);
     };
     dialogs.beforeBox = [this] {
-        m_host.refresh();
+        m_host.refreshForBox();
         m_keeper.questionComes();
     };
     dialogs.afterBox = [this](const Meldung& question, Antwort answer) {

@@ -1,6 +1,7 @@
 #include "tests/desktop/entry_window_test.h"
 
 #include "desktop/dialog_box.h"
+#include "safety/guard.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -62,6 +63,24 @@ TEST_F(WindowHostTest, ShowsAFailureAndEndsWithOne) {
         QTest::mouseClick(button("Alle Texte speichern"), Qt::LeftButton);
     });
     EXPECT_EQ(QCoreApplication::exec(), 1);
+}
+
+TEST_F(WindowHostTest, ThePointerTellsThatFilesAreWrittenAndRestsAfterwards) {
+    struct : safety::Guard {
+        using Guard::Guard;
+        void afterWrite(const std::filesystem::path& file, std::string_view bytes,
+                        bool done) noexcept override {
+            wasBusy = QApplication::overrideCursor() != nullptr;
+            Guard::afterWrite(file, bytes, done);
+        }
+        bool wasBusy = false;
+    } guard(installation.path());
+    BusyWrites watcher(host.busyPointer(), guard);
+    machine.programm.directory().watchWrites(&watcher);
+    QTest::mouseClick(button("Alle Texte speichern"), Qt::LeftButton);
+    EXPECT_TRUE(guard.wasBusy);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    machine.programm.directory().watchWrites(nullptr);
 }
 
 TEST_F(WindowHostTest, EndsWithTheProgram) {

@@ -50,7 +50,7 @@ void WindowHand::start(Programm& program) {
                              m_failure = failure;
                              m_dialogs.expectFailureBox();
                          });
-        m_dialogs.beforeBox = [this] { m_host->refresh(); };
+        m_dialogs.beforeBox = [this] { m_host->refreshForBox(); };
         m_dialogs.DesktopDialogs::parent = [this] { return m_host->dialogParent(); };
     }
     m_host->run([&] { program.show(bildschirme::GsStart); });
