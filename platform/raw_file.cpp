@@ -30,13 +30,23 @@ bool isRegular(int handle) {
     return ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode);
 }
 
+bool isPipe(int handle) {
+    struct stat status {};
+    return ::fstat(handle, &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
 } // namespace
 
 Content read(const std::filesystem::path& path) {
     Content content;
-    const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC); // NOLINT(*-vararg)
+    // A pipe would keep whoever opens it waiting for somebody to write.
+    const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); // NOLINT(*-vararg)
     if (handle < 0)
         return {{}, errno};
+    if (isPipe(handle)) {
+        ::close(handle);
+        return {{}, ENXIO};
+    }
     std::array<char, 16384> block{};
     while (true) {
         const ssize_t count = ::read(handle, block.data(), block.size());
@@ -54,7 +64,7 @@ Content read(const std::filesystem::path& path) {
 
 Opened openForWriting(const std::filesystem::path& path) {
     Opened opened;
-    opened.handle = ::open(path.c_str(), O_WRONLY | O_CLOEXEC); // NOLINT(*-vararg)
+    opened.handle = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK); // NOLINT(*-vararg)
     if (opened.handle < 0 && errno == ENOENT) {
         opened.handle = // NOLINTNEXTLINE(*-vararg)
             ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, NewFileMode);

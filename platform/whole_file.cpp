@@ -50,6 +50,8 @@ Cause causeOf(int error) {
         return {Fehlerart::DiskFull, u"Auf dem Datenträger ist kein Platz mehr frei."};
     case EISDIR:
         return {Fehlerart::AccessDenied, u"Unter diesem Namen liegt ein Ordner."};
+    case ENXIO:
+        return {Fehlerart::AccessDenied, u"Unter diesem Namen liegt etwas anderes als eine Datei."};
     case EROFS:
         return {Fehlerart::AccessDenied, u"Der Datenträger ist schreibgeschützt."};
     case EACCES:

@@ -4,8 +4,10 @@
 #include "platform/path_text.h"
 #include "platform/write_watcher.h"
 
+#include <algorithm>
 #include <optional>
 #include <system_error>
+#include <unicode/unorm2.h>
 #include <vector>
 
 namespace zeugnis {
@@ -22,6 +24,22 @@ std::vector<Text> components(TextView name) {
         name.remove_prefix(end == TextView::npos ? name.size() : end + 1);
     }
     return parts;
+}
+
+// Some disks and copying tools tell an umlaut as a letter and its dots.
+Text composed(TextView name) {
+    if (std::all_of(name.begin(), name.end(), [](char16_t unit) { return unit < 0x80; }))
+        return Text(name);
+    UErrorCode error = U_ZERO_ERROR;
+    const UNormalizer2* form = unorm2_getNFCInstance(&error);
+    Text result(name.size() * 3, u'\0');
+    const int32_t length =
+        unorm2_normalize(form, name.data(), static_cast<int32_t>(name.size()), result.data(),
+                         static_cast<int32_t>(result.size()), &error);
+    if (U_FAILURE(error) != 0)
+        return Text(name);
+    result.resize(static_cast<size_t>(length));
+    return result;
 }
 
 struct Entry {
@@ -44,7 +62,7 @@ Entry entryIn(const fs::path& folder, TextView name) {
         return {.sure = false};
     fs::directory_iterator entry(folder, failed);
     for (const fs::directory_iterator end; !failed && entry != end; entry.increment(failed)) {
-        if (sameIgnoringCase(textFromPath(entry->path().filename()), name))
+        if (sameIgnoringCase(composed(textFromPath(entry->path().filename())), composed(name)))
             return {entry->path()};
     }
     return {.sure = isMissing(failed)};

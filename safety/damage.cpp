@@ -20,6 +20,9 @@ namespace zeugnis::safety {
 namespace fs = std::filesystem;
 namespace {
 
+// 36 children with long texts in all sections need a fifth of it.
+constexpr std::uintmax_t LargestFile = 5'000'000;
+
 // Whatever its case; as it is written if it is not there.
 fs::path resolved(const Paths& paths, TextView name) {
     try {
@@ -98,6 +101,8 @@ class Examination {
         // Reading anything else may never end.
         if (!file || (fs::exists(*file, ignored) && !fs::is_regular_file(*file, ignored)))
             return finding(name, {.kind = Damage::Unreadable}, {}, m_latest.of(name));
+        if (const auto size = fs::file_size(*file, ignored); !ignored && size > LargestFile)
+            return finding(name, {.kind = Damage::TooLarge}, {}, m_latest.of(name));
         const raw::Content held = raw::read(*file);
         const std::optional<std::string> kept = m_latest.of(name);
         if (held.error == ENOENT)

@@ -11,6 +11,7 @@ namespace zeugnis::safety {
 enum class Damage {
     Missing,
     Unreadable,
+    TooLarge, ///< no program of ours writes so much; it has not been read
     Empty,
     Cut,           ///< it breaks off within a record
     FewerRecords,  ///< than there are children

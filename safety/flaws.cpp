@@ -171,6 +171,12 @@ void describe(Finding& finding, const Flaw& flaw, size_t pupils) {
         finding.consequence =
             u"Das Programm würde mit einer Fehlermeldung enden, sobald es sie lesen will.";
         break;
+    case Damage::TooLarge:
+        finding.sentence = file + u"ist größer als alles, was das Programm je hineinschreibt.";
+        finding.consequence =
+            u"Das Öffnen würde sehr lange dauern, und das Programm würde mit einer "
+            u"Fehlermeldung enden.";
+        break;
     case Damage::Empty:
         finding.sentence = file + u"ist leer.";
         finding.consequence = lossSentence(finding.file);

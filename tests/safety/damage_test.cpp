@@ -60,6 +60,12 @@ TEST_F(DamageTest, IsNamedWithFileRecordAndField) {
     const std::string utf8 = utf8FromText(Saved);
     const std::vector<Case> cases = {
         {"empty", {}, Damage::Empty, 0, {}, "„Daten\\AVSVspeicher.txt“ ist leer."},
+        {"too large",
+         Text(6'000'000, u'x'),
+         Damage::TooLarge,
+         0,
+         {},
+         "größer als alles, was das Programm je hineinschreibt"},
         {"cut in a text", Saved.substr(0, Saved.find(u"hilft")), Damage::Cut, 2, u"Sozialverhalten",
          "bricht mittendrin ab: in Datensatz 2 (Bäcker, Lena), Feld „Sozialverhalten“."},
         {"cut behind a field", Saved.substr(0, Saved.find(u",\"Lena hilft")), Damage::Cut, 2,
