@@ -1,11 +1,15 @@
 // Plays a few steps on the real windows and takes pictures of them, for the help texts:
 //   click SCREEN.CONTROL | select SCREEN.CONTROL ENTRY | picture SCREEN FILE
+//   type SCREEN.CONTROL TEXT | offers FILE | states FILE
 // All questions are answered with Yes.
 
 #include "common/screen_names.h"
 #include "controls/list_controls.h"
+#include "controls/text_box.h"
 #include "controls/user_actions.h"
 #include "desktop/desktop_machine.h"
+#include "desktop/rescue/former_states_window.h"
+#include "desktop/rescue/offer_window.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "platform/failure.h"
@@ -54,21 +58,54 @@ Control& controlNamed(const Programm& program, const Text& name) {
     return *control;
 }
 
+void save(QWidget& window, const std::string& file) {
+    if (!window.grab()
+             .toImage()
+             .scaledToWidth(PictureWidth, Qt::SmoothTransformation)
+             .convertToFormat(QImage::Format_RGB888)
+             .save(QString::fromStdString(file), "PNG", 0))
+        throw std::runtime_error("no picture in " + file);
+}
+
 void takePicture(const Programm& program, const Text& name, const std::string& file) {
     const Screen* screen = program.find(name);
     for (QWidget* window : QApplication::topLevelWidgets())
         if (screen != nullptr && window->isVisible() &&
             window->windowTitle() == qString(screen->Title))
-            if (window->grab()
-                    .toImage()
-                    .scaledToWidth(PictureWidth, Qt::SmoothTransformation)
-                    .convertToFormat(QImage::Format_RGB888)
-                    .save(QString::fromStdString(file), "PNG", 0))
-                return;
+            return save(*window, file);
     throw std::runtime_error("no picture of " + utf8FromText(name));
 }
 
-void play(WindowHost& host, const std::string& line) {
+// The windows of the net, as the next start and the tools show them.
+struct BelowTheFiles {
+    BelowTheFiles(Programm& running, WindowHost& windows)
+        : program(running), host(windows), guard(std::filesystem::current_path()) {
+        program.directory().watchWrites(&guard);
+        host.beside.actionEnded = [this] { keeper.actionEnded(); };
+    }
+
+    void take(const std::string& which, const std::string& file) {
+        keeper.setDown();
+        rescue::TypedKeeper next(program, std::filesystem::current_path(),
+                                 [] { return safety::now() + std::chrono::minutes(1); });
+        rescue::FormerStates states(program, guard, std::filesystem::current_path());
+        OfferWindow offers(rescue::OfferList(next.store(), safety::now()), next, host, {}, nullptr);
+        offers.setAttribute(Qt::WA_DeleteOnClose, false);
+        FormerStatesWindow former(states, {}, nullptr);
+        QWidget& window = which == "offers" ? static_cast<QWidget&>(offers) : former;
+        window.resize(PictureWidth, PictureWidth * 5 / 9);
+        window.show();
+        settle();
+        save(window, file);
+    }
+
+    Programm& program;
+    WindowHost& host;
+    safety::Guard guard;
+    rescue::TypedKeeper keeper{program, std::filesystem::current_path()};
+};
+
+void play(WindowHost& host, BelowTheFiles& net, const std::string& line) {
     std::istringstream words(line);
     std::string command;
     std::string name;
@@ -79,9 +116,20 @@ void play(WindowHost& host, const std::string& line) {
         takePicture(program, textFromUtf8(name), rest);
         return;
     }
+    if (command == "offers" || command == "states") {
+        net.take(command, name);
+        return;
+    }
     Control& control = controlNamed(program, textFromUtf8(name));
     bool reached = false;
     host.run([&] {
+        if (command == "type") {
+            std::string more;
+            std::getline(words, more);
+            reached = user::click(control) &&
+                      user::paste(dynamic_cast<TextBox&>(control), textFromUtf8(rest + more));
+            return;
+        }
         reached = command == "select"
                       ? user::pick(dynamic_cast<ListControl&>(control), std::stoi(rest))
                       : user::click(control);
@@ -105,12 +153,13 @@ int main(int argc, char** argv) {
                      std::filesystem::current_path());
     BildschirmeAnmelden(program);
     WindowHost host(program);
+    BelowTheFiles net(program, host);
     host.run([&] { program.show(bildschirme::GsStart); });
     settle();
     try {
         for (std::string line; std::getline(std::cin, line);)
             if (!line.empty() && line.front() != '#')
-                play(host, line);
+                play(host, net, line);
     } catch (const std::exception& failure) {
         std::cerr << failure.what() << '\n';
         return 1;

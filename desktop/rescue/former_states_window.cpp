@@ -26,8 +26,9 @@ std::optional<size_t> indexOf(const QTreeWidgetItem* item) {
 
 } // namespace
 
-FormerStatesWindow::FormerStatesWindow(rescue::FormerStates& states, QWidget* owner)
-    : QDialog(owner), m_states(states) {
+FormerStatesWindow::FormerStatesWindow(rescue::FormerStates& states, std::function<void()> help,
+                                       QWidget* owner)
+    : QDialog(owner), m_states(states), m_help(std::move(help)) {
     setWindowTitle(tr("Frühere Stände"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(18, 16, 18, 14);
@@ -68,19 +69,22 @@ QLayout* FormerStatesWindow::ways() {
     const auto button = [&](const QString& text, auto action) {
         auto* made = new QPushButton(text, this);
         made->setAutoDefault(false);
+        // The style's least width cuts longer words off.
+        made->setMinimumWidth(made->sizeHint().width());
         connect(made, &QPushButton::clicked, this, action);
         row->addWidget(made);
         return made;
     };
-    m_all = button(tr("&Alles von damals zurückholen"), [this] {
+    row->addWidget(new QLabel(tr("Zurückholen:"), this));
+    m_all = button(tr("&Alles von damals"), [this] {
         bring([this] { return m_states.bringBackAll(); }, tr("Alles ist wieder wie damals."));
     });
-    m_pupil = button(tr("Nur dieses K&ind"), [this] {
+    m_pupil = button(tr("Dieses K&ind"), [this] {
         const QString pupil = chosenPupil();
         bring([&] { return m_states.bringBackPupil(fromQString(pupil)); },
               tr("Die Texte von %1 sind wieder wie damals.").arg(pupil));
     });
-    m_text = button(tr("Nur diesen &Text"), [this] {
+    m_text = button(tr("Diesen &Text"), [this] {
         const std::optional<size_t> index = indexOf(m_differences->currentItem());
         bring([&] { return index && m_states.bringBackText(*index); },
               tr("Der Text ist wieder wie damals."));
@@ -90,6 +94,7 @@ QLayout* FormerStatesWindow::ways() {
         m_told->setText(tr("Der frühere Text ist kopiert. Mit Strg+V setzen Sie ihn ein."));
     });
     row->addStretch();
+    button(tr("&Hilfe"), [this] { m_help(); });
     button(tr("S&chließen"), [this] { accept(); });
     return row;
 }

@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QLabel;
 class QPushButton;
 
@@ -17,7 +19,8 @@ class FormerStatesWindow : public QDialog {
     Q_OBJECT
 
   public:
-    FormerStatesWindow(rescue::FormerStates& states, QWidget* owner);
+    /// `help` opens the help text.
+    FormerStatesWindow(rescue::FormerStates& states, std::function<void()> help, QWidget* owner);
 
   private:
     QWidget* lists();
@@ -31,6 +34,7 @@ class FormerStatesWindow : public QDialog {
     [[nodiscard]] QString chosenPupil() const;
 
     rescue::FormerStates& m_states;
+    std::function<void()> m_help;
     WrappedTree* m_actions;
     WrappedTree* m_differences;
     ComparePane* m_texts;

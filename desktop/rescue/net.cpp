@@ -1,5 +1,6 @@
 #include "desktop/rescue/net.h"
 
+#include "common/word_launch.h"
 #include "desktop/desktop_machine.h"
 #include "desktop/rescue/choice_box.h"
 #include "desktop/rescue/former_states_window.h"
@@ -83,7 +84,8 @@ void Net::offerTyped() {
     rescue::OfferList offers(m_keeper.store(), safety::now());
     if (offers.texts().empty())
         return;
-    auto* window = new OfferWindow(std::move(offers), m_keeper, m_host, m_host.dialogParent());
+    auto* window = new OfferWindow(
+        std::move(offers), m_keeper, m_host, [this] { showHelp(); }, m_host.dialogParent());
     window->show();
     window->raise();
     window->activateWindow();
@@ -148,8 +150,14 @@ void Net::makeFolders() const {
         fs::create_directory(data / "Sicherheit", failed);
 }
 
+void Net::showHelp() {
+    constexpr int WayBack = 14;
+    m_host.run([this] { WordStarten(m_host.program(), word::Hilfe(WayBack)); });
+}
+
 void Net::showFormerStates() {
-    FormerStatesWindow window(m_states, m_host.dialogParent());
+    FormerStatesWindow window(
+        m_states, [this] { showHelp(); }, m_host.dialogParent());
     window.exec();
 }
 

@@ -36,6 +36,7 @@ class Net : public QObject {
     bool mayWrite(Control& control);
     bool mayAddPupil(const Control& control);
     void makeFolders() const;
+    void showHelp();
     void showFormerStates();
 
     /// So that with the time of writing it is less than two seconds.

@@ -23,8 +23,12 @@ constexpr int IndexRole = Qt::UserRole;
 } // namespace
 
 OfferWindow::OfferWindow(rescue::OfferList offers, rescue::TypedKeeper& keeper, WindowHost& host,
-                         QWidget* owner)
-    : QDialog(owner), m_offers(std::move(offers)), m_keeper(keeper), m_host(host) {
+                         std::function<void()> help, QWidget* owner)
+    : QDialog(owner),
+      m_offers(std::move(offers)),
+      m_keeper(keeper),
+      m_host(host),
+      m_help(std::move(help)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Noch nicht gespeicherte Texte"));
     auto* column = new QVBoxLayout(this);
@@ -55,14 +59,16 @@ OfferWindow::OfferWindow(rescue::OfferList offers, rescue::TypedKeeper& keeper, 
     const auto button = [&](const QString& text, auto action) {
         auto* made = new QPushButton(text, this);
         made->setAutoDefault(false);
+        made->setMinimumWidth(made->sizeHint().width());
         connect(made, &QPushButton::clicked, this, action);
         buttons->addWidget(made);
         return made;
     };
-    m_take = button(tr("In den Text ü&bernehmen"), [this] { take(); });
+    m_take = button(tr("Ü&bernehmen"), [this] { take(); });
     m_copy = button(tr("&Kopieren"), [this] { copy(); });
     m_refuse = button(tr("&Nicht übernehmen"), [this] { refuse(); });
     buttons->addStretch();
+    button(tr("&Hilfe"), [this] { m_help(); });
     button(tr("A&lle verwerfen …"), [this] { refuseAll(); });
     button(tr("&Später"), [this] { close(); });
     column->addLayout(buttons);

@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QLabel;
 class QPushButton;
 
@@ -20,8 +22,9 @@ class OfferWindow : public QDialog {
     Q_OBJECT
 
   public:
+    /// `help` opens the help text.
     OfferWindow(rescue::OfferList offers, rescue::TypedKeeper& keeper, WindowHost& host,
-                QWidget* owner);
+                std::function<void()> help, QWidget* owner);
 
   private:
     void showList();
@@ -36,6 +39,7 @@ class OfferWindow : public QDialog {
     rescue::OfferList m_offers;
     rescue::TypedKeeper& m_keeper;
     WindowHost& m_host;
+    std::function<void()> m_help;
     WrappedTree* m_list;
     ComparePane* m_texts;
     QLabel* m_told;
