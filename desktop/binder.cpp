@@ -57,13 +57,17 @@ QString shownLines(TextView caption) {
 // The ground of a label, as a rounded patch.
 void tint(QLabel& label, Farbwert colour) {
     const QColor ground = theme::fromFarbwert(colour, QColor());
-    const QString sheet = ground.isValid()
-                              ? QStringLiteral("QLabel { background: %1; border-radius: %2px }"
-                                               "QLabel:disabled { background: %3 }")
-                                    .arg(ground.name())
-                                    .arg(theme::Radius)
-                                    .arg(ground.lighter(130).name())
-                              : QString();
+    const QColor border = theme::tinted(ground, ground).Border;
+    const QString sheet =
+        border.isValid() ? QStringLiteral("QLabel { border: 3px solid %1; border-radius: %2px }")
+                               .arg(border.name())
+                               .arg(theme::Radius)
+        : ground.isValid() ? QStringLiteral("QLabel { background: %1; border-radius: %2px }"
+                                            "QLabel:disabled { background: %3 }")
+                                 .arg(ground.name())
+                                 .arg(theme::Radius)
+                                 .arg(ground.lighter(130).name())
+                           : QString();
     if (label.styleSheet() != sheet)
         label.setStyleSheet(sheet);
 }
@@ -83,8 +87,13 @@ void showEntries(QListWidget& list, const QStringList& entries) {
 }
 
 // A style sheet rules the editor's border, so the ground behind its text has to be told there too.
-void tint(QPlainTextEdit& editor, const QColor& colour) {
-    const QString sheet = QStringLiteral("QPlainTextEdit { background: %1 }").arg(colour.name());
+void tint(QPlainTextEdit& editor, Farbwert colour) {
+    const theme::Tinted tinted =
+        theme::tinted(theme::fromFarbwert(colour, QColor()), theme::colours().Surface);
+    QString sheet = QStringLiteral("QPlainTextEdit { background: %1 }").arg(tinted.Ground.name());
+    if (tinted.Border.isValid())
+        sheet +=
+            QStringLiteral("QPlainTextEdit { border: 3px solid %1 }").arg(tinted.Border.name());
     if (editor.styleSheet() != sheet)
         editor.setStyleSheet(sheet);
 }
@@ -219,7 +228,10 @@ QFrame* Binder::frame(Frame& control) {
     forwardClicks(control, *widget);
     add(control, *widget, [&control, widget] {
         QPalette palette = widget->palette();
-        palette.setColor(QPalette::Window, theme::fromFarbwert(control.BackColor, theme::Surface));
+        palette.setColor(QPalette::Window,
+                         theme::tinted(theme::fromFarbwert(control.BackColor, QColor()),
+                                       theme::colours().Surface)
+                             .Ground);
         widget->setPalette(palette);
         widget->setAccessibleName(qString(control.Caption));
     });
@@ -266,7 +278,7 @@ TextEditor* Binder::editor(TextBox& control, const QString& name, TextEditor::Li
     add(control, *widget, [&control, widget, tinted] {
         widget->refresh();
         if (tinted)
-            tint(*widget, theme::fromFarbwert(control.BackColor, theme::Surface));
+            tint(*widget, control.BackColor);
     });
     return widget;
 }

@@ -122,7 +122,7 @@ void ChoiceRow::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 void ChoiceRow::paintMark(QPainter& painter, const QColor& ink) const {
     const QRectF mark(Padding, (height() - MarkSize) / 2.0, MarkSize, MarkSize);
     painter.setPen(QPen(ink, 1.5));
-    painter.setBrush(isEnabled() ? QColor(Qt::white) : theme::Background);
+    painter.setBrush(isEnabled() ? theme::colours().Surface : theme::colours().Background);
     if (m_mark == Mark::Option) {
         painter.drawEllipse(mark.adjusted(1, 1, -1, -1));
         if (isChecked()) {
@@ -145,19 +145,21 @@ void ChoiceRow::paintMark(QPainter& painter, const QColor& ink) const {
 // A picture has no ground that could tell the choice, so its outline does.
 QColor ChoiceRow::outlineOf(const QColor& fill) const {
     if (isChecked() && (m_tint.isValid() || !m_picture.isNull()))
-        return theme::Ink;
-    return isEnabled() && underMouse() ? theme::OutlineStrong : fill;
+        return theme::colours().Ink;
+    return isEnabled() && underMouse() ? theme::colours().OutlineStrong : fill;
 }
 
 void ChoiceRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QColor ink = isEnabled() ? theme::Ink : theme::InkResting;
-    QColor fill = m_tint.isValid() ? m_tint : QColor(Qt::transparent);
-    if (!isEnabled() && m_tint.isValid())
-        fill.setAlpha(110);
-    theme::paintSurface(painter, rect().adjusted(0, 1, 0, -1), fill, outlineOf(fill), hasFocus());
+    const QColor ink = isEnabled() ? theme::colours().Ink : theme::colours().InkResting;
+    theme::Tinted tinted = theme::tinted(m_tint, QColor(Qt::transparent));
+    for (QColor* colour : {&tinted.Ground, &tinted.Border})
+        if (!isEnabled() && colour->alpha() == 255)
+            colour->setAlpha(110);
+    theme::paintTinted(painter, rect().adjusted(0, 1, 0, -1), tinted, outlineOf(tinted.Ground),
+                       hasFocus());
     paintMark(painter, ink);
-    painter.setPen(theme::InkFaint);
+    painter.setPen(theme::colours().InkFaint);
     const QRect area = textArea(width(), height());
     if (!m_keyHint.isEmpty())
         painter.drawText(QRect(area.left() - HintWidth, area.top(), HintWidth, area.height()),

@@ -27,7 +27,7 @@ Sign signOf(Symbol symbol) {
     case Symbol::Ausrufezeichen:
         return {QStringLiteral("!"), QColor(0xC7, 0x7A, 0x00)};
     case Symbol::Frage:
-        return {QStringLiteral("?"), theme::Accent};
+        return {QStringLiteral("?"), theme::colours().Accent};
     case Symbol::Stopp:
         return {QStringLiteral("×"), QColor(0xB3, 0x26, 0x1E)};
     case Symbol::Keins:

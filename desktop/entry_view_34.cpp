@@ -50,7 +50,7 @@ QLabel* readOn() {
     auto* arrow = new QLabel(QStringLiteral("›"));
     arrow->setFont(theme::scaledFont(1.6));
     QPalette palette;
-    palette.setColor(QPalette::WindowText, theme::OutlineStrong);
+    palette.setColor(QPalette::WindowText, theme::colours().OutlineStrong);
     arrow->setPalette(palette);
     spoken::silence(*arrow);
     return arrow;

@@ -33,7 +33,7 @@ QFrame* area(const QString& name, QWidget* parent) {
 QLabel* faintLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setFont(theme::scaledFont(0.88));
-    label->setStyleSheet(QStringLiteral("color: %1").arg(theme::InkFaint.name()));
+    label->setStyleSheet(QStringLiteral("color: %1").arg(theme::colours().InkFaint.name()));
     return label;
 }
 

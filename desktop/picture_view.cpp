@@ -20,7 +20,7 @@ void PictureView::setPixmap(const QPixmap& pixmap) {
 void PictureView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (hasFocus())
-        theme::paintSurface(painter, rect(), Qt::transparent, theme::Accent, true);
+        theme::paintSurface(painter, rect(), Qt::transparent, theme::colours().Accent, true);
     if (m_pixmap.isNull())
         return;
     painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);

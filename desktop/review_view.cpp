@@ -26,11 +26,11 @@ class ReviewHeadings : public QSyntaxHighlighter {
         const bool rule = line.startsWith(QStringLiteral("____"));
         if (previousBlockState() == 1 && !line.isEmpty()) {
             format.setFontWeight(QFont::Bold);
-            format.setForeground(theme::Accent);
+            format.setForeground(theme::colours().Accent);
         } else if (m_headings.contains(line)) {
             format.setFontWeight(QFont::DemiBold);
         } else if (rule) {
-            format.setForeground(theme::Outline);
+            format.setForeground(theme::colours().Outline);
         }
         setFormat(0, static_cast<int>(line.size()), format);
         setCurrentBlockState(rule ? 1 : 0);

@@ -44,7 +44,8 @@ QWidget* StartView::sidePanel() {
     panel->setFixedWidth(312);
     panel->setAutoFillBackground(true);
     QPalette palette = panel->palette();
-    palette.setColor(QPalette::Window, QColor(0xE8, 0xEF, 0xEC));
+    palette.setColor(QPalette::Window, theme::colours().HighContrast ? theme::colours().Background
+                                                                     : QColor(0xE8, 0xEF, 0xEC));
     panel->setPalette(palette);
 
     auto* layout = new QVBoxLayout(panel);

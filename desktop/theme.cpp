@@ -1,6 +1,7 @@
 #include "desktop/theme.h"
 
 #include "desktop/spoken.h"
+#include "toolkit/high_contrast.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -55,10 +56,10 @@ QDialog QPushButton:hover { background: #EAF3F2; }
 
 } // namespace
 
-void apply(QApplication& application) {
+void apply(QApplication& application, const QPalette& system) {
     initResources();
     spoken::install();
-    look::apply(application, QString::fromLatin1(StyleSheet));
+    look::apply(application, QString::fromLatin1(StyleSheet), system);
 }
 
 QFont scaledFont(double factor, QFont::Weight weight) {
@@ -76,17 +77,27 @@ QColor fromFarbwert(Farbwert value, const QColor& plain) {
     return value == Fensterfarbe ? plain : unpacked(value);
 }
 
+Tinted tinted(const QColor& tint, const QColor& plain) {
+    if (!colours().HighContrast)
+        return {tint.isValid() ? tint : plain, QColor()};
+    QColor border = tint;
+    while (border.isValid() && border.value() > 0 &&
+           look::contrast(border, colours().Surface) < 3.0)
+        border = border.darker(115);
+    return {plain, border};
+}
+
 QColor inkOn(const QColor& background) {
     const double light =
         0.299 * background.redF() + 0.587 * background.greenF() + 0.114 * background.blueF();
-    return light < 0.5 ? QColor(Qt::white) : Ink;
+    return light < 0.5 ? QColor(Qt::white) : theme::colours().Ink;
 }
 
 void paintSurface(QPainter& painter, const QRect& area, const QColor& fill, const QColor& outline,
                   bool focused) {
     painter.setRenderHint(QPainter::Antialiasing);
     const double width = focused ? 2.0 : 1.0;
-    painter.setPen(QPen(focused ? Accent : outline, width));
+    painter.setPen(QPen(focused ? colours().Accent : outline, width));
     painter.setBrush(fill);
     const double inset = width / 2;
     painter.drawRoundedRect(QRectF(area).adjusted(inset, inset, -inset, -inset), Radius, Radius);
@@ -95,7 +106,20 @@ void paintSurface(QPainter& painter, const QRect& area, const QColor& fill, cons
     // So that the ring is seen on any colour.
     constexpr double Halo = 1.5;
     const double inner = width + Halo / 2;
-    painter.setPen(QPen(Qt::white, Halo));
+    painter.setPen(QPen(colours().Surface, Halo));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(area).adjusted(inner, inner, -inner, -inner), Radius - 2,
+                            Radius - 2);
+}
+
+void paintTinted(QPainter& painter, const QRect& area, const Tinted& tinted, const QColor& outline,
+                 bool focused) {
+    paintSurface(painter, area, tinted.Ground, outline, focused);
+    if (!tinted.Border.isValid())
+        return;
+    constexpr double Width = 3.0;
+    const double inner = (focused ? 3.5 : 1.0) + Width / 2;
+    painter.setPen(QPen(tinted.Border, Width));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(area).adjusted(inner, inner, -inner, -inner), Radius - 2,
                             Radius - 2);

@@ -139,8 +139,8 @@ void TintedButton::paintBadge(QPainter& painter) const {
     painter.setFont(theme::scaledFont(0.82, QFont::Bold));
     const int size = painter.fontMetrics().height() + 1;
     const QRect place(width() - size - 6, (height() - size) / 2, size, size);
-    painter.setPen(QPen(theme::Ink, 1.2));
-    painter.setBrush(Qt::white);
+    painter.setPen(QPen(theme::colours().Ink, 1.2));
+    painter.setBrush(theme::colours().Surface);
     painter.drawEllipse(place);
     painter.drawText(place, Qt::AlignCenter, *m_badge);
     painter.restore();
@@ -148,30 +148,33 @@ void TintedButton::paintBadge(QPainter& painter) const {
 
 void TintedButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    QColor fill = m_tint.isValid() ? m_tint : theme::Surface;
+    theme::Tinted tinted = theme::tinted(m_tint, theme::colours().Surface);
+    QColor& fill = tinted.Ground;
     QColor ink = theme::inkOn(fill);
-    QColor outline = theme::OutlineStrong;
+    QColor outline = theme::colours().OutlineStrong;
     if (m_role == Role::Danger)
-        ink = outline = theme::Danger;
+        ink = outline = theme::colours().Danger;
     if (!isEnabled()) {
-        fill = m_tint.isValid() ? m_tint.lighter(104) : theme::Background;
+        fill = m_tint.isValid() ? fill.lighter(104) : theme::colours().Background;
         fill.setAlpha(140);
-        ink = theme::InkDisabled;
-        outline = theme::Outline;
+        tinted.Border = QColor();
+        ink = theme::colours().InkDisabled;
+        outline = theme::colours().Outline;
     } else if (isDown()) {
         fill = fill.darker(112);
     } else if (underMouse()) {
         fill = fill.darker(105);
     }
-    theme::paintSurface(painter, rect(), fill, outline, hasFocus());
+    theme::paintTinted(painter, rect(), tinted, outline, hasFocus());
     if (m_marked.value_or(false)) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(theme::Ink);
+        painter.setBrush(theme::colours().Ink);
         painter.drawRoundedRect(QRectF(4, 7, 5, height() - 14), 2, 2);
     }
     if (m_content != Content::Unknown) {
         painter.setPen(QPen(ink, 1.4));
-        painter.setBrush(m_content == Content::Filled ? QBrush(ink) : QBrush(Qt::white));
+        painter.setBrush(m_content == Content::Filled ? QBrush(ink)
+                                                      : QBrush(theme::colours().Surface));
         painter.drawEllipse(QRectF(width() - 14, height() - 14, 8, 8));
     }
     if (m_badge && !m_badge->isEmpty())

@@ -1,5 +1,7 @@
 #include "toolkit/look.h"
 
+#include "toolkit/high_contrast.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
@@ -45,24 +47,34 @@ void speakGerman(QApplication& application) {
         QApplication::installTranslator(german);
 }
 
-QPalette palette() {
+QPalette palette(const Colours& colours) {
     QPalette palette;
-    palette.setColor(QPalette::Window, Background);
-    palette.setColor(QPalette::Base, Surface);
-    palette.setColor(QPalette::Button, Surface);
-    palette.setColor(QPalette::Highlight, Accent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Window, colours.Background);
+    for (const auto role : {QPalette::Base, QPalette::AlternateBase, QPalette::Button})
+        palette.setColor(role, colours.Surface);
+    palette.setColor(QPalette::Highlight, colours.Highlight);
+    palette.setColor(QPalette::HighlightedText, colours.HighlightedText);
+    palette.setColor(QPalette::PlaceholderText, colours.InkFaint);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, Ink);
+        palette.setColor(role, colours.Ink);
         palette.setColor(QPalette::Disabled, role,
-                         role == QPalette::ButtonText ? InkDisabled : InkResting);
+                         role == QPalette::ButtonText ? colours.InkDisabled : colours.InkResting);
     }
     return palette;
 }
 
+Colours& chosen() {
+    static Colours colours;
+    return colours;
+}
+
 } // namespace
 
-void apply(QApplication& application, const QString& ownStyleSheet) {
+const Colours& colours() { return chosen(); }
+
+void apply(QApplication& application, const QString& ownStyleSheet, const QPalette& system) {
+    const std::optional<Colours> highContrast = highContrastOf(system);
+    chosen() = highContrast.value_or(Colours());
     initResources();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
     speakGerman(application);
@@ -71,8 +83,9 @@ void apply(QApplication& application, const QString& ownStyleSheet) {
         QFont(QStringList{QStringLiteral("Open Sans"), QStringLiteral("Segoe UI"),
                           QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")},
               FontPointSize));
-    QApplication::setPalette(palette());
-    application.setStyleSheet(QString::fromLatin1(SharedStyleSheet) + ownStyleSheet);
+    QApplication::setPalette(palette(colours()));
+    const QString sheet = QString::fromLatin1(SharedStyleSheet) + ownStyleSheet;
+    application.setStyleSheet(highContrast ? inHighContrast(sheet, *highContrast) : sheet);
 }
 
 } // namespace zeugnis::look

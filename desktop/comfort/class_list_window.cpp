@@ -184,7 +184,7 @@ void ClassListWindow::showLine(int row) {
         item->setFlags(flags);
         item->setToolTip(text);
         if (!line.Grund.empty())
-            item->setForeground(theme::Danger);
+            item->setForeground(theme::colours().Danger);
         m_table->setItem(row, column, item);
     };
     const Qt::ItemFlags readOnly = Qt::ItemIsEnabled | Qt::ItemIsSelectable;

@@ -20,17 +20,17 @@ constexpr int Gap = 5;
 
 // Empty is a ring, a text is a full circle, a hint a full triangle: told without colours too.
 void paintMark(QPainter& painter, const QRectF& place, Seitenstand state) {
-    painter.setPen(QPen(theme::InkResting, 1.4));
+    painter.setPen(QPen(theme::colours().InkResting, 1.4));
     painter.setBrush(Qt::NoBrush);
     if (state == Seitenstand::MitHinweis) {
-        painter.setBrush(theme::Danger);
+        painter.setBrush(theme::colours().Danger);
         painter.setPen(Qt::NoPen);
         painter.drawPolygon(QPolygonF(
             {place.bottomLeft(), place.bottomRight(), {place.center().x(), place.top()}}));
         return;
     }
     if (state == Seitenstand::MitText)
-        painter.setBrush(theme::Accent);
+        painter.setBrush(theme::colours().Accent);
     painter.drawEllipse(place.adjusted(0.7, 0.7, -0.7, -0.7));
 }
 
@@ -77,7 +77,8 @@ void RailRow::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool chosen = option.state.testFlag(QStyle::State_Selected);
     if (chosen || option.state.testFlag(QStyle::State_HasFocus))
         theme::paintSurface(*painter, option.rect.adjusted(1, 1, -1, -1),
-                            chosen ? theme::Surface : theme::Background, theme::OutlineStrong,
+                            chosen ? theme::colours().Surface : theme::colours().Background,
+                            theme::colours().OutlineStrong,
                             option.state.testFlag(QStyle::State_HasFocus));
     const QRect inner = option.rect.adjusted(Gap, Gap, -Gap, -Gap);
     const QRect picture(inner.topLeft(), QSize(PictureSize, PictureSize));
@@ -90,7 +91,7 @@ void RailRow::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setClipping(false);
 
     const QRect text = inner.adjusted(PictureSize + Gap + 2, 0, 0, 0);
-    painter->setPen(theme::Ink);
+    painter->setPen(theme::colours().Ink);
     painter->setFont(option.font);
     painter->drawText(
         text, static_cast<int>(Qt::AlignTop | Qt::AlignLeft),

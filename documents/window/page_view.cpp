@@ -150,17 +150,17 @@ const QImage& PageView::imageOf(int page) {
 
 void PageView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), theme::Desk);
+    painter.fillRect(viewport()->rect(), theme::desk());
     for (int page = 0; page < static_cast<int>(m_areas.size()); ++page) {
         const QRect area = areaOf(page);
         if (!area.intersects(viewport()->rect()))
             continue;
         painter.drawImage(area, imageOf(page));
-        painter.setPen(theme::PageEdge);
+        painter.setPen(look::colours().Outline);
         painter.drawRect(area.adjusted(-1, -1, 0, 0));
     }
     if (hasFocus()) {
-        painter.setPen(QPen(look::Accent, 2));
+        painter.setPen(QPen(look::colours().Accent, 2));
         painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
     }
 }

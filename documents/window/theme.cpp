@@ -1,6 +1,7 @@
 #include "documents/window/theme.h"
 
 #include <QApplication>
+#include <QPalette>
 
 namespace zeugnis::dokumente::theme {
 namespace {
@@ -43,6 +44,12 @@ QLabel#leise { color: #5F656C; }
 
 } // namespace
 
-void apply(QApplication& application) { look::apply(application, QString::fromLatin1(StyleSheet)); }
+QColor desk() {
+    return look::colours().HighContrast ? look::colours().Background : QColor(0xE6, 0xE2, 0xDA);
+}
+
+void apply(QApplication& application) {
+    look::apply(application, QString::fromLatin1(StyleSheet), QApplication::palette());
+}
 
 } // namespace zeugnis::dokumente::theme

@@ -7,8 +7,8 @@ class QApplication;
 /// How the window looks, in one place.
 namespace zeugnis::dokumente::theme {
 
-inline const QColor Desk(0xE6, 0xE2, 0xDA); ///< what the pages lie on
-inline const QColor PageEdge = look::Outline;
+/// What the pages lie on.
+QColor desk();
 
 /// Style, palette, font and German standard texts for the whole application.
 void apply(QApplication& application);
