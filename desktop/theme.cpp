@@ -80,7 +80,8 @@ QColor fromFarbwert(Farbwert value, const QColor& plain) {
 Tinted tinted(const QColor& tint, const QColor& plain) {
     if (!colours().HighContrast)
         return {tint.isValid() ? tint : plain, QColor()};
-    QColor border = tint;
+    // White and grey tell that nothing is chosen.
+    QColor border = tint.isValid() && tint.hsvSaturation() > 0 ? tint : QColor();
     while (border.isValid() && border.value() > 0 &&
            look::contrast(border, colours().Surface) < 3.0)
         border = border.darker(115);
