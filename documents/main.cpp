@@ -113,6 +113,13 @@ Text aufgehobenHinweis(const Dokumentdateien& dateien) {
                      dateien.Aufgehoben + u"“.";
 }
 
+// In a window of its own, which is gone when it closes.
+void allein(PreviewWindow::Nachschauen zeigt) {
+    auto* fenster = new PreviewWindow(std::move(zeigt));
+    fenster->setAttribute(Qt::WA_DeleteOnClose);
+    fenster->show();
+}
+
 // Whatever they were opened with, it is the macro that writes the reports anew.
 std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programmordner,
                                               const Dokumentdateien& dateien,
@@ -123,7 +130,11 @@ std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programm
     };
     return std::make_unique<ReportWindow>(
         programmordner, nachschauen(dateien, umwandlungen, aufgehobenHinweis(dateien)),
-        neuSchreiben);
+        neuSchreiben, [umwandlungen] {
+            const Dokumentdateien blatt = mitFortschrittSchreiben(
+                {.Dokument = u"Konferenzblatt.doc", .Makro = u"Konferenzblatt"}, {});
+            allein(nachschauen(blatt, umwandlungen, aufgehobenHinweis(blatt)));
+        });
 }
 
 int zeigen(const Fenster& fenster, const std::filesystem::path& dokument) {
@@ -147,9 +158,7 @@ int listeZeigen(Netz& netz, const Arbeitsverzeichnis& ordner, bool neu,
         return 0;
     const Fenster fenster = std::make_unique<ReportListWindow>(
         programmordner, std::move(stand), [umwandlungen](const Dokumentdateien& dateien) {
-            auto* druck = new PreviewWindow(nachschauen(dateien, umwandlungen));
-            druck->setAttribute(Qt::WA_DeleteOnClose);
-            druck->show();
+            allein(nachschauen(dateien, umwandlungen));
         });
     return zeigen(fenster, liste);
 }

@@ -3,6 +3,7 @@
 #include "documents/app/pupil_picture.h"
 #include "documents/content/blank_report.h"
 #include "documents/content/class_lists.h"
+#include "documents/content/conference_sheet.h"
 #include "documents/content/list_frame.h"
 #include "documents/content/picture_list.h"
 
@@ -17,6 +18,7 @@ constexpr char16_t Klassenliste[] = u"Klassenliste";
 constexpr char16_t Strichliste[] = u"Strichliste";
 constexpr char16_t Bilderliste[] = u"Bilderliste";
 constexpr char16_t Leerformular[] = u"Leerformular";
+constexpr char16_t Konferenzblatt[] = u"Konferenzblatt";
 
 template <const auto& Art>
 Text stamm(Arbeitsverzeichnis& verzeichnis) {
@@ -28,7 +30,7 @@ Document ausListendaten(Arbeitsverzeichnis& verzeichnis) {
     return Bilden(ListendatenLesen(verzeichnis));
 }
 
-constexpr std::array<Schluessel, 5> AlleListen = {{
+constexpr std::array<Schluessel, 6> AlleListen = {{
     {.Dokument = u"ZeugnisseAnlagen.doc",
      .Makro = u"ZeugnisseAnlagen",
      .Stamm = stamm<Zeugnisanlagen>,
@@ -58,6 +60,13 @@ constexpr std::array<Schluessel, 5> AlleListen = {{
              Stammdaten stamm = StammdatenLesen(verzeichnis);
              stamm.Kopfbild = KopfbildLesen(verzeichnis, stamm.Aufbau.Kopfbild);
              return LeerformularBilden(stamm);
+         }},
+    {.Dokument = u"Konferenzblatt.doc",
+     .Makro = u"Konferenzblatt",
+     .Stamm = stamm<Konferenzblatt>,
+     .Inhalt =
+         [](Arbeitsverzeichnis& verzeichnis) {
+             return KonferenzblattBilden(KonferenzdatenLesen(verzeichnis));
          }},
 }};
 

@@ -71,6 +71,11 @@ struct Section {
 struct Document {
     Text title;
     std::vector<Section> sections;
+    bool landscape = false;
+
+    [[nodiscard]] const page::Form& form() const {
+        return landscape ? page::Landscape : page::Upright;
+    }
 };
 
 inline Paragraph paragraph(StyleId style, Text text) {

@@ -45,6 +45,7 @@ enum class StyleId {
     Listenkopf,
     Listenzeile,
     Listenzahl,
+    Konferenzzeile,
     Formularangabe,
     Eintragsname,
     Eintragsbereich,
@@ -82,7 +83,7 @@ const Style& styleOf(StyleId id);
 inline constexpr int StyleCount = static_cast<int>(StyleId::Bildzeile) + 1;
 const std::array<Style, StyleCount>& allStyles();
 
-/// The page: A4 upright.
+/// The page: A4, upright but for documents that say otherwise.
 namespace page {
 inline constexpr Twips Width = 11906;
 inline constexpr Twips Height = 16838;
@@ -93,6 +94,17 @@ inline constexpr Twips Bottom = 1304;
 inline constexpr Twips FooterToEdge = 624; ///< from the footer's lower edge to that of the paper
 inline constexpr Twips TextWidth = Width - Left - Right;
 inline constexpr Twips TextHeight = Height - Top - Bottom;
+
+/// Upright or turned; the margins are the same.
+struct Form {
+    Twips width = Width;
+    Twips height = Height;
+
+    [[nodiscard]] constexpr Twips textWidth() const { return width - Left - Right; }
+    [[nodiscard]] constexpr Twips textHeight() const { return height - Top - Bottom; }
+};
+inline constexpr Form Upright{};
+inline constexpr Form Landscape{Height, Width};
 } // namespace page
 
 inline constexpr std::uint32_t RuleColour = 0xA6A6A6;

@@ -57,8 +57,8 @@ void makeLinesSure(Paragraph& paragraph, Twips width) {
     }
 }
 
-void makeLinesSure(Table& table) {
-    const std::vector<Twips> edges = columnEdges(table, page::TextWidth);
+void makeLinesSure(Table& table, Twips width) {
+    const std::vector<Twips> edges = columnEdges(table, width);
     const Twips padding = table.grid ? 2 * CellPadding : 0;
     for (Row& row : table.rows)
         for (size_t column = 0; column < row.size(); ++column)
@@ -67,12 +67,12 @@ void makeLinesSure(Table& table) {
                               edges[column] - (column > 0 ? edges[column - 1] : 0) - padding);
 }
 
-void makeLinesSure(std::vector<Block>& blocks) {
+void makeLinesSure(std::vector<Block>& blocks, Twips width) {
     for (Block& block : blocks) {
         if (auto* paragraph = std::get_if<Paragraph>(&block))
-            makeLinesSure(*paragraph, page::TextWidth);
+            makeLinesSure(*paragraph, width);
         else if (auto* table = std::get_if<Table>(&block))
-            makeLinesSure(*table);
+            makeLinesSure(*table, width);
     }
 }
 
@@ -94,9 +94,9 @@ Paragraph cutOff(Paragraph& paragraph, size_t from) {
     return rest;
 }
 
-std::vector<Block> withKeptEnd(Paragraph paragraph) {
+std::vector<Block> withKeptEnd(Paragraph paragraph, Twips width) {
     paragraph.keepEndWithNext = false;
-    const std::vector<size_t> lines = lineStarts(paragraph, page::TextWidth);
+    const std::vector<size_t> lines = lineStarts(paragraph, width);
     if (lines.size() <= NotParted) {
         paragraph.keepWithNext = true;
         return {std::move(paragraph)};
@@ -107,7 +107,7 @@ std::vector<Block> withKeptEnd(Paragraph paragraph) {
     return {std::move(paragraph), std::move(end)};
 }
 
-std::vector<Block> withKeptEnds(std::vector<Block> blocks) {
+std::vector<Block> withKeptEnds(std::vector<Block> blocks, Twips width) {
     std::vector<Block> fitted;
     for (Block& block : blocks) {
         auto* paragraph = std::get_if<Paragraph>(&block);
@@ -115,7 +115,7 @@ std::vector<Block> withKeptEnds(std::vector<Block> blocks) {
             fitted.push_back(std::move(block));
             continue;
         }
-        for (Block& part : withKeptEnd(std::move(*paragraph)))
+        for (Block& part : withKeptEnd(std::move(*paragraph), width))
             fitted.push_back(std::move(part));
     }
     return fitted;
@@ -128,16 +128,16 @@ Table* tableThatFills(std::vector<Block>& blocks) {
     return nullptr;
 }
 
-void fillPage(std::vector<Block>& blocks) {
+void fillPage(std::vector<Block>& blocks, const page::Form& form) {
     Table* table = tableThatFills(blocks);
     if (table == nullptr || table->rows.empty())
         return;
     table->fillsPage = false;
-    const std::vector<LaidStrip> strips = layBlocks(blocks, page::TextWidth);
-    const Twips bottom = paginate(strips, page::TextHeight).back().y + strips.back().strip.height;
-    const Twips row = layTable(*table, page::TextWidth).back().strip.height;
+    const std::vector<LaidStrip> strips = layBlocks(blocks, form.textWidth());
+    const Twips bottom = paginate(strips, form.textHeight()).back().y + strips.back().strip.height;
+    const Twips row = layTable(*table, form.textWidth()).back().strip.height;
     const Row last = table->rows.back();
-    const int more = std::max(0, page::TextHeight - bottom) / row;
+    const int more = std::max(0, form.textHeight() - bottom) / row;
     table->rows.insert(table->rows.end(), static_cast<size_t>(more), last);
 }
 
@@ -145,9 +145,9 @@ void fillPage(std::vector<Block>& blocks) {
 
 Document fittedToPages(Document document) {
     for (Section& section : document.sections) {
-        makeLinesSure(section.blocks);
-        section.blocks = withKeptEnds(std::move(section.blocks));
-        fillPage(section.blocks);
+        makeLinesSure(section.blocks, document.form().textWidth());
+        section.blocks = withKeptEnds(std::move(section.blocks), document.form().textWidth());
+        fillPage(section.blocks, document.form());
     }
     return document;
 }

@@ -9,7 +9,6 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr int PageHeight = 842;
 constexpr std::string_view ChecksumKey = "/DocChecksum (";
 
 std::optional<int> numberAt(std::string_view text) {
@@ -170,12 +169,12 @@ void addBookmarks(Update& update, int outline, const std::vector<Bookmark>& book
                             reference(outline + count) + " /Count " + std::to_string(count));
     for (int i = 0; i < count; ++i) {
         const Bookmark& mark = bookmarks[static_cast<size_t>(i)];
-        update.add(first + i,
-                   "/Title " + hexadecimal(mark.title) + " /Parent " + reference(outline) +
-                       (i > 0 ? " /Prev " + reference(first + i - 1) : "") +
-                       (i + 1 < count ? " /Next " + reference(first + i + 1) : "") + " /Dest [" +
-                       reference(pages[static_cast<size_t>(mark.page)]) + " /XYZ 0 " +
-                       std::to_string(PageHeight - mark.fromTop) + " null]");
+        update.add(first + i, "/Title " + hexadecimal(mark.title) + " /Parent " +
+                                  reference(outline) +
+                                  (i > 0 ? " /Prev " + reference(first + i - 1) : "") +
+                                  (i + 1 < count ? " /Next " + reference(first + i + 1) : "") +
+                                  " /Dest [" + reference(pages[static_cast<size_t>(mark.page)]) +
+                                  " /XYZ 0 " + std::to_string(mark.fromBottom) + " null]");
     }
 }
 

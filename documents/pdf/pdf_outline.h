@@ -10,8 +10,8 @@ namespace zeugnis::dokumente {
 
 struct Bookmark {
     Text title;
-    int page = 0;    ///< from 0
-    int fromTop = 0; ///< in points
+    int page = 0;       ///< from 0
+    int fromBottom = 0; ///< in points
 };
 
 /// Adds what Qt's PDF writer has no call for: bookmarks, the language, that the window of the

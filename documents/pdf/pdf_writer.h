@@ -15,6 +15,7 @@ struct LaidSection {
 struct LaidDocument {
     Text title;
     std::vector<LaidSection> sections;
+    page::Form form = page::Upright;
 
     [[nodiscard]] std::vector<int> pagesPerSection() const;
 };

@@ -88,7 +88,7 @@ std::string cellEdge(const Table& table, Twips edge, bool isGap) {
     return rtf + rtfNumber("\\cellx", edge);
 }
 
-std::string rowFromTable(const Table& table, const Row& row) {
+std::string rowFromTable(const Table& table, const Row& row, Twips width) {
     std::string rtf = rtfNumber("\\trowd\\trleft0\\trkeep\\trgaph", table.grid ? CellPadding : 0);
     if (table.rowHeight > 0)
         rtf += rtfNumber("\\trrh", table.rowHeight);
@@ -96,7 +96,7 @@ std::string rowFromTable(const Table& table, const Row& row) {
         rtf += "\\trhdr";
     const bool kept = &row == &table.rows.back() ? table.keepWithNext : table.keepRows;
     int column = 0;
-    for (const Twips edge : columnEdges(table, page::TextWidth))
+    for (const Twips edge : columnEdges(table, width))
         rtf += cellEdge(table, edge, column++ == table.gap);
     rtf += "\n";
     for (const Cell& cell : row)
@@ -112,6 +112,8 @@ struct Piece {
 };
 
 struct BlockToRtf {
+    Twips width;
+
     Piece operator()(const Paragraph& paragraph) const {
         return {opening(paragraph, "") + content(paragraph), true};
     }
@@ -119,7 +121,7 @@ struct BlockToRtf {
     Piece operator()(const Table& table) const {
         std::string rtf;
         for (const Row& row : table.rows)
-            rtf += rowFromTable(table, row);
+            rtf += rowFromTable(table, row, width);
         return {rtf, false};
     }
 
@@ -131,53 +133,56 @@ struct BlockToRtf {
     }
 };
 
-std::string footer(const Section& section, int pages) {
+std::string footer(const Section& section, int pages, Twips width) {
     return "{\\footer\\pard\\plain" + rtfProperties(styleOf(StyleId::Fusszeile)) +
-           rtfNumber("\\tqr\\tx", page::TextWidth) + " " + rtfText(section.footer) +
-           "\\tab Seite " + field("PAGE", 1) + " von " + field("SECTIONPAGES", pages) + "\\par}\n";
+           rtfNumber("\\tqr\\tx", width) + " " + rtfText(section.footer) + "\\tab Seite " +
+           field("PAGE", 1) + " von " + field("SECTIONPAGES", pages) + "\\par}\n";
 }
 
 // The end of a section is also the end of its last paragraph. Behind a table there has to be one;
 // it is as small as can be, so that it does not fill a page of its own.
-std::string sectionContent(const Section& section, const char* end) {
+std::string sectionContent(const Section& section, const char* end, Twips width) {
     constexpr const char* SmallParagraph = "\\pard\\plain\\fs2\\sl-20\\slmult0 ";
     std::string rtf;
     bool needsEnd = false;
     for (const Block& block : section.blocks) {
         if (needsEnd)
             rtf += "\\par\n";
-        Piece piece = std::visit(BlockToRtf{}, block);
+        Piece piece = std::visit(BlockToRtf{width}, block);
         rtf += piece.rtf;
         needsEnd = piece.needsEnd;
     }
     return rtf + (needsEnd ? "" : SmallParagraph) + end + "\n";
 }
 
-std::string pageSetup() {
-    return rtfNumber("\\paperw", page::Width) + rtfNumber("\\paperh", page::Height) +
+std::string pageSetup(const page::Form& form) {
+    return rtfNumber("\\paperw", form.width) + rtfNumber("\\paperh", form.height) +
            rtfNumber("\\margl", page::Left) + rtfNumber("\\margr", page::Right) +
            rtfNumber("\\margt", page::Top) + rtfNumber("\\margb", page::Bottom) +
-           "\\widowctrl\\hyphauto0\\viewkind1\n";
+           (form.width > form.height ? "\\landscape" : "") + "\\widowctrl\\hyphauto0\\viewkind1\n";
 }
 
-std::string sectionSetup() {
+std::string sectionSetup(const page::Form& form) {
     return rtfNumber("\\sectd\\sbkpage\\pgndec\\pgnrestart\\pgnstarts1\\footery",
                      page::FooterToEdge) +
-           rtfNumber("\\pgwsxn", page::Width) + rtfNumber("\\pghsxn", page::Height) +
-           rtfNumber("\\marglsxn", page::Left) + rtfNumber("\\margrsxn", page::Right) +
-           rtfNumber("\\margtsxn", page::Top) + rtfNumber("\\margbsxn", page::Bottom) + "\n";
+           (form.width > form.height ? "\\lndscpsxn" : "") + rtfNumber("\\pgwsxn", form.width) +
+           rtfNumber("\\pghsxn", form.height) + rtfNumber("\\marglsxn", page::Left) +
+           rtfNumber("\\margrsxn", page::Right) + rtfNumber("\\margtsxn", page::Top) +
+           rtfNumber("\\margbsxn", page::Bottom) + "\n";
 }
 
 } // namespace
 
 std::string rtfFromDocument(const Document& document, const std::vector<int>& pages) {
     std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\\deflang1031\n" + rtfTables() +
-                      "{\\info{\\title " + rtfText(document.title) + "}}\n" + pageSetup();
+                      "{\\info{\\title " + rtfText(document.title) + "}}\n" +
+                      pageSetup(document.form());
     for (size_t i = 0; i < document.sections.size(); ++i) {
         const Section& section = document.sections[i];
         const bool isLast = i + 1 == document.sections.size();
-        rtf += sectionSetup() + footer(section, pages.at(i)) +
-               sectionContent(section, isLast ? "\\par" : "\\sect");
+        const Twips width = document.form().textWidth();
+        rtf += sectionSetup(document.form()) + footer(section, pages.at(i), width) +
+               sectionContent(section, isLast ? "\\par" : "\\sect", width);
     }
     return rtf + "}\n";
 }

@@ -2,12 +2,17 @@
 
 #include "documents/app/report_files.h"
 #include "documents/app/temporary_folder.h"
+#include "documents/content/class_texts.h"
 #include "documents/window/layout_dialog.h"
 #include "documents/window/progress.h"
 #include "platform/failure.h"
+#include "platform/whole_file.h"
 #include "toolkit/qt_text.h"
 
 #include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -17,6 +22,8 @@ namespace {
 
 const auto LayoutTitle = QStringLiteral("Aufbau des Zeugnisses");
 const auto FilesTitle = QStringLiteral("Je Kind eine Datei");
+const auto ConferenceTitle = QStringLiteral("Konferenzblatt");
+const auto TextsTitle = QStringLiteral("Texte als CSV-Datei");
 
 bool ask(QWidget* parent, const QString& title, const QString& text, const QString& yes) {
     QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
@@ -30,10 +37,11 @@ bool ask(QWidget* parent, const QString& title, const QString& text, const QStri
 } // namespace
 
 ReportWindow::ReportWindow(Arbeitsverzeichnis programmordner, Nachschauen nachschauen,
-                           std::function<void()> neuSchreiben)
+                           std::function<void()> neuSchreiben, std::function<void()> konferenzblatt)
     : PreviewWindow(std::move(nachschauen)),
       m_folder(std::move(programmordner)),
-      m_rewrite(std::move(neuSchreiben)) {
+      m_rewrite(std::move(neuSchreiben)),
+      m_conferenceSheet(std::move(konferenzblatt)) {
     QPushButton* layout =
         addAction(QStringLiteral("&Aufbau …"),
                   QStringLiteral("Reihenfolge, Schulzeichen, Namen und Sätze am Ende festlegen"));
@@ -43,6 +51,12 @@ ReportWindow::ReportWindow(Arbeitsverzeichnis programmordner, Nachschauen nachsc
                   QStringLiteral("Für jedes Kind eine PDF-Datei mit Name und Klasse anlegen, dazu "
                                  "eine mit allen"));
     connect(files, &QPushButton::clicked, this, &ReportWindow::writeOneForEach);
+    auto* menu = new QMenu(this);
+    menu->addAction(QStringLiteral("&Konferenzblatt"), this, &ReportWindow::showConferenceSheet);
+    menu->addAction(QStringLiteral("&Texte als CSV-Datei …"), this, &ReportWindow::saveTexts);
+    addAction(QStringLiteral("&Für die Konferenz"),
+              QStringLiteral("Die Klasse auf einem Blatt, oder alle Texte als Tabelle"))
+        ->setMenu(menu);
 }
 
 bool ReportWindow::mayBeLost(const QString& title, const QString& question) {
@@ -71,6 +85,30 @@ void ReportWindow::changeLayout() {
         load();
     } catch (const Laufzeitfehler& failure) {
         QMessageBox::warning(this, LayoutTitle, qString(failure.sentence()));
+    }
+}
+
+void ReportWindow::showConferenceSheet() {
+    try {
+        m_conferenceSheet();
+    } catch (const Laufzeitfehler& failure) {
+        QMessageBox::warning(this, ConferenceTitle, qString(failure.sentence()));
+    }
+}
+
+void ReportWindow::saveTexts() {
+    try {
+        const Zeugnisdaten daten = ZeugnisdatenLesen(m_folder);
+        const QString ziel = QFileDialog::getSaveFileName(
+            this, TextsTitle, qString(Klassenstamm(daten.Stamm, u"Texte")) + QStringLiteral(".csv"),
+            QStringLiteral("CSV-Dateien (*.csv)"));
+        if (ziel.isEmpty())
+            return;
+        const QFileInfo datei(ziel);
+        writeWholeFile(Arbeitsverzeichnis(datei.absolutePath().toStdU16String()),
+                       fromQString(datei.fileName()), KlassentexteAlsCsv(daten));
+    } catch (const Laufzeitfehler& failure) {
+        QMessageBox::warning(this, TextsTitle, qString(failure.sentence()));
     }
 }
 

@@ -4,23 +4,27 @@
 
 namespace zeugnis::dokumente {
 
-/// The preview of the finished reports, with what is only done with them: their layout, and a file
-/// for each child.
+/// The preview of the finished reports, with what is only done with them: their layout, a file
+/// for each child, the sheet for the conference and the texts as a table.
 class ReportWindow : public PreviewWindow {
     Q_OBJECT
 
   public:
-    /// `neuSchreiben` writes the reports anew from the files; it may fail.
+    /// `neuSchreiben` writes the reports anew from the files, `konferenzblatt` writes and shows the
+    /// sheet for the conference; both may fail.
     ReportWindow(Arbeitsverzeichnis programmordner, Nachschauen nachschauen,
-                 std::function<void()> neuSchreiben);
+                 std::function<void()> neuSchreiben, std::function<void()> konferenzblatt);
 
   private:
     void changeLayout();
     void writeOneForEach();
+    void showConferenceSheet();
+    void saveTexts();
     [[nodiscard]] bool mayBeLost(const QString& title, const QString& question);
 
     Arbeitsverzeichnis m_folder;
     std::function<void()> m_rewrite;
+    std::function<void()> m_conferenceSheet;
 };
 
 } // namespace zeugnis::dokumente

@@ -1,5 +1,6 @@
 #include "documents/app/document_files.h"
 #include "documents/app/word_processor.h"
+#include "documents/content/class_texts.h"
 #include "documents/content/report_marks.h"
 #include "tests/documents/composed_class.h"
 #include "tests/documents/printed_pages.h"
@@ -64,6 +65,31 @@ TEST_P(ComposedClasses, RaiseNoAlarmButForWhatIsMissingOrWrittenByHand) {
             (befund.Platz != AlleKinder && !test::remarksByHand(befund.Platz).empty());
         EXPECT_TRUE(isExpected) << utf8FromText(befund.Kind + u": " + befund.Satz);
     }
+}
+
+TEST(ConferenceSheet, ShowsWhatTheConferenceDecidesOnAndTheTableHoldsAllTexts) {
+    const test::ComposedClass klasse(u"4c", u"2");
+    Arbeitsverzeichnis verzeichnis(klasse.path());
+    const Dokumentdateien files = DokumentBereitstellen(
+        verzeichnis, {.Dokument = u"Konferenzblatt.doc", .Makro = u"Konferenzblatt"});
+    const QString page = test::pageTexts(files.Pdf).front().simplified();
+    for (const char* words :
+         {"1 Ahlers, Mats in vollem Umfang in vollem Umfang 0 Mats wechselt in den 5. "
+          "Schuljahrgang einer weiterführenden Schule.",
+          "entspricht den Erwartungen besondere Anerkennung", "8 (1)"})
+        EXPECT_TRUE(page.contains(QString::fromUtf8(words))) << page.toStdString();
+    const test::TemporaryFolder folder;
+    if (const auto converted = inPdfUmwandeln(files.Doc, folder.path())) {
+        EXPECT_EQ(test::pageTexts(*converted).size(), test::pageTexts(files.Pdf).size());
+    }
+
+    const std::string csv = KlassentexteAlsCsv(ZeugnisdatenLesen(verzeichnis));
+    EXPECT_TRUE(
+        csv.starts_with("\xEF\xBB\xBF\"Nr.\";\"Klasse\";\"Nachname\";\"Vorname\";\"Versäumte "
+                        "Unterrichtstage\";"));
+    EXPECT_TRUE(csv.find("\r\n\"5\";\"4c\";\"Çelik-Žižka\";\"Šara Lou\";\"4\";\"0\";") !=
+                std::string::npos);
+    EXPECT_TRUE(csv.find("1. Preis beim Lesen\n2. Preis beim Lesen\n") != std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Years, ComposedClasses,

@@ -7,16 +7,23 @@ namespace {
 
 constexpr Twips Page = 100;
 
-std::vector<int> pagesOf(const std::vector<Strip>& strips) {
-    std::vector<int> pages;
-    for (const Place& place : paginate(strips, Page))
-        pages.push_back(place.page);
-    return pages;
-}
-
-TEST(Pagination, AFullPageIsNotTooFull) {
-    EXPECT_EQ(pagesOf({{.height = 50}, {.height = 50}}), (std::vector{0, 0}));
-    EXPECT_EQ(pagesOf({{.height = 50}, {.height = 51}}), (std::vector{0, 1}));
+TEST(Pagination, BreaksWhereItMayAndElseWhereItMust) {
+    const auto kept = [](Twips height) { return Strip{.height = height, .mayBreakBefore = false}; };
+    const Strip starts{.height = 10, .startsPage = true};
+    const std::pair<std::vector<Strip>, std::vector<int>> cases[] = {
+        {{{.height = 50}, {.height = 50}}, {0, 0}},
+        {{{.height = 50}, {.height = 51}}, {0, 1}},
+        {{{.height = 40}, {.height = 40}, kept(15), kept(40)}, {0, 1, 1, 1}},
+        {{{.height = 60}, kept(60), kept(60)}, {0, 1, 2}},
+        {{{.height = 10}, {.height = 300}, {.height = 10}}, {0, 1, 2}},
+        {{starts, starts}, {0, 1}},
+    };
+    for (const auto& [strips, expected] : cases) {
+        std::vector<int> pages;
+        for (const Place& place : paginate(strips, Page))
+            pages.push_back(place.page);
+        EXPECT_EQ(pages, expected);
+    }
 }
 
 TEST(Pagination, SpacesAddUpBetweenStripsAndVanishAtTheEdges) {
@@ -28,30 +35,6 @@ TEST(Pagination, SpacesAddUpBetweenStripsAndVanishAtTheEdges) {
     EXPECT_EQ(places[1].y, 52);
     EXPECT_EQ(places[2].page, 1);
     EXPECT_EQ(places[2].y, 0);
-}
-
-TEST(Pagination, GoesBackToTheLastPlaceThatAllowsABreak) {
-    EXPECT_EQ(pagesOf({{.height = 40},
-                       {.height = 40},
-                       {.height = 15, .mayBreakBefore = false},
-                       {.height = 40, .mayBreakBefore = false}}),
-              (std::vector{0, 1, 1, 1}));
-}
-
-TEST(Pagination, BreaksWhereItMustIfNothingAllowsIt) {
-    EXPECT_EQ(pagesOf({{.height = 60},
-                       {.height = 60, .mayBreakBefore = false},
-                       {.height = 60, .mayBreakBefore = false}}),
-              (std::vector{0, 1, 2}));
-}
-
-TEST(Pagination, AStripHigherThanThePageStandsAlone) {
-    EXPECT_EQ(pagesOf({{.height = 10}, {.height = 300}, {.height = 10}}), (std::vector{0, 1, 2}));
-}
-
-TEST(Pagination, AStripCanAskForANewPageButNotForAnEmptyOne) {
-    EXPECT_EQ(pagesOf({{.height = 10, .startsPage = true}, {.height = 10, .startsPage = true}}),
-              (std::vector{0, 1}));
 }
 
 } // namespace

@@ -10,57 +10,8 @@
 namespace zeugnis::dokumente {
 namespace {
 
-std::vector<std::vector<int>> pagesOfLines(const Document& document) {
-    std::vector<std::vector<int>> pages;
-    for (const LaidSection& section : layOut(document).sections) {
-        pages.emplace_back();
-        for (const Place& place : section.places)
-            pages.back().push_back(place.page);
-    }
-    return pages;
-}
-
 Section sectionOf(std::vector<Block> blocks) {
     return {.footer = u"Fuß", .blocks = std::move(blocks)};
-}
-
-// Fills the page but for the height of `lines` lines of running text.
-std::vector<Block> filledBut(int lines) {
-    const int full = page::TextHeight / styleOf(StyleId::BereichstextAnfang).lineHeight;
-    return {static_cast<size_t>(full - lines), paragraph(StyleId::BereichstextAnfang, u"Zeile")};
-}
-
-int pageOf(const std::vector<Block>& blocks, size_t fromTheEnd) {
-    const auto pages = pagesOfLines({.title = u"", .sections = {sectionOf(blocks)}}).at(0);
-    return pages.at(pages.size() - fromTheEnd);
-}
-
-TEST(PdfLayout, AHeadingIsNeverLastOnAPage) {
-    std::vector<Block> blocks = filledBut(2);
-    blocks.emplace_back(paragraph(StyleId::Bereich, u"Überschrift"));
-    blocks.emplace_back(paragraph(StyleId::BereichstextAnfang, u"Text"));
-    EXPECT_EQ(pageOf(blocks, 2), 1);
-}
-
-TEST(PdfLayout, NoSingleLineStaysBehindOrRunsAhead) {
-    const Text fourLines = u"eins\nzwei\ndrei\nvier";
-    for (const auto& [room, second, third] : {std::tuple{1, 1, 1}, {2, 0, 1}, {3, 0, 1}}) {
-        std::vector<Block> blocks = filledBut(room);
-        blocks.emplace_back(paragraph(StyleId::BereichstextAnfang, fourLines));
-        EXPECT_EQ(pageOf(blocks, 3), second) << room;
-        EXPECT_EQ(pageOf(blocks, 2), third) << room;
-    }
-}
-
-TEST(PdfLayout, WhatIsKeptTakesItsParagraphAlongAsAWhole) {
-    std::vector<Block> blocks = filledBut(4);
-    Paragraph kept = paragraph(StyleId::BereichstextAnfang, u"eins\nzwei\ndrei\nvier");
-    kept.keepWithNext = true;
-    blocks.emplace_back(kept);
-    blocks.emplace_back(Table{
-        .columns = {1}, .rows = {{{.paragraphs = {paragraph(StyleId::Schlussangabe, u"Ende")}}}}});
-    for (const size_t line : {5U, 4U, 1U})
-        EXPECT_EQ(pageOf(blocks, line), 1) << line;
 }
 
 TEST(PdfLayout, TheHeadOfATableStandsOnEveryPage) {
@@ -108,7 +59,7 @@ TEST(PdfLayout, EverySectionBeginsOnANewPageAndCountsItsOwn) {
 TEST(PdfOutline, LeavesAloneWhatItDoesNotUnderstand) {
     for (const char* bytes :
          {"", "%PDF-1.4", "startxref\n99999\n", "startxref\n0\n/Size 1/Root 1 0 R/Info 1 0 R"})
-        EXPECT_EQ(withAdditions(bytes, {{.title = u"a", .page = 0, .fromTop = 0}}, "1"), bytes);
+        EXPECT_EQ(withAdditions(bytes, {{.title = u"a", .page = 0, .fromBottom = 0}}, "1"), bytes);
 }
 
 } // namespace

@@ -122,7 +122,7 @@ TEST_F(ReportWindowTest, ANewLayoutIsWrittenAndShownAndAnEditedDocumentIsNotLost
     const Dokumentdateien files = DokumentBereitstellen(verzeichnis, call);
     ReportWindow window(
         verzeichnis, [&] { return AnzeigeFinden(files, [](const auto&) { return std::nullopt; }); },
-        [&] { DokumentBereitstellen(verzeichnis, call); });
+        [&] { DokumentBereitstellen(verzeichnis, call); }, [] {});
     window.show();
     QPushButton* change = nullptr;
     for (QPushButton* button : window.findChildren<QPushButton*>())
