@@ -1,6 +1,7 @@
 #include "desktop/choice_row.h"
 
 #include "desktop/theme.h"
+#include "desktop/word_width.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -15,10 +16,11 @@ namespace {
 
 constexpr int MarkSize = 16;
 constexpr int Padding = 8;
-constexpr int HintWidth = 20;
+constexpr int HintPadding = 10;
 constexpr int TopPadding = 4;
 constexpr int CompactTopPadding = 1;
 constexpr int PictureSize = 56;
+constexpr int LongestWord = 28; // characters
 
 } // namespace
 
@@ -37,7 +39,7 @@ void ChoiceRow::setInscription(const QString& inscription) {
         return;
     m_inscription = inscription;
     setText(QString(inscription).replace(u'&', QStringLiteral("&&")));
-    updateGeometry();
+    measureWords();
 }
 
 void ChoiceRow::setTint(const QColor& tint) {
@@ -60,7 +62,7 @@ void ChoiceRow::setChosen(bool chosen) {
 
 void ChoiceRow::setKeyHint(const QString& hint) {
     m_keyHint = hint;
-    updateGeometry();
+    measureWords();
 }
 
 void ChoiceRow::setPicture(const QPixmap& picture) {
@@ -75,7 +77,7 @@ void ChoiceRow::setCompact() {
 }
 
 QRect ChoiceRow::textArea(int width, int height) const {
-    const int left = Padding + MarkSize + Padding + (m_keyHint.isEmpty() ? 0 : HintWidth);
+    const int left = Padding + MarkSize + Padding + m_hintWidth;
     return {left, m_topPadding, width - left - Padding, height - 2 * m_topPadding};
 }
 
@@ -85,7 +87,7 @@ int ChoiceRow::heightForWidth(int width) const {
     const QRect area = textArea(width, 1000);
     const int lines =
         fontMetrics()
-            .boundingRect(QRect(0, 0, area.width(), 1000), Qt::TextWordWrap, m_inscription)
+            .boundingRect(QRect(0, 0, area.width(), 1000), wrapping(area.width()), m_inscription)
             .height();
     return std::max(lines, fontMetrics().height()) + 2 * m_topPadding + 2;
 }
@@ -101,12 +103,26 @@ QSize ChoiceRow::sizeHint() const {
 QSize ChoiceRow::minimumSizeHint() const {
     if (!m_picture.isNull())
         return sizeHint();
-    return {160, fontMetrics().height() + 2 * m_topPadding + 2};
+    const int longest = fontMetrics().averageCharWidth() * LongestWord;
+    return {textArea(0, 0).left() + Padding + std::min(m_widestWord, longest),
+            fontMetrics().height() + 2 * m_topPadding + 2};
+}
+
+void ChoiceRow::measureWords() {
+    m_widestWord = widestWord(fontMetrics(), m_inscription);
+    m_hintWidth =
+        m_keyHint.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_keyHint) + HintPadding;
+    updateGeometry();
+}
+
+// A word that no row has room for is cut in two.
+int ChoiceRow::wrapping(int width) const {
+    return m_widestWord > width ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
 }
 
 void ChoiceRow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::FontChange)
-        updateGeometry();
+    if (event->type() == QEvent::FontChange)
+        measureWords();
     QAbstractButton::changeEvent(event);
 }
 
@@ -162,7 +178,7 @@ void ChoiceRow::paintEvent(QPaintEvent*) {
     painter.setPen(theme::colours().InkFaint);
     const QRect area = textArea(width(), height());
     if (!m_keyHint.isEmpty())
-        painter.drawText(QRect(area.left() - HintWidth, area.top(), HintWidth, area.height()),
+        painter.drawText(QRect(area.left() - m_hintWidth, area.top(), m_hintWidth, area.height()),
                          Qt::AlignVCenter | Qt::AlignLeft, m_keyHint);
     painter.setPen(ink);
     if (!m_picture.isNull()) {
@@ -171,7 +187,9 @@ void ChoiceRow::paintEvent(QPaintEvent*) {
         painter.drawPixmap(QRect(area.topLeft(), QSize(PictureSize, PictureSize)), m_picture);
         return;
     }
-    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, m_inscription);
+    painter.drawText(area,
+                     static_cast<int>(Qt::AlignVCenter | Qt::AlignLeft) | wrapping(area.width()),
+                     m_inscription);
 }
 
 } // namespace zeugnis

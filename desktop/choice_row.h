@@ -50,6 +50,8 @@ class ChoiceRow : public QAbstractButton {
     [[nodiscard]] QRect textArea(int width, int height) const;
     [[nodiscard]] QColor outlineOf(const QColor& fill) const;
     void paintMark(QPainter& painter, const QColor& ink) const;
+    [[nodiscard]] int wrapping(int width) const;
+    void measureWords();
 
     Mark m_mark;
     QColor m_tint;
@@ -58,6 +60,8 @@ class ChoiceRow : public QAbstractButton {
     QString m_keyHint;
     QPixmap m_picture;
     int m_topPadding;
+    int m_widestWord = 0;
+    int m_hintWidth = 0;
 };
 
 } // namespace zeugnis

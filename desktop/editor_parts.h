@@ -14,6 +14,9 @@ namespace editorparts {
 
 using entryparts::Key;
 
+/// The least share of its width that a button's inscription takes two lines with, not three.
+inline constexpr double TwoLines = 0.65;
+
 /// The title, which takes a double click, and the help at its right.
 QBoxLayout* head(Binder& binder, Label& title, Button& help);
 

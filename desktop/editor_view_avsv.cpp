@@ -1,7 +1,9 @@
 #include "desktop/editor_view_avsv.h"
 
 #include "desktop/editor_parts.h"
+#include "desktop/even_rows.h"
 #include "desktop/theme.h"
+#include "toolkit/page_area.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -14,6 +16,7 @@ namespace {
 
 // As many characters as the entry window shows well in one row.
 constexpr int ReadableCharacters = 95;
+constexpr int NameLetters = 48;
 
 // The line behind which text is hard to read, over all boxes of the lines.
 class ReadableLimit : public QWidget {
@@ -34,7 +37,8 @@ class ReadableLimit : public QWidget {
             const int text =
                 m_first.fontMetrics().horizontalAdvance(QString(ReadableCharacters, u'n'));
             const int top = m_first.y() - 4;
-            setGeometry(m_first.x() + text, top, 2, m_last.geometry().bottom() + 4 - top);
+            const int width = text < m_first.width() ? 2 : 0;
+            setGeometry(m_first.x() + text, top, width, m_last.geometry().bottom() + 4 - top);
             raise();
         }
         return QWidget::eventFilter(watched, event);
@@ -50,14 +54,11 @@ class ReadableLimit : public QWidget {
 EditorViewAVSV::EditorViewAVSV(GSAVSVAenderung& screen, WindowHost& host, QWidget* below)
     : ScreenWindow(screen, host, below), m_editor(screen) {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(20, 14, 20, 14);
-    layout->setSpacing(10);
+    layout->setContentsMargins(20, 12, 20, 12);
+    layout->setSpacing(8);
     layout->addLayout(editorparts::head(bind(), m_editor.Label1, m_editor.Command8(2)));
     layout->addLayout(sections());
-    layout->addLayout(categories());
-    layout->addWidget(lines());
-    layout->addStretch();
-    layout->addWidget(editorparts::hint(bind(), m_editor.Label3));
+    layout->addWidget(page(), 1);
     layout->addLayout(
         editorparts::actions(bind(), {.ShowPlaceholders = {m_editor.Command8(0), u'P'},
                                       .HidePlaceholders = {m_editor.Command8(1), u'v'},
@@ -72,7 +73,7 @@ EditorViewAVSV::EditorViewAVSV(GSAVSVAenderung& screen, WindowHost& host, QWidge
         return std::vector{static_cast<int>(m_editor.Bereich), m_editor.KategorieAV,
                            m_editor.KategorieSV};
     });
-    resize(1220, 760);
+    wishSize({1220, 760});
 }
 
 QBoxLayout* EditorViewAVSV::sections() {
@@ -91,12 +92,24 @@ QBoxLayout* EditorViewAVSV::sections() {
     return row;
 }
 
+QWidget* EditorViewAVSV::page() {
+    auto* area = new PageArea(this);
+    area->keepRoomToScroll();
+    area->fillRoom();
+    auto* page = new QVBoxLayout;
+    page->setSpacing(7);
+    page->addLayout(categories());
+    page->addWidget(lines());
+    page->addStretch();
+    page->addWidget(editorparts::hint(bind(), m_editor.Label3));
+    area->add(*page);
+    return area;
+}
+
 QBoxLayout* EditorViewAVSV::categories() {
     auto* column = new QVBoxLayout;
     column->setSpacing(8);
-    auto* buttons = new QGridLayout;
-    buttons->setSpacing(6);
-    constexpr int InARow = 4;
+    auto* buttons = new EvenRows(6, editorparts::TwoLines);
     m_editor.Command4.each([&](Button& button) {
         TintedButton* widget = bind().button(button);
         bind().follow([this, widget, k = *button.index()] {
@@ -106,7 +119,7 @@ QBoxLayout* EditorViewAVSV::categories() {
         });
         // Until modules are loaded, all have the same inscription.
         spoken::describe(*widget, tr("Kategorie %1").arg(*button.index() + 1));
-        buttons->addWidget(widget, *button.index() / InARow, *button.index() % InARow);
+        buttons->addWidget(widget);
     });
     bind().oneStop(controlsOf(m_editor.Command4));
     column->addLayout(buttons);
@@ -116,9 +129,9 @@ QBoxLayout* EditorViewAVSV::categories() {
     caption->setWordWrap(false);
     name->addWidget(caption);
     TextEditor* box = bind().line(m_editor.Text1, tr("Name der Kategorie"));
-    box->setMaximumWidth(420);
-    name->addWidget(box, 1);
-    name->addStretch();
+    box->setMaximumWidth(NameLetters * box->fontMetrics().averageCharWidth());
+    name->addWidget(box, 100);
+    name->addStretch(1);
     column->addLayout(name);
     return column;
 }
@@ -128,7 +141,7 @@ QWidget* EditorViewAVSV::lines() {
     auto* grid = new QGridLayout(area);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(3);
+    grid->setVerticalSpacing(2);
     QLabel* head = bind().label(m_editor.Label4);
     head->setFont(theme::scaledFont(0.92));
     head->setAlignment(Qt::AlignCenter);
@@ -136,7 +149,7 @@ QWidget* EditorViewAVSV::lines() {
     m_editor.Text2.each([&](TextBox& line) {
         const int i = *line.index();
         QLabel* number = bind().label(m_editor.Label5(i));
-        number->setFixedWidth(16);
+        number->setFixedWidth(number->fontMetrics().horizontalAdvance(u'9') + 6);
         spoken::silence(*number); // the box tells it
         grid->addWidget(number, i + 1, 0);
         grid->addWidget(bind().module(line, tr("Zeile %1").arg(i)), i + 1, 1);

@@ -13,6 +13,7 @@ class EditorViewAVSV : public ScreenWindow {
 
   private:
     QBoxLayout* sections();
+    QWidget* page();
     QWidget* lines();
     QBoxLayout* categories();
 

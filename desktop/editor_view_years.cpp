@@ -2,9 +2,10 @@
 
 #include "common/editor_common.h"
 #include "desktop/editor_parts.h"
-#include "desktop/page_area.h"
+#include "desktop/even_rows.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 
 #include <QFrame>
@@ -54,21 +55,22 @@ void EditorViewYears::build(const Parts& parts, const std::vector<EditorPage>& p
     layout->addLayout(editorparts::head(bind(), parts.Title, parts.Help));
     layout->addWidget(loadRow(parts));
     layout->addLayout(pageButtons(pages));
-    layout->addWidget(entryparts::nextStep(bind(), parts.NextStep));
     auto* area = new PageArea(this);
     area->keepRoomToScroll();
+    area->fillRoom();
+    area->add(*entryparts::nextStep(bind(), parts.NextStep));
     for (const EditorPage& one : pages)
         area->add(*page(parts.Editor, one));
-    layout->addWidget(area);
-    layout->addStretch();
-    layout->addWidget(editorparts::hint(bind(), parts.Hint));
+    area->addBelow(*editorparts::hint(bind(), parts.Hint));
+    layout->addWidget(area, 1);
+    layout->addWidget(besideNote(parts.Editor));
     layout->addLayout(
         editorparts::actions(bind(), {.ShowPlaceholders = {parts.Placeholders(0), u'P'},
                                       .HidePlaceholders = {parts.Placeholders(1), u'v'},
                                       .Save = {parts.Save, u't'},
                                       .Leave = {parts.Leave, u'B'}}));
     warnBeforeClosing(editorparts::lostByClosing());
-    resize(1220, 760);
+    wishSize({1220, 760});
 }
 
 // Whose modules these are, and which wording to load.
@@ -78,16 +80,18 @@ QWidget* EditorViewYears::loadRow(const Parts& parts) {
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(info(parts.Info(0), tr("Klasse und Schuljahr")));
     row->addWidget(info(parts.Info(1), tr("Halbjahr")));
-    auto* beside =
-        new QLabel(tr("Standard geladen: Speichern ändert die aktuellen Texte nicht."), area);
-    beside->setObjectName(QStringLiteral("lock"));
-    bind().follow(
-        [beside, &editor = parts.Editor] { beside->setVisible(editor.SpeichertDaneben()); });
-    row->addSpacing(12);
-    row->addWidget(beside);
     row->addStretch();
     row->addLayout(editorparts::loading(bind(), parts.Load));
     return area;
+}
+
+QWidget* EditorViewYears::besideNote(const Bausteineditor& editor) {
+    auto* note =
+        new QLabel(tr("Standard geladen: Speichern ändert die aktuellen Texte nicht."), this);
+    note->setObjectName(QStringLiteral("lock"));
+    note->setWordWrap(true);
+    bind().follow([note, &editor] { note->setVisible(editor.SpeichertDaneben()); });
+    return note;
 }
 
 // A locked box that is read like a label.
@@ -103,20 +107,16 @@ QWidget* EditorViewYears::info(TextBox& box, const QString& name) {
 }
 
 QLayout* EditorViewYears::pageButtons(const std::vector<EditorPage>& pages) {
-    constexpr int InARow = 4;
-    auto* grid = new QGridLayout;
-    grid->setSpacing(6);
+    auto* rows = new EvenRows(6, editorparts::TwoLines);
     std::vector<const Control*> buttons;
-    int place = 0;
     for (const EditorPage& one : pages) {
         TintedButton* widget = bind().button(one.button, one.mnemonic);
         bind().follow([widget, &frame = one.frame] { widget->setMarked(frame.Visible); });
         buttons.push_back(&one.button);
-        grid->addWidget(widget, place / InARow, place % InARow);
-        ++place;
+        rows->addWidget(widget);
     }
     bind().oneStop(buttons);
-    return grid;
+    return rows;
 }
 
 QWidget* EditorViewYears::page(const Bausteineditor& editor, const EditorPage& one) {
@@ -127,7 +127,7 @@ QWidget* EditorViewYears::page(const Bausteineditor& editor, const EditorPage& o
     for (Label* note : one.notes)
         layout->addWidget(editorparts::hint(bind(), *note));
     auto* columns = new QHBoxLayout;
-    columns->setSpacing(24);
+    columns->setSpacing(20);
     for (const auto* groups : {&one.left, &one.right})
         columns->addLayout(column(editor, *groups), 1);
     layout->addLayout(columns);
@@ -172,7 +172,7 @@ QLayout* EditorViewYears::boxRow(const Bausteineditor& editor, const BoxGroup& g
     row->setSpacing(6);
     const bool red = editor.IstRot(box);
     auto* mark = new QLabel(red ? QStringLiteral("»") : QString::number(number), this);
-    mark->setFixedWidth(18);
+    mark->setFixedWidth(mark->fontMetrics().horizontalAdvance(QStringLiteral("99")) + 2);
     spoken::silence(*mark); // the box tells it
     mark->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const auto place = std::ranges::find(group.boxes, &box) - group.boxes.begin() + 1;

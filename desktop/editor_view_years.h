@@ -31,6 +31,7 @@ class EditorViewYears : public ScreenWindow {
 
     void build(const Parts& parts, const std::vector<EditorPage>& pages);
     QWidget* loadRow(const Parts& parts);
+    QWidget* besideNote(const Bausteineditor& editor);
     QWidget* info(TextBox& box, const QString& name);
     QLayout* pageButtons(const std::vector<EditorPage>& pages);
     QWidget* page(const Bausteineditor& editor, const EditorPage& one);

@@ -25,13 +25,7 @@ QString tr(const char* text) { return QCoreApplication::translate("entryparts", 
 
 QBoxLayout* titleRow(Binder& binder, const Head& parts) {
     auto* row = new QHBoxLayout;
-    QLabel* purpose = binder.label(parts.Purpose);
-    purpose->setFont(theme::scaledFont(1.15, QFont::DemiBold));
-    purpose->setWordWrap(false);
-    QLabel* className = binder.label(parts.ClassName);
-    className->setFont(theme::scaledFont(1.15, QFont::DemiBold));
-    row->addWidget(purpose);
-    row->addWidget(className, 1);
+    addTitle(*row, binder, parts.Purpose, parts.ClassName, 1.15);
     row->addWidget(binder.signButton(parts.Help, QStringLiteral("?"), tr("Hilfe"),
                                      QKeySequence::HelpContents));
     return row;
@@ -40,13 +34,10 @@ QBoxLayout* titleRow(Binder& binder, const Head& parts) {
 QBoxLayout* selectionRow(Binder& binder, const Head& parts, std::initializer_list<Key> sections) {
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
-    EntryCombo* pupils = pupilList(binder, parts.Pupils);
-    pupils->setMinimumWidth(380);
-    pupils->setFont(theme::scaledFont(1.1, QFont::DemiBold));
-    row->addWidget(pupils);
+    row->addWidget(pupilList(binder, parts.Pupils), 1);
     for (const Key& section : sections)
         row->addWidget(binder.button(section.Control, section.Mnemonic));
-    row->addStretch();
+    row->addStretch(1);
     return row;
 }
 
@@ -66,7 +57,15 @@ QWidget* deletedText(Binder& binder, TextBox& box, const Button& reset) {
 } // namespace
 
 EntryCombo* pupilList(Binder& binder, ComboBox& pupils) {
+    constexpr int LeastName = 20; // characters
+    constexpr int LongName = 52;
     EntryCombo* widget = binder.combo(pupils, tr("Namensliste"));
+    widget->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    const int letter = widget->fontMetrics().averageCharWidth();
+    widget->setMinimumWidth(LeastName * letter);
+    widget->setMaximumWidth(LongName * letter);
+    widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const QKeySequence key(Qt::ALT | Qt::Key_E);
     widget->setToolTip(tr("Namensliste (%1)").arg(key.toString(QKeySequence::NativeText)));
     auto* shortcut = new QShortcut(key, widget);
@@ -87,6 +86,22 @@ QBoxLayout* head(Binder& binder, const Head& parts, std::initializer_list<Key> s
     return row;
 }
 
+// Only with its greatest width the title leaves the rest of the row to what it is about.
+void addTitle(QBoxLayout& row, Binder& binder, Label& title, Label& about, double size) {
+    constexpr int All = 1000;
+    QLabel* widget = binder.label(title);
+    widget->setFont(theme::scaledFont(size, QFont::DemiBold));
+    binder.follow([widget] {
+        const QSize line = widget->fontMetrics().size(Qt::TextSingleLine, widget->text());
+        widget->setMaximumWidth(line.width() + 2);
+    });
+    row.addWidget(widget, All);
+    QLabel* beside = binder.label(about);
+    beside->setFont(theme::scaledFont(size, QFont::DemiBold));
+    beside->setWordWrap(false);
+    row.addWidget(beside, 1);
+}
+
 QLabel* nextStep(Binder& binder, Label& label) {
     QLabel* widget = binder.label(label);
     widget->setFont(theme::scaledFont(1.4));
@@ -100,7 +115,9 @@ QLabel* nextStep(Binder& binder, Label& label) {
 QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name, const Button& reset) {
     TextEditor* editor = binder.text(box, name);
     editor->setFont(theme::scaledFont(1.08));
-    editor->setMinimumHeight(120);
+    // The pages come first, but three lines are always there.
+    editor->setMinimumHeight(3 * editor->fontMetrics().lineSpacing() + 12);
+    editor->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     auto* caption = new QLabel(name, editor->parentWidget());
     caption->setFont(theme::scaledFont(0.92));
     caption->setBuddy(editor);

@@ -42,7 +42,10 @@ struct Head {
 /// first.
 QBoxLayout* head(Binder& binder, const Head& parts, std::initializer_list<Key> sections);
 
-/// The choice of the child. It has the keyboard first, and Alt+E brings it.
+/// A title and what it is about, in one line if there is room for both.
+void addTitle(QBoxLayout& row, Binder& binder, Label& title, Label& about, double size);
+
+/// The choice of the child, as wide as names are. It has the keyboard first, and Alt+E brings it.
 EntryCombo* pupilList(Binder& binder, ComboBox& pupils);
 
 /// The large line that says what to do next, as long as no page is shown.

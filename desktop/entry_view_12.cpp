@@ -1,10 +1,10 @@
 #include "desktop/entry_view_12.h"
 
 #include "desktop/entry_parts.h"
-#include "desktop/page_area.h"
+#include "desktop/even_rows.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
-#include "toolkit/entry_combo.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 
 #include <QFrame>
@@ -77,7 +77,7 @@ EntryView12::EntryView12(Kompetenzen& screen, WindowHost& host, QWidget* below)
     jumpBetweenPageAndText();
     warnBeforeClosing(entryparts::lostSinceSaving());
     bind().placeOfTexts([this] { return std::vector{m_entry.aktSchueler, m_entry.aktSeite}; });
-    resize(1270, 760);
+    wishSize({1270, 760});
 }
 
 // Two rows, so that the pages have the room that they need.
@@ -96,25 +96,15 @@ QBoxLayout* EntryView12::head() {
 QBoxLayout* EntryView12::titleRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
-    EntryCombo* pupils = entryparts::pupilList(bind(), m_entry.Combo1);
-    pupils->setMinimumWidth(330);
-    pupils->setFont(theme::scaledFont(1.1, QFont::DemiBold));
-    row->addWidget(pupils);
-    QLabel* purpose = bind().label(m_entry.Label1);
-    purpose->setFont(theme::scaledFont(1.0, QFont::DemiBold));
-    purpose->setWordWrap(false);
-    row->addWidget(purpose);
-    QLabel* className = bind().label(m_entry.Label2);
-    className->setFont(theme::scaledFont(1.0, QFont::DemiBold));
-    row->addWidget(className, 1);
+    row->addWidget(entryparts::pupilList(bind(), m_entry.Combo1), 1);
+    entryparts::addTitle(*row, bind(), m_entry.Label1, m_entry.Label2, 0.92);
     row->addWidget(bind().signButton(m_entry.Command8, QStringLiteral("?"), tr("Hilfe"),
                                      QKeySequence::HelpContents));
     return row;
 }
 
-QBoxLayout* EntryView12::pageButtons() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(6);
+QLayout* EntryView12::pageButtons() {
+    auto* row = new EvenRows(6);
     m_entry.Command1.each([&](Button& button) {
         const int page = *button.index();
         TintedButton* widget = bind().button(button, PageKeys[page]);
@@ -126,7 +116,7 @@ QBoxLayout* EntryView12::pageButtons() {
                                    ? TintedButton::Content::Empty
                                    : TintedButton::Content::Filled);
         });
-        row->addWidget(widget, 1);
+        row->addWidget(widget);
     });
     bind().oneStop(controlsOf(m_entry.Command1));
     return row;
@@ -341,8 +331,7 @@ QBoxLayout* EntryView12::texts() {
         });
         QWidget* editor = bind().widgetOf(box);
         editor->setFont(theme::scaledFont(1.0));
-        editor->setMinimumHeight(76);
-        editor->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+        editor->setMinimumHeight(3 * editor->fontMetrics().lineSpacing() + 12);
         editor->setAccessibleName(tr("Zeugnistext: %1").arg(qString(bereich(page).Name)));
     });
     return row;

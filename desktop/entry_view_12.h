@@ -6,6 +6,7 @@
 class QBoxLayout;
 class QFrame;
 class QGridLayout;
+class QLayout;
 class QVBoxLayout;
 
 namespace zeugnis {
@@ -17,7 +18,7 @@ class EntryView12 : public ScreenWindow {
   private:
     QBoxLayout* head();
     QBoxLayout* titleRow();
-    QBoxLayout* pageButtons();
+    QLayout* pageButtons();
     QWidget* pages();
     QBoxLayout* texts();
     QBoxLayout* actions();

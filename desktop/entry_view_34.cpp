@@ -1,8 +1,8 @@
 #include "desktop/entry_view_34.h"
 
 #include "desktop/entry_parts.h"
-#include "desktop/page_area.h"
 #include "desktop/theme.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 #include "years34/colours.h"
 
@@ -61,8 +61,8 @@ QLabel* readOn() {
 EntryView34::EntryView34(GSAGFI& screen, WindowHost& host, QWidget* below)
     : ScreenWindow(screen, host, below), m_entry(screen) {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(20, 14, 20, 14);
-    layout->setSpacing(10);
+    layout->setContentsMargins(20, 10, 20, 10);
+    layout->setSpacing(7);
     layout->addLayout(entryparts::head(
         bind(),
         {m_entry.Picture1, m_entry.Label1, m_entry.Label5, m_entry.Command8, m_entry.Combo1},
@@ -89,7 +89,7 @@ EntryView34::EntryView34(GSAGFI& screen, WindowHost& host, QWidget* below)
                                                    .Leave = {m_entry.Command1(1), u'b'}}));
     warnBeforeClosing(entryparts::lostSinceSaving());
     bind().placeOfTexts([this] { return std::vector{m_entry.AktuellerSchueler, m_entry.Seite}; });
-    resize(1220, 760);
+    wishSize({1220, 760});
 }
 
 // The lock sign lies above the pages, in the corner where they end.
@@ -110,12 +110,13 @@ QVBoxLayout* EntryView34::beginPage(Frame& frame, Label* hint) {
     auto* caption = new QLabel(qString(frame.Caption));
     caption->setFont(theme::scaledFont(1.1, QFont::DemiBold));
     top->addWidget(caption);
-    top->addStretch();
     if (hint != nullptr) {
         QLabel* widget = bind().label(*hint);
-        widget->setWordWrap(false);
+        widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         widget->setFont(theme::scaledFont(0.92));
-        top->addWidget(widget);
+        top->addWidget(widget, 1);
+    } else {
+        top->addStretch();
     }
     layout->addLayout(top);
     return layout;
@@ -225,10 +226,12 @@ QWidget* EntryView34::interests() {
 
 QBoxLayout* EntryView34::badges() {
     auto* row = new QHBoxLayout;
-    row->setSpacing(40);
+    row->setSpacing(24);
     for (size_t group = 0; group < BadgeGroups.size(); ++group) {
         QVBoxLayout* part = column();
-        part->addWidget(heading(m_entry.Label16(static_cast<int>(group))));
+        QLabel* name = heading(m_entry.Label16(static_cast<int>(group)));
+        name->setWordWrap(false);
+        part->addWidget(name);
         auto* pictures = new QHBoxLayout;
         pictures->setSpacing(4);
         for (int i = BadgeGroups.at(group).first; i <= BadgeGroups.at(group).second; ++i) {

@@ -2,6 +2,7 @@
 
 #include "desktop/entry_parts.h"
 #include "desktop/theme.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 
 #include <QFrame>
@@ -11,20 +12,25 @@
 #include <QVBoxLayout>
 
 namespace zeugnis {
+namespace {
+
+constexpr int CategoryLetters = 27;
+
+} // namespace
 
 EntryViewAVSV::EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidget* below)
     : ScreenWindow(screen, host, below), m_entry(screen) {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(20, 14, 20, 14);
-    layout->setSpacing(10);
+    layout->setContentsMargins(20, 10, 20, 10);
+    layout->setSpacing(6);
     layout->addLayout(entryparts::head(
         bind(),
         {m_entry.Picture1, m_entry.Label1, m_entry.Label2, m_entry.Command8, m_entry.Combo1},
         {{m_entry.Command1, u'A'}, {m_entry.Command2, u'S'}}));
     showSection();
     layout->addWidget(entryparts::nextStep(bind(), m_entry.Label3));
-    layout->addWidget(choices(), 3);
-    layout->addLayout(texts(), 2);
+    layout->addWidget(choices());
+    layout->addLayout(texts(), 1);
     layout->addLayout(entryparts::actions(bind(), {.Reset = {m_entry.Command6, u'n'},
                                                    .ShowPhrases = {m_entry.Command7(0), u'z'},
                                                    .HidePhrases = {m_entry.Command7(1), u'v'},
@@ -36,7 +42,7 @@ EntryViewAVSV::EntryViewAVSV(GsArbeitsverhalten& screen, WindowHost& host, QWidg
     bind().placeOfTexts([this] {
         return std::vector{m_entry.Schueler, static_cast<int>(m_entry.Bereich)};
     });
-    resize(1220, 760);
+    wishSize({1220, 760});
 }
 
 void EntryViewAVSV::showSection() {
@@ -61,16 +67,14 @@ void EntryViewAVSV::showCategory(TintedButton& widget, int category) {
 }
 
 QWidget* EntryViewAVSV::choices() {
-    auto* area = new QWidget(this);
-    auto* row = new QHBoxLayout(area);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* area = new PageArea(this);
+    auto* row = new QHBoxLayout;
     row->setSpacing(12);
     auto* categories = new QVBoxLayout;
     categories->setSpacing(5);
     m_entry.Command3.each([&](Button& button) {
         TintedButton* widget = bind().button(button);
-        widget->setMinimumWidth(244);
-        widget->setMaximumWidth(244);
+        widget->setFixedWidth(CategoryLetters * widget->fontMetrics().averageCharWidth());
         bind().follow([this, widget, k = *button.index()] { showCategory(*widget, k); });
         categories->addWidget(widget);
     });
@@ -80,13 +84,14 @@ QWidget* EntryViewAVSV::choices() {
     row->addWidget(lines(*area), 1);
     // Not in the frame: it tells that the frame is disabled.
     row->addWidget(entryparts::lockSign(bind(), m_entry.Picture4), 0, Qt::AlignVCenter);
+    area->add(*row);
     return area;
 }
 
 QWidget* EntryViewAVSV::lines(QWidget& area) {
     QFrame* frame = bind().frame(m_entry.Frame1);
     auto* column = new QVBoxLayout(frame);
-    column->setContentsMargins(14, 8, 14, 8);
+    column->setContentsMargins(14, 5, 14, 5);
     column->setSpacing(1);
     auto* caption = new QLabel(frame);
     caption->setFont(theme::scaledFont(1.1, QFont::DemiBold));

@@ -3,6 +3,8 @@
 #include "desktop/entry_list.h"
 #include "desktop/place_beside.h"
 #include "desktop/window_host.h"
+#include "toolkit/window_place.h"
+#include "toolkit/wrapped_entries.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -39,6 +41,7 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
         if (screen.KopfzeileBeendet())
             list->item(0)->setFlags(Qt::NoItemFlags);
     });
+    list->setItemDelegate(new WrappedEntries(list));
     list->setMinimumHeight(LeastListHeight);
     layout->addWidget(list, 1);
     layout->addWidget(bind().check(screen.Check1));
@@ -54,7 +57,7 @@ InsertionView::InsertionView(Einfuegungen& screen, WindowHost& host, QWidget* be
     layout->addLayout(buttons);
 
     bind().holdBack(screen.Command1(0), [&screen] { return !screen.EintragGewaehlt(); });
-    resize(Wished);
+    wishSize(Wished, Growth::None);
 }
 
 // Over the lines that are locked meanwhile, not over what the phrases are for.
@@ -62,14 +65,13 @@ void InsertionView::place() {
     const QWidget* served = host().frontWindow(this);
     if (served == nullptr)
         return ScreenWindow::place();
-    // Before a window is shown nobody knows how wide its frame is.
-    constexpr QSize Frame(12, 38);
-    const int leastHeight = layout()->minimumHeightForWidth(Wished.width());
-    const QSize wished(Wished.width(), qMax(Wished.height(), leastHeight));
-    const QRect best = placeBeside(*served, wished, {wished.width(), leastHeight}, Frame,
-                                   screen()->availableGeometry());
-    resize(best.size() - Frame);
-    move(best.topLeft());
+    const QMargins frame = windowplace::frameOf(*this);
+    const QSize last = placed() ? placed()->geometry.size() : windowplace::atFont(Wished);
+    const int leastHeight = layout()->totalMinimumHeightForWidth(last.width());
+    const QSize wished = last.expandedTo({0, leastHeight});
+    const QRect best = placeBeside(*served, wished, {wished.width(), leastHeight},
+                                   QSize(0, 0).grownBy(frame), screen()->availableGeometry());
+    setGeometry(best.marginsRemoved(frame));
     m_cameUpAt = pos();
 }
 

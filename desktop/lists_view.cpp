@@ -22,7 +22,7 @@ ListsView::ListsView(Listen& screen, WindowHost& host, QWidget* below)
         layout->addWidget(bind().button(button, Mnemonics[index], role));
     });
     layout->addStretch();
-    resize(420, 440);
+    wishSize({420, 440}, Growth::None);
 }
 
 } // namespace zeugnis

@@ -3,8 +3,11 @@
 #include "desktop/comfort/class_list_window.h"
 #include "desktop/elided_label.h"
 #include "desktop/entry_list.h"
+#include "desktop/even_rows.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
+#include "toolkit/flow_row.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 
 #include <QFrame>
@@ -22,6 +25,7 @@ namespace {
 
 constexpr int FieldSpacing = 12;
 constexpr int ApartFromTheRest = 14; // of what deletes
+constexpr int RowLetters = 20;       // of the list of pupils
 
 QFrame* area(const QString& name, QWidget* parent) {
     auto* frame = new QFrame(parent);
@@ -70,7 +74,7 @@ MasterDataView::MasterDataView(GsBasis& screen, WindowHost& host, QWidget* below
     });
     bind().widgetOf(m_basis.Combo1)->setFocus();
     bind().placeOfTexts([this] { return std::vector{m_basis.AktuellerSchueler}; });
-    resize(1240, 740);
+    wishSize({1240, 740});
 }
 
 QBoxLayout* MasterDataView::head() {
@@ -89,10 +93,11 @@ QBoxLayout* MasterDataView::head() {
     return row;
 }
 
-QBoxLayout* MasterDataView::areaHead(const QString& title, const Control& lockedWith,
-                                     std::initializer_list<TintedButton*> buttons) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(10);
+QLayout* MasterDataView::areaHead(const QString& title, const Control& lockedWith,
+                                  std::initializer_list<TintedButton*> buttons) {
+    constexpr int FirstButton = 2;
+    auto* row = new FlowRow(10);
+    row->alignRightFrom(FirstButton);
     auto* label = new QLabel(title, this);
     label->setFont(theme::scaledFont(1.1, QFont::DemiBold));
     row->addWidget(label);
@@ -107,10 +112,9 @@ QBoxLayout* MasterDataView::areaHead(const QString& title, const Control& locked
                                            : tr("%1 sind freigegeben.").arg(title));
     });
     row->addWidget(lock);
-    row->addStretch();
     for (TintedButton* button : buttons) {
         if (button->role() == TintedButton::Role::Danger)
-            row->addSpacing(ApartFromTheRest);
+            row->setSpaceBefore(row->count(), ApartFromTheRest);
         row->addWidget(button);
     }
     return row;
@@ -148,25 +152,41 @@ QWidget* MasterDataView::schoolArea() {
     column->setSpacing(7);
     column->addLayout(areaHead(frame->accessibleName(), m_basis.Text1(0),
                                {bind().button(m_basis.Command3, u'u')}));
-    column->addLayout(schoolField(0));
-    column->addLayout(schoolField(1));
-    column->addLayout(schoolField(2));
-    column->addLayout(schoolField(10));
+    column->addWidget(scrolled(*schoolForm()), 1);
+    return frame;
+}
+
+QBoxLayout* MasterDataView::schoolForm() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(7);
+    for (const int field : {0, 1, 2, 10})
+        column->addLayout(schoolField(field));
     column->addLayout(side({{schoolField(5), 3}, {schoolField(3), 5}, {schoolField(4), 3}}));
-    column->addLayout(side({{schoolField(8), 1}, {schoolField(7), 1}}));
+    auto* days = new EvenRows(FieldSpacing);
+    for (const int field : {8, 7})
+        days->add(*schoolField(field));
+    column->addLayout(days);
     column->addLayout(schoolField(9));
     column->addStretch();
     column->addLayout(schoolField(6));
     column->addLayout(pathRow());
-    return frame;
+    return column;
 }
 
-QBoxLayout* MasterDataView::pathRow() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
+QWidget* MasterDataView::scrolled(QLayout& form) {
+    auto* area = new PageArea(this);
+    area->fillRoom();
+    area->add(form);
+    return area;
+}
+
+QLayout* MasterDataView::pathRow() {
+    auto* row = new FlowRow(8);
+    row->alignRightFrom(1);
     QLabel* purpose = bind().label(m_basis.Label5);
     purpose->setFont(theme::scaledFont(0.88));
-    row->addWidget(purpose, 1);
+    purpose->setWordWrap(false);
+    row->addWidget(purpose);
     row->addWidget(bind().button(m_basis.Command7(0), u'P', TintedButton::Role::Quiet));
     row->addWidget(bind().button(m_basis.Command7(1), u'w', TintedButton::Role::Quiet));
     return row;
@@ -184,8 +204,8 @@ QWidget* MasterDataView::pupilArea() {
                   bind().button(m_basis.Command4(0), {}, TintedButton::Role::Danger)}));
     auto* row = new QHBoxLayout;
     row->setSpacing(18);
-    row->addLayout(pupilColumn(), 2);
-    row->addLayout(pupilForm(), 4);
+    row->addLayout(pupilColumn(), 3);
+    row->addWidget(scrolled(*pupilForm()), 5);
     column->addLayout(row, 1);
     return frame;
 }
@@ -196,8 +216,8 @@ QBoxLayout* MasterDataView::pupilColumn() {
     EntryList* pupils = bind().wordedList(m_basis.Combo1, tr("Namensliste"),
                                           [this](int index) { return pupilRow(index); });
     pupils->setObjectName(QStringLiteral("compact"));
-    pupils->setMinimumWidth(245);
-    pupils->setTextElideMode(Qt::ElideRight);
+    pupils->setMinimumWidth(RowLetters * pupils->fontMetrics().averageCharWidth());
+    showWhole(*pupils);
     QLabel* caption = faintLabel(tr("&Nummer:"), this);
     caption->setBuddy(pupils);
     column->addWidget(caption);
@@ -206,6 +226,16 @@ QBoxLayout* MasterDataView::pupilColumn() {
     column->addSpacing(ApartFromTheRest);
     column->addWidget(bind().button(m_basis.Command4(1), {}, TintedButton::Role::Danger));
     return column;
+}
+
+// What has no room in its row is told by the tool tip.
+void MasterDataView::showWhole(EntryList& list) {
+    list.setTextElideMode(Qt::ElideRight);
+    bind().follow([&list] {
+        for (int row = 0; row < list.count(); ++row)
+            if (QListWidgetItem& item = *list.item(row); item.toolTip() != item.text())
+                item.setToolTip(item.text());
+    });
 }
 
 QBoxLayout* MasterDataView::pupilForm() {
@@ -277,7 +307,8 @@ QBoxLayout* MasterDataView::workingGroups() {
             return qString(m_basis.List1.entries().at(static_cast<size_t>(index)));
         });
     groups->setObjectName(QStringLiteral("compact"));
-    groups->setMinimumHeight(96);
+    showWhole(*groups);
+    groups->setMinimumHeight(4 * groups->fontMetrics().lineSpacing() + 20);
     row->addWidget(groups, 1);
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(bind().button(m_basis.Command2(0), u'A', TintedButton::Role::Quiet));

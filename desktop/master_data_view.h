@@ -6,6 +6,7 @@
 class QBoxLayout;
 class QGridLayout;
 class QLabel;
+class QLayout;
 
 namespace zeugnis {
 
@@ -18,16 +19,19 @@ class MasterDataView : public ScreenWindow {
   private:
     QBoxLayout* head();
     QWidget* schoolArea();
-    QBoxLayout* pathRow();
+    QBoxLayout* schoolForm();
+    QWidget* scrolled(QLayout& form);
+    QLayout* pathRow();
     QWidget* pupilArea();
     QBoxLayout* pupilColumn();
+    void showWhole(EntryList& list);
     QBoxLayout* pupilForm();
     QWidget* genderRow();
     QBoxLayout* workingGroups();
     QBoxLayout* actions();
 
-    QBoxLayout* areaHead(const QString& title, const Control& lockedWith,
-                         std::initializer_list<TintedButton*> buttons);
+    QLayout* areaHead(const QString& title, const Control& lockedWith,
+                      std::initializer_list<TintedButton*> buttons);
     QBoxLayout* captioned(TextBox& box, const QString& name, const QString& spokenName = {});
     QBoxLayout* schoolField(int index);
     QBoxLayout* pupilField(int index);

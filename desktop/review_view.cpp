@@ -1,6 +1,7 @@
 #include "desktop/review_view.h"
 
 #include "desktop/theme.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 
 #include <QFrame>
@@ -12,6 +13,8 @@
 
 namespace zeugnis {
 namespace {
+
+constexpr int ChoicesLetters = 32;
 
 // Makes names and headings stand out; the text itself stays as it is.
 class ReviewHeadings : public QSyntaxHighlighter {
@@ -59,7 +62,7 @@ ReviewView::ReviewView(GsAnzeige& screen, WindowHost& host, QWidget* below)
     middle->addLayout(choices());
     middle->addWidget(text(), 1);
     layout->addLayout(middle, 1);
-    resize(1120, 760);
+    wishSize({1120, 760});
 }
 
 QBoxLayout* ReviewView::choices() {
@@ -67,7 +70,7 @@ QBoxLayout* ReviewView::choices() {
     column->setSpacing(4);
     column->addWidget(bind().label(m_review.Label1));
     QFrame* frame = bind().frame(m_review.Frame1);
-    frame->setFixedWidth(290);
+    frame->setMinimumWidth(ChoicesLetters * frame->fontMetrics().averageCharWidth());
     auto* boxes = new QVBoxLayout(frame);
     boxes->setContentsMargins(8, 8, 8, 8);
     boxes->setSpacing(1);
@@ -75,7 +78,10 @@ QBoxLayout* ReviewView::choices() {
     for (const int box : {0, 1, 2, 3, 4, 5, 6, 7, 8, 10, 9})
         boxes->addWidget(bind().check(m_review.Check1(box)));
     bind().widgetOf(m_review.Check1(0))->setFocus();
-    column->addWidget(frame);
+    auto* area = new PageArea(this);
+    area->add(*frame);
+    area->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Maximum);
+    column->addWidget(area);
     column->addSpacing(10);
     column->addWidget(bind().button(m_review.Command1(0), u'T'));
     column->addWidget(bind().button(m_review.Command1(1), u'W'));

@@ -5,16 +5,29 @@
 #include "desktop/dialog_box.h"
 #include "desktop/window_host.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/window_place.h"
 
 #include <QCloseEvent>
-#include <QScreen>
+#include <QHideEvent>
 
 namespace zeugnis {
 
 ScreenWindow::ScreenWindow(Screen& screen, WindowHost& host, QWidget* below)
-    : QWidget(below, Qt::Window), m_screen(&screen), m_host(host), m_binder(host, *this) {
+    : QWidget(below, Qt::Window),
+      m_screen(&screen),
+      m_name(screen.name()),
+      m_host(host),
+      m_binder(host, *this) {
     setWindowTitle(qString(screen.Title));
+    windowplace::keepOnDisplay(*this);
 }
+
+void ScreenWindow::wishSize(QSize size, Growth growth) {
+    m_wished = size;
+    m_growth = growth;
+}
+
+const WindowPlace* ScreenWindow::placed() const { return m_host.placed(m_name); }
 
 void ScreenWindow::refresh() {
     const QWidget* before = focusWidget();
@@ -59,11 +72,21 @@ void ScreenWindow::keepOnTop(bool onTop) {
     setVisible(wasVisible);
 }
 
-// In the middle of the display, and never larger than it.
+// Where it was when it was open before.
 void ScreenWindow::place() {
-    const QRect available = screen()->availableGeometry();
-    resize(size().boundedTo(available.size()));
-    move(available.center() - QPoint(width() / 2, height() / 2));
+    if (const WindowPlace* last = placed()) {
+        setGeometry(last->geometry);
+        windowplace::bringOnDisplay(*this);
+        setWindowState(windowState().setFlag(Qt::WindowMaximized, last->maximised));
+        return;
+    }
+    windowplace::place(*this, m_wished, m_growth);
+}
+
+void ScreenWindow::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (!event->spontaneous())
+        m_host.remember(m_name, {normalGeometry(), isMaximized()});
 }
 
 bool ScreenWindow::showFocus(const Control& control) {

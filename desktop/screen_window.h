@@ -1,6 +1,8 @@
 #pragma once
 
 #include "desktop/binder.h"
+#include "platform/text.h"
+#include "toolkit/window_place.h"
 
 #include <QWidget>
 
@@ -8,6 +10,7 @@ namespace zeugnis {
 
 class Screen;
 class WindowHost;
+struct WindowPlace;
 
 /// The window of one screen: arranges the widgets that its binder makes. A view derives from it,
 /// builds its layout in the constructor and holds no logic.
@@ -39,9 +42,16 @@ class ScreenWindow : public QWidget {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     /// Puts the window where it comes up, as long as it has no place of its own.
     virtual void place();
     [[nodiscard]] virtual bool isPlaced() const { return testAttribute(Qt::WA_Moved); }
+
+    /// The size that suits the window with the usual font.
+    using Growth = windowplace::Growth;
+    void wishSize(QSize size, Growth growth = Growth::WithDisplay);
+    /// How the screen's window was left when it was open before, or null.
+    [[nodiscard]] const WindowPlace* placed() const;
 
     /// What is lost if the user closes the window by its close box; without a text nothing is.
     void warnBeforeClosing(const QString& whatIsLost) { m_lostByClosing = whatIsLost; }
@@ -54,8 +64,11 @@ class ScreenWindow : public QWidget {
     void leaveHelp(const QWidget* before);
 
     Screen* m_screen;
+    Text m_name;
     WindowHost& m_host;
     Binder m_binder;
+    QSize m_wished;
+    Growth m_growth = Growth::None;
     QString m_lostByClosing;
     int m_raises = 0;
 };

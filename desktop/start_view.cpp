@@ -3,6 +3,7 @@
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
+#include "toolkit/page_area.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -13,6 +14,8 @@
 
 namespace zeugnis {
 namespace {
+
+constexpr int PanelWidth = 312;
 
 // The help documents 10 to 13.
 const char* const Overviews[] = {"Erste Schritte mit einer neuen Klasse",
@@ -36,12 +39,12 @@ StartView::StartView(GsStart& screen, WindowHost& host, QWidget* below)
         if (QWidget* first = bind().widgetOf(m_start.Command1(tools ? 4 : 0)))
             first->setFocus();
     });
-    resize(1060, 700);
+    wishSize({1060, 700}, Growth::None);
 }
 
 QWidget* StartView::sidePanel() {
     auto* panel = new QWidget(this);
-    panel->setFixedWidth(312);
+    panel->setFixedWidth(PanelWidth);
     panel->setAutoFillBackground(true);
     QPalette palette = panel->palette();
     palette.setColor(QPalette::Window, theme::colours().HighContrast ? theme::colours().Background
@@ -82,7 +85,7 @@ QWidget* StartView::sidePanel() {
 QBoxLayout* StartView::mainArea() {
     using Role = TintedButton::Role;
     auto* layout = new QVBoxLayout;
-    layout->setContentsMargins(36, 24, 36, 20);
+    layout->setContentsMargins(28, 20, 28, 18);
     layout->setSpacing(8);
     auto* head = new QHBoxLayout;
     QLabel* question = bind().label(m_start.Label2);
@@ -94,20 +97,7 @@ QBoxLayout* StartView::mainArea() {
     layout->addLayout(head);
     layout->addSpacing(6);
 
-    constexpr QChar Mnemonics[] = {u'A', u'I', u'F', u'B', u'T', u'x', u'S', u'P'};
-    for (int i = 0; i <= 6; ++i) {
-        TintedButton* button = bind().button(m_start.Command1(i), Mnemonics[i], Role::Main);
-        if (i == 0)
-            button->setFocus();
-        layout->addWidget(button);
-    }
-    layout->addSpacing(10);
-    layout->addWidget(bind().button(m_start.Command4, u'Z', Role::Main));
-    layout->addWidget(bind().button(m_start.Command6, u'E', Role::Main));
-    layout->addWidget(bind().button(m_start.Command5, u'u', Role::Main));
-    layout->addWidget(bind().button(m_start.Command7, u'L', Role::Main));
-    layout->addSpacing(10);
-    layout->addStretch();
+    layout->addWidget(works(), 1);
     auto* last = new QHBoxLayout;
     last->addWidget(bind().button(m_start.Command2, u'W', Role::Quiet));
     last->addWidget(bind().button(m_start.Command3, u'k', Role::Normal));
@@ -130,6 +120,29 @@ QWidget* StartView::formerStates() {
         button->setVisible(m_start.Command3.Visible && host().beside.showFormerStates);
     });
     return button;
+}
+
+QWidget* StartView::works() {
+    using Role = TintedButton::Role;
+    auto* area = new PageArea(this);
+    area->fillRoom();
+    auto* column = new QVBoxLayout;
+    column->setSpacing(8);
+    constexpr QChar Mnemonics[] = {u'A', u'I', u'F', u'B', u'T', u'x', u'S'};
+    for (int i = 0; i <= 6; ++i) {
+        TintedButton* button = bind().button(m_start.Command1(i), Mnemonics[i], Role::Main);
+        if (i == 0)
+            button->setFocus();
+        column->addWidget(button);
+    }
+    column->addSpacing(10);
+    column->addWidget(bind().button(m_start.Command4, u'Z', Role::Main));
+    column->addWidget(bind().button(m_start.Command6, u'E', Role::Main));
+    column->addWidget(bind().button(m_start.Command5, u'u', Role::Main));
+    column->addWidget(bind().button(m_start.Command7, u'L', Role::Main));
+    column->addStretch();
+    area->add(*column);
+    return area;
 }
 
 QBoxLayout* StartView::helpRow() {

@@ -15,6 +15,7 @@ class StartView : public ScreenWindow {
   private:
     QWidget* sidePanel();
     QBoxLayout* mainArea();
+    QWidget* works();
     QBoxLayout* helpRow();
     QWidget* formerStates();
 

@@ -1,6 +1,7 @@
 #include "desktop/tinted_button.h"
 
 #include "desktop/theme.h"
+#include "desktop/word_width.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -15,6 +16,7 @@ namespace {
 
 constexpr int SidePadding = 12;
 constexpr int TopPadding = 6;
+constexpr int LeastWidth = 80;
 constexpr int WidestLine = 420;
 constexpr int MarkRoom = 2;
 constexpr int BadgeRoom = 12; // beside the padding
@@ -104,7 +106,10 @@ QSize TintedButton::sizeHint() const {
 }
 
 QSize TintedButton::minimumSizeHint() const {
-    return m_role == Role::Round ? sizeHint() : QSize(80, leastHeight());
+    if (m_role == Role::Round)
+        return sizeHint();
+    const int word = widestWord(fontMetrics(), QString(text()).remove(u'&'));
+    return {std::max(LeastWidth, word + 2 * SidePadding), leastHeight()};
 }
 
 int TintedButton::heightForWidth(int width) const {

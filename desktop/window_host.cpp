@@ -166,6 +166,11 @@ ScreenWindow* WindowHost::windowOf(const Screen* screen) const {
     return found == m_windows.end() ? nullptr : found->second.data();
 }
 
+const WindowPlace* WindowHost::placed(const Text& screen) const {
+    const auto found = m_places.find(screen);
+    return found == m_places.end() ? nullptr : &found->second;
+}
+
 void WindowHost::reportFailure(const Laufzeitfehler& failure) {
     m_failed = true;
     m_busy.rest();

@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <Qt>
 
 #include <functional>
@@ -15,6 +16,12 @@ namespace zeugnis {
 
 class Laufzeitfehler;
 class ScreenWindow;
+
+/// How a window was left: without its frame, and as it is when it is not maximised.
+struct WindowPlace {
+    QRect geometry;
+    bool maximised = false;
+};
 
 /// Keeps the windows in step with the running program: every action of the user goes through
 /// run(), and afterwards each shown screen has a window that shows what its controls say.
@@ -76,6 +83,10 @@ class WindowHost : public QObject {
     /// Null if the screen has not been shown yet.
     [[nodiscard]] ScreenWindow* windowOf(const Screen* screen) const;
 
+    /// How the screen's window was left, or null; kept as long as the program runs.
+    [[nodiscard]] const WindowPlace* placed(const Text& screen) const;
+    void remember(const Text& screen, const WindowPlace& place) { m_places[screen] = place; }
+
   signals:
     /// A run-time failure is about to be shown.
     void failed(const zeugnis::Laufzeitfehler& failure);
@@ -91,6 +102,7 @@ class WindowHost : public QObject {
     BusyPointer m_busy;
     // The window of the start page owns the others.
     std::map<const Screen*, QPointer<ScreenWindow>> m_windows;
+    std::map<Text, WindowPlace> m_places;
     int m_depth = 0;
     /// The screens whose windows are or were shown, the one in front last.
     std::vector<const Screen*> m_order;

@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/wrapped_entries.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -14,7 +15,8 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr int PanelWidth = 320;
+constexpr int LeastLetters = 26;
+constexpr int MostLetters = 37;
 
 enum Filter { All, Texts, GradesAndAbsences };
 
@@ -57,6 +59,7 @@ ChecksPanel::ChecksPanel(Quelle quelle, QWidget* parent)
     m_list->setAccessibleName(QStringLiteral("Hinweise vor dem Drucken"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setWordWrap(true);
+    m_list->setItemDelegate(new WrappedEntries(m_list));
     m_list->setResizeMode(QListView::Adjust);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -67,7 +70,8 @@ ChecksPanel::ChecksPanel(Quelle quelle, QWidget* parent)
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons());
     layout->addStretch();
-    setFixedWidth(PanelWidth);
+    setMinimumWidth(LeastLetters * fontMetrics().averageCharWidth());
+    setMaximumWidth(MostLetters * fontMetrics().averageCharWidth());
     connect(m_kind, &QComboBox::activated, this, &ChecksPanel::show);
     connect(m_list, &QListWidget::itemActivated, this, &ChecksPanel::choose);
     connect(m_list, &QListWidget::itemClicked, this, &ChecksPanel::choose);

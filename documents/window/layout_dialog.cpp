@@ -3,12 +3,13 @@
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "toolkit/entry_combo.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/window_place.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,9 +19,8 @@
 namespace zeugnis::dokumente {
 namespace {
 
-constexpr int DialogWidth = 1080;
-constexpr int DialogHeight = 700;
-constexpr int ChoicesWidth = 470;
+constexpr QSize DialogSize(1080, 700);
+constexpr int ChoicesLetters = 54;
 constexpr int TypingPause = 250; // milliseconds
 
 // What the file can hold.
@@ -38,6 +38,14 @@ void choose(QComboBox& combo, Art art) {
     combo.setCurrentIndex(static_cast<int>(art));
 }
 
+void addRow(QBoxLayout& form, const QString& label, QWidget& field) {
+    auto* caption = new QLabel(label);
+    caption->setWordWrap(true);
+    caption->setBuddy(&field);
+    form.addWidget(caption);
+    form.addWidget(&field);
+}
+
 } // namespace
 
 LayoutDialog::LayoutDialog(const Zeugnisaufbau& aufbau, const std::vector<Text>& bilder,
@@ -49,35 +57,39 @@ LayoutDialog::LayoutDialog(const Zeugnisaufbau& aufbau, const std::vector<Text>&
     m_failure->hide();
     m_view->setAccessibleName(QStringLiteral("Probezeugnis"));
     auto* left = new QVBoxLayout;
-    left->addWidget(choices(bilder));
+    auto* area = new PageArea;
+    area->keepRoomToScroll();
+    area->fillRoom();
+    area->add(*choices(bilder), Qt::AlignTop);
+    left->addWidget(area, 1);
     left->addWidget(m_failure);
-    left->addStretch();
     left->addWidget(buttons());
     auto* all = new QHBoxLayout(this);
     all->setContentsMargins(16, 14, 16, 12);
     all->setSpacing(16);
     all->addLayout(left);
     all->addWidget(m_view, 1);
-    resize(DialogWidth, DialogHeight);
+    windowplace::place(*this, DialogSize);
+    windowplace::keepOnDisplay(*this);
     show(aufbau);
     refresh();
     m_view->setZoom(PageView::Zoom::WholePage);
 }
 
-QComboBox* LayoutDialog::choice(QFormLayout& form, const QString& label,
+QComboBox* LayoutDialog::choice(QBoxLayout& form, const QString& label,
                                 const QStringList& entries) {
     auto* combo = new EntryCombo;
     combo->addItems(entries);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    form.addRow(label, combo);
+    addRow(form, label, *combo);
     connect(combo, &QComboBox::activated, this, &LayoutDialog::refresh);
     return combo;
 }
 
-QLineEdit* LayoutDialog::line(QFormLayout& form, const QString& label, const QString& hint) {
+QLineEdit* LayoutDialog::line(QBoxLayout& form, const QString& label, const QString& hint) {
     auto* edit = new QLineEdit;
     edit->setPlaceholderText(hint);
-    form.addRow(label, edit);
+    addRow(form, label, *edit);
     auto* pause = new QTimer(edit);
     pause->setSingleShot(true);
     pause->setInterval(TypingPause);
@@ -88,10 +100,10 @@ QLineEdit* LayoutDialog::line(QFormLayout& form, const QString& label, const QSt
 
 QWidget* LayoutDialog::choices(const std::vector<Text>& bilder) {
     auto* column = new QWidget;
-    column->setFixedWidth(ChoicesWidth);
-    auto* form = new QFormLayout(column);
+    column->setFixedWidth(ChoicesLetters * column->fontMetrics().averageCharWidth());
+    auto* form = new QVBoxLayout(column);
     form->setContentsMargins(0, 0, 0, 0);
-    form->setRowWrapPolicy(QFormLayout::WrapAllRows);
+    form->setSpacing(5);
     m_order = choice(*form, QStringLiteral("&Arbeits- und Sozialverhalten"),
                      {QStringLiteral("vor den Bemerkungen"), QStringLiteral("am Anfang")});
     m_religion = choice(*form, QStringLiteral("&Religionsunterricht in den Jahrgängen 3 und 4"),
@@ -106,7 +118,7 @@ QWidget* LayoutDialog::choices(const std::vector<Text>& bilder) {
     m_picture =
         choice(*form, QStringLiteral("Schulzeichen oder &Bild im Kopf (Ordner „Bild“)"), pictures);
     m_names = new QCheckBox(QStringLiteral("&Namen unter den Unterschriften"));
-    form->addRow(m_names);
+    form->addWidget(m_names);
     connect(m_names, &QCheckBox::clicked, this, &LayoutDialog::refresh);
     m_head = line(*form, QStringLiteral("Name der Schul&leitung"), {});
     connect(m_names, &QCheckBox::toggled, m_head, &QWidget::setEnabled);

@@ -8,7 +8,7 @@
 
 class QCheckBox;
 class QComboBox;
-class QFormLayout;
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 
@@ -30,8 +30,8 @@ class LayoutDialog : public QDialog {
   private:
     QWidget* choices(const std::vector<Text>& bilder);
     QWidget* buttons();
-    QComboBox* choice(QFormLayout& form, const QString& label, const QStringList& entries);
-    QLineEdit* line(QFormLayout& form, const QString& label, const QString& hint);
+    QComboBox* choice(QBoxLayout& form, const QString& label, const QStringList& entries);
+    QLineEdit* line(QBoxLayout& form, const QString& label, const QString& hint);
     void show(const Zeugnisaufbau& aufbau);
     void refresh();
 

@@ -5,7 +5,10 @@
 #include "platform/failure.h"
 #include "platform/whole_file.h"
 #include "toolkit/entry_combo.h"
+#include "toolkit/flow_row.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/window_place.h"
+#include "toolkit/wrapped_entries.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -38,9 +41,11 @@ constexpr std::array<Zoomstufe, 7> Zoomstufen = {{
     {"150 %", PageView::Zoom::Factor, 1.5},
 }};
 
-constexpr int WindowWidth = 1180;
-constexpr int WindowHeight = 760;
-constexpr int WidthWithChecks = 1260;
+constexpr QSize WindowSize(1180, 760);
+constexpr QSize SizeWithChecks(1260, 760);
+constexpr int LeastContentsLetters = 16;
+constexpr int ContentsLetters = 30;
+constexpr int LeastPageWidth = 260;
 
 QString qPfad(const std::filesystem::path& pfad) {
     return QString::fromStdU16String(pfad.u16string());
@@ -68,8 +73,9 @@ PreviewWindow::PreviewWindow(Nachschauen nachschauen, QWidget* parent)
     m_position->setObjectName(QStringLiteral("leise"));
 
     m_middle->setSpacing(14);
-    m_middle->addWidget(contentsColumn());
-    m_middle->addWidget(m_view, 1);
+    m_view->setMinimumWidth(LeastPageWidth);
+    m_middle->addWidget(contentsColumn(), 3);
+    m_middle->addWidget(m_view, 5);
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(m_position);
     bottom->addStretch();
@@ -87,7 +93,8 @@ PreviewWindow::PreviewWindow(Nachschauen nachschauen, QWidget* parent)
     connect(m_view, &PageView::zoomChanged, this, &PreviewWindow::showZoom);
     load();
     showZoom();
-    resize(WindowWidth, WindowHeight);
+    windowplace::place(*this, WindowSize);
+    windowplace::keepOnDisplay(*this);
     m_contents->setFocus();
 }
 
@@ -101,9 +108,8 @@ QPushButton* PreviewWindow::button(const QString& text, const QString& toolTip,
 
 QWidget* PreviewWindow::actionRow() {
     auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(10);
+    m_actions = new FlowRow(10);
+    row->setLayout(m_actions);
     auto* print =
         button(QStringLiteral("&Drucken …"),
                QStringLiteral("Alle oder einzelne Seiten drucken (Strg+P)"), &PreviewWindow::print);
@@ -113,22 +119,19 @@ QWidget* PreviewWindow::actionRow() {
                     &PreviewWindow::edit);
     auto* close = new QPushButton(QStringLiteral("&Schließen"));
     connect(close, &QPushButton::clicked, this, &QWidget::close);
-    layout->addWidget(print);
-    layout->addWidget(button(QStringLiteral("Als &PDF speichern …"),
-                             QStringLiteral("Eine Kopie an einem anderen Ort ablegen (Strg+S)"),
-                             &PreviewWindow::saveAs));
-    layout->addWidget(m_edit);
-    layout->addStretch();
-    layout->addWidget(close);
-    m_actions = layout;
+    m_actions->addWidget(print);
+    m_actions->addWidget(button(QStringLiteral("Als &PDF speichern …"),
+                                QStringLiteral("Eine Kopie an einem anderen Ort ablegen (Strg+S)"),
+                                &PreviewWindow::saveAs));
+    m_actions->addWidget(m_edit);
+    m_actions->addWidget(close);
     return row;
 }
 
 QPushButton* PreviewWindow::addAction(const QString& text, const QString& toolTip) {
-    constexpr int StretchAndClose = 2;
     auto* one = new QPushButton(text);
     one->setToolTip(toolTip);
-    m_actions->insertWidget(m_actions->count() - StretchAndClose, one);
+    m_actions->insertWidget(m_actions->count() - 1, *one); // in front of the last, which closes
     return one;
 }
 
@@ -140,7 +143,6 @@ QWidget* PreviewWindow::zoomRow() {
     for (const Zoomstufe& stufe : Zoomstufen)
         m_zoom->addItem(QString::fromUtf8(stufe.Name));
     m_zoom->setAccessibleName(QStringLiteral("Größe der Ansicht"));
-    m_zoom->setMinimumWidth(150);
     connect(m_zoom, &QComboBox::activated, this, &PreviewWindow::chooseZoom);
     auto* label = new QLabel(QStringLiteral("&Ansicht:"));
     label->setBuddy(m_zoom);
@@ -170,6 +172,8 @@ QWidget* PreviewWindow::contentsColumn() {
     m_contents->setAccessibleName(QStringLiteral("Inhalt"));
     m_contents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_contents->setWordWrap(true);
+    m_contents->setItemDelegate(new WrappedEntries(m_contents));
+    m_contents->setResizeMode(QListView::Adjust);
     // The selection also follows the scrolling; then it must not scroll in its turn.
     connect(m_contents, &QListWidget::currentRowChanged, this, [this](int row) {
         if (m_contents->hasFocus())
@@ -179,7 +183,9 @@ QWidget* PreviewWindow::contentsColumn() {
             [this](QListWidgetItem* item) { goTo(m_contents->row(item)); });
     layout->addWidget(label);
     layout->addWidget(m_contents, 1);
-    column->setFixedWidth(260);
+    const int letter = column->fontMetrics().averageCharWidth();
+    column->setMinimumWidth(LeastContentsLetters * letter);
+    column->setMaximumWidth(ContentsLetters * letter);
     return column;
 }
 
@@ -246,8 +252,8 @@ void PreviewWindow::goTo(int row) {
 void PreviewWindow::showChecks(const ChecksPanel::Quelle& quelle) {
     auto* panel = m_checks = new ChecksPanel(quelle);
     connect(panel, &ChecksPanel::chosen, this, &PreviewWindow::goToFinding);
-    m_middle->addWidget(panel);
-    resize(WidthWithChecks, WindowHeight);
+    m_middle->addWidget(panel, 4);
+    windowplace::place(*this, SizeWithChecks);
     m_view->setZoom(PageView::Zoom::PageWidth);
 }
 

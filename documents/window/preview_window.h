@@ -12,6 +12,10 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 
+namespace zeugnis {
+class FlowRow;
+}
+
 namespace zeugnis::dokumente {
 
 /// Shows a document as it will be printed, and offers what can be done with it.
@@ -61,7 +65,7 @@ class PreviewWindow : public QWidget {
     std::unique_ptr<PdfPages> m_pages;
     std::vector<Inhaltszeile> m_lines;
 
-    QBoxLayout* m_actions = nullptr;
+    FlowRow* m_actions = nullptr;
     QBoxLayout* m_middle;
     PageView* m_view;
     QListWidget* m_contents;

@@ -1,6 +1,7 @@
 #include "documents/window/report_list_view.h"
 
 #include "toolkit/qt_text.h"
+#include "toolkit/window_place.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -16,6 +17,9 @@ namespace {
 
 constexpr int NameWidth = 270; // so that all subjects fit beside it on a small screen
 constexpr int GoodColumn = 90;
+// Pixels that are meant for the usual font.
+int atFont(int pixels) { return windowplace::atFont({pixels, 0}).width(); }
+
 constexpr double HeadShare = 0.86; // of the size of the cells
 constexpr int RowPadding = 4;
 constexpr QSize HeadPadding(10, 10);
@@ -180,9 +184,9 @@ void ReportListView::keyPressEvent(QKeyEvent* event) {
 }
 
 void ReportListView::resizeEvent(QResizeEvent* event) {
-    const int besideColumns =
-        event->size().width() + verticalHeader()->width() - m_model.columnCount() * GoodColumn;
-    verticalHeader()->setMaximumWidth(std::max(NameWidth, besideColumns));
+    const int besideColumns = event->size().width() + verticalHeader()->width() -
+                              m_model.columnCount() * atFont(GoodColumn);
+    verticalHeader()->setMaximumWidth(std::max(atFont(NameWidth), besideColumns));
     QTableView::resizeEvent(event);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/window_place.h"
 
 #include <QAccessible>
 #include <QBoxLayout>
@@ -74,7 +75,8 @@ ReportListWindow::ReportListWindow(Arbeitsverzeichnis verzeichnis, Listenstand s
     showNotice(openingNotice());
     showState();
     showCell();
-    resize(WindowSize);
+    windowplace::place(*this, WindowSize);
+    windowplace::keepOnDisplay(*this);
     m_view->setFocus();
 }
 
@@ -125,7 +127,7 @@ QWidget* ReportListWindow::noticeRow() {
     });
     layout->addWidget(m_hint, 1);
     for (QPushButton* button : {m_takeOver, m_keepTable, m_takeFile})
-        layout->addWidget(button);
+        layout->addWidget(button, 0, Qt::AlignVCenter);
     return row;
 }
 
@@ -134,9 +136,9 @@ QWidget* ReportListWindow::statusRow() {
     QWidget* row = rowOf(layout);
     m_refusal->setWordWrap(true);
     m_refusal->hide();
-    layout->addWidget(m_cell);
+    m_cell->setWordWrap(true);
+    layout->addWidget(m_cell, 1);
     layout->addWidget(m_refusal, 1);
-    layout->addStretch();
     layout->addWidget(m_saved);
     return row;
 }

@@ -1,10 +1,10 @@
 #include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "desktop/choice_row.h"
-#include "desktop/page_area.h"
 #include "desktop/window_host.h"
 #include "tests/desktop/settle_layouts.h"
 #include "tests/support/test_programm.h"
+#include "toolkit/page_area.h"
 #include "years12/entry_screen.h"
 
 #include <QApplication>

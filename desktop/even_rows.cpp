@@ -1,0 +1,107 @@
+#include "desktop/even_rows.h"
+
+#include <algorithm>
+
+namespace zeugnis {
+
+EvenRows::EvenRows(int spacing, double leastShare) : m_leastShare(leastShare) {
+    setSpacing(spacing);
+}
+
+EvenRows::~EvenRows() {
+    for (QLayoutItem* item : m_items)
+        delete item;
+}
+
+void EvenRows::add(QLayout& part) {
+    addChildLayout(&part);
+    addItem(&part);
+}
+
+void EvenRows::addItem(QLayoutItem* item) { m_items.push_back(item); }
+
+int EvenRows::count() const { return static_cast<int>(m_items.size()); }
+
+QLayoutItem* EvenRows::itemAt(int index) const {
+    return index >= 0 && index < count() ? m_items[static_cast<size_t>(index)] : nullptr;
+}
+
+QLayoutItem* EvenRows::takeAt(int index) {
+    QLayoutItem* item = itemAt(index);
+    if (item != nullptr)
+        m_items.erase(m_items.begin() + index);
+    return item;
+}
+
+int EvenRows::widest(QSize (QLayoutItem::*size)() const) const {
+    int width = 0;
+    for (const QLayoutItem* item : m_items)
+        width = std::max(width, (item->*size)().width());
+    return width;
+}
+
+// The rows are filled as evenly as can be: eight in a row become four and four.
+int EvenRows::columnsWithin(int width) const {
+    const int least = std::max(widest(&QLayoutItem::minimumSize),
+                               static_cast<int>(widest(&QLayoutItem::sizeHint) * m_leastShare));
+    int columns = std::max(1, count());
+    for (int rows = 2; columns > 1 && columns * (least + spacing()) - spacing() > width; ++rows)
+        columns = (count() + rows - 1) / rows;
+    return columns;
+}
+
+int EvenRows::columnWidth(int width) const {
+    const int columns = columnsWithin(width);
+    return (width - (columns - 1) * spacing()) / columns;
+}
+
+std::vector<EvenRows::Row> EvenRows::rowsWithin(int width) const {
+    const auto columns = static_cast<size_t>(columnsWithin(width));
+    const int each = columnWidth(width);
+    std::vector<Row> rows;
+    for (size_t i = 0; i < m_items.size(); ++i) {
+        if (i % columns == 0)
+            rows.push_back({{}, 0});
+        QLayoutItem* item = m_items[i];
+        const int height =
+            item->hasHeightForWidth() ? item->heightForWidth(each) : item->sizeHint().height();
+        rows.back().items.push_back(item);
+        rows.back().height = std::max(rows.back().height, height);
+    }
+    return rows;
+}
+
+int EvenRows::heightForWidth(int width) const {
+    int height = -spacing();
+    for (const Row& row : rowsWithin(width))
+        height += row.height + spacing();
+    return std::max(0, height);
+}
+
+QSize EvenRows::sizeHint() const {
+    const int width = count() * (widest(&QLayoutItem::sizeHint) + spacing()) - spacing();
+    return {width, heightForWidth(width)};
+}
+
+QSize EvenRows::minimumSize() const {
+    QSize least;
+    for (const QLayoutItem* item : m_items)
+        least = least.expandedTo(item->minimumSize());
+    return least;
+}
+
+void EvenRows::setGeometry(const QRect& rect) {
+    QLayout::setGeometry(rect);
+    const int each = columnWidth(rect.width());
+    int y = rect.top();
+    for (const Row& row : rowsWithin(rect.width())) {
+        int x = rect.left();
+        for (QLayoutItem* item : row.items) {
+            item->setGeometry({x, y, each, row.height});
+            x += each + spacing();
+        }
+        y += row.height + spacing();
+    }
+}
+
+} // namespace zeugnis

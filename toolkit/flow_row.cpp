@@ -1,0 +1,100 @@
+#include "toolkit/flow_row.h"
+
+#include <QWidgetItem>
+
+#include <algorithm>
+
+namespace zeugnis {
+
+FlowRow::FlowRow(int spacing) {
+    setContentsMargins(0, 0, 0, 0);
+    setSpacing(spacing);
+}
+
+FlowRow::~FlowRow() {
+    for (QLayoutItem* item : m_items)
+        delete item;
+}
+
+void FlowRow::insertWidget(int index, QWidget& widget) {
+    addChildWidget(&widget);
+    m_items.insert(m_items.begin() + index, new QWidgetItem(&widget));
+    invalidate();
+}
+
+void FlowRow::addItem(QLayoutItem* item) { m_items.push_back(item); }
+
+int FlowRow::count() const { return static_cast<int>(m_items.size()); }
+
+QLayoutItem* FlowRow::itemAt(int index) const {
+    return index >= 0 && index < count() ? m_items[static_cast<size_t>(index)] : nullptr;
+}
+
+QLayoutItem* FlowRow::takeAt(int index) {
+    QLayoutItem* item = itemAt(index);
+    if (item != nullptr)
+        m_items.erase(m_items.begin() + index);
+    return item;
+}
+
+std::vector<FlowRow::Row> FlowRow::rowsWithin(int width) const {
+    std::vector<Row> rows;
+    for (size_t i = 0; i < m_items.size(); ++i) {
+        if (m_items[i]->isEmpty())
+            continue;
+        const QSize size = m_items[i]->sizeHint();
+        if (rows.empty() || rows.back().size.width() + spacing() + size.width() > width)
+            rows.push_back({i, i + 1, size});
+        else
+            rows.back() = {rows.back().first,
+                           i + 1,
+                           {rows.back().size.width() + spacing() + size.width(),
+                            std::max(rows.back().size.height(), size.height())}};
+    }
+    return rows;
+}
+
+int FlowRow::heightForWidth(int width) const {
+    int height = -spacing();
+    for (const Row& row : rowsWithin(width))
+        height += row.size.height() + spacing();
+    return std::max(0, height);
+}
+
+QSize FlowRow::sizeHint() const {
+    int width = -spacing();
+    for (const QLayoutItem* item : m_items)
+        width += item->sizeHint().width() + spacing();
+    return {width, heightForWidth(width)};
+}
+
+QSize FlowRow::minimumSize() const {
+    QSize least;
+    for (const QLayoutItem* item : m_items)
+        least = least.expandedTo(item->minimumSize());
+    return least;
+}
+
+void FlowRow::setGeometry(const QRect& rect) {
+    QLayout::setGeometry(rect);
+    const std::vector<Row> rows = rowsWithin(rect.width());
+    int y = rect.top();
+    for (const Row& row : rows) {
+        const bool isLast = &row == &rows.back();
+        int x = rect.left();
+        for (size_t i = row.first; i < row.end; ++i) {
+            if (m_items[i]->isEmpty())
+                continue;
+            const bool atRight = m_firstAtRight < 0 ? isLast && i + 1 == row.end
+                                                    : static_cast<int>(i) >= m_firstAtRight;
+            const QSize size = m_items[i]->sizeHint().boundedTo({rect.width(), row.size.height()});
+            const int indent = atRight ? std::max(0, rect.width() - row.size.width()) : 0;
+            m_items[i]->setGeometry(
+                {{x + indent, y + (row.size.height() - size.height()) / 2}, size});
+            x += size.width() + spacing();
+        }
+        y += row.size.height() + spacing();
+    }
+}
+
+} // namespace zeugnis
