@@ -1,6 +1,6 @@
 // Plays a few steps on the real windows and takes pictures of them, for the help texts:
 //   click SCREEN.CONTROL | select SCREEN.CONTROL ENTRY | picture SCREEN FILE
-//   type SCREEN.CONTROL TEXT | offers FILE | states FILE
+//   type SCREEN.CONTROL SENTENCE | offers FILE | states FILE
 // All questions are answered with Yes.
 
 #include "common/screen_names.h"
@@ -127,7 +127,7 @@ void play(WindowHost& host, BelowTheFiles& net, const std::string& line) {
             std::string more;
             std::getline(words, more);
             reached = user::click(control) &&
-                      user::paste(dynamic_cast<TextBox&>(control), textFromUtf8(rest + more));
+                      user::paste(dynamic_cast<TextBox&>(control), textFromUtf8(" " + rest + more));
             return;
         }
         reached = command == "select"

@@ -76,7 +76,7 @@ QLayout* FormerStatesWindow::ways() {
         return made;
     };
     row->addWidget(new QLabel(tr("Zurückholen:"), this));
-    m_all = button(tr("&Alles von damals"), [this] {
+    m_all = button(tr("&Alles"), [this] {
         bring([this] { return m_states.bringBackAll(); }, tr("Alles ist wieder wie damals."));
     });
     m_pupil = button(tr("Dieses K&ind"), [this] {
@@ -89,6 +89,9 @@ QLayout* FormerStatesWindow::ways() {
         bring([&] { return index && m_states.bringBackText(*index); },
               tr("Der Text ist wieder wie damals."));
     });
+    m_all->setAccessibleName(tr("Alles von damals zurückholen"));
+    m_pupil->setAccessibleName(tr("Alles von diesem Kind zurückholen"));
+    m_text->setAccessibleName(tr("Diesen Text zurückholen"));
     m_copy = button(tr("&Kopieren"), [this] {
         QGuiApplication::clipboard()->setText(m_texts->leftText());
         m_told->setText(tr("Der frühere Text ist kopiert. Mit Strg+V setzen Sie ihn ein."));

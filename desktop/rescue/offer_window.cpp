@@ -66,10 +66,10 @@ OfferWindow::OfferWindow(rescue::OfferList offers, rescue::TypedKeeper& keeper, 
     };
     m_take = button(tr("Ü&bernehmen"), [this] { take(); });
     m_copy = button(tr("&Kopieren"), [this] { copy(); });
-    m_refuse = button(tr("&Nicht übernehmen"), [this] { refuse(); });
+    m_refuse = button(tr("&Ablehnen"), [this] { refuse(); });
     buttons->addStretch();
     button(tr("&Hilfe"), [this] { m_help(); });
-    button(tr("A&lle verwerfen …"), [this] { refuseAll(); });
+    button(tr("A&lle ablehnen …"), [this] { refuseAll(); });
     button(tr("&Später"), [this] { close(); });
     column->addLayout(buttons);
     m_take->setDefault(true);
@@ -176,10 +176,10 @@ void OfferWindow::settled(size_t index) {
 
 void OfferWindow::refuseAll() {
     if (askChoice(this,
-                  tr("Alle %1 aufgehobenen Texte verwerfen? Sie werden dann nicht mehr "
+                  tr("Alle %1 aufgehobenen Texte ablehnen? Sie werden dann nicht mehr "
                      "angeboten.")
                       .arg(m_offers.texts().size()),
-                  {tr("Ja, alle verwerfen"), tr("Nein, aufheben")}, 1) != 0)
+                  {tr("Ja, alle ablehnen"), tr("Nein, aufheben")}, 1) != 0)
         return;
     m_offers.settleAll();
     close();

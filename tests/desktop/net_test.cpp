@@ -169,7 +169,7 @@ TEST_F(NetTest, AFormerStateComesBackWithTwoClicks) {
     running.press(write(running, u"Tom hört zu.").Command4);
     running.host.run([&] { running.programm.unload(bildschirme::GsArbeitsverhalten); });
     ASSERT_NE(file(u"Daten/AVSVspeicher.txt").find("Tom hört zu."), std::string::npos);
-    answer({QStringLiteral("Alles von damals"), QStringLiteral("Schließen")});
+    answer({QStringLiteral("Alles"), QStringLiteral("Schließen")});
     running.host.beside.showFormerStates();
     EXPECT_EQ(file(u"Daten/AVSVspeicher.txt").find("Tom hört zu."), std::string::npos);
 }
