@@ -58,11 +58,11 @@ Text SchadenDerListe(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& da
     if (istAndersKodiert(*bytes, daten))
         return datei + u"ist in einer anderen Zeichenkodierung gespeichert, vermutlich von einem "
                        u"Texteditor.";
+    if (bytes->back() != '\n')
+        return datei + u"bricht mittendrin ab.";
     try {
         const Zeilen zeilen =
             ListenzeilenAus(*bytes, verzeichnis.displayName(dateiVon(daten)), daten.Jahrgang);
-        if (bytes->back() != '\n')
-            return datei + u"bricht mittendrin ab.";
         const auto anzahl = static_cast<int>(zeilen.size());
         if (anzahl < daten.Liste.Schuelerzahl)
             return datei + u"enthält nur " + textFromNumber(anzahl) + u" von " +

@@ -198,7 +198,7 @@ TEST_F(ReportListWindowTest, ADamagedFileTakesNothingFromTheTable) {
         std::optional<Text> content; // nothing: it is removed
         const char* words;
     } damages[] = {{u"", "ist leer"},
-                   {one.substr(0, 30), "Zeugnisliste32.txt"},
+                   {one.substr(0, 30), "bricht mittendrin ab"},
                    {one, "nur 1 von 2 Kindern"},
                    {std::nullopt, "nicht mehr da"}};
     for (const auto& damage : damages)
