@@ -2,7 +2,6 @@
 
 #include "documents/app/word_processor.h"
 #include "documents/window/print_pages.h"
-#include "documents/window/theme.h"
 #include "platform/failure.h"
 #include "platform/whole_file.h"
 #include "toolkit/entry_combo.h"

@@ -1,6 +1,5 @@
 #include "documents/window/report_list_window.h"
 
-#include "documents/window/theme.h"
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
 #include "toolkit/qt_text.h"

@@ -46,13 +46,17 @@ ReportWindow::ReportWindow(Arbeitsverzeichnis programmordner, Nachschauen nachsc
         addAction(QStringLiteral("&Aufbau …"),
                   QStringLiteral("Reihenfolge, Schulzeichen, Namen und Sätze am Ende festlegen"));
     connect(layout, &QPushButton::clicked, this, &ReportWindow::changeLayout);
+    QPushButton* files =
+        addAction(QStringLiteral("&Je Kind eine Datei"),
+                  QStringLiteral("Für jedes Kind eine PDF-Datei mit Name und Klasse anlegen, dazu "
+                                 "eine mit allen"));
+    connect(files, &QPushButton::clicked, this, &ReportWindow::writeOneForEach);
     auto* menu = new QMenu(this);
-    menu->addAction(FilesTitle, this, &ReportWindow::writeOneForEach);
     menu->addAction(ConferenceTitle, this, &ReportWindow::showConferenceSheet);
     menu->addAction(TextsTitle + QStringLiteral(" …"), this, &ReportWindow::saveTexts);
     addAction(QStringLiteral("Weite&re Dateien"),
-              QStringLiteral("Für jedes Kind eine PDF-Datei, ein Blatt für die Konferenz oder alle "
-                             "Texte als Tabelle"))
+              QStringLiteral("Die Klasse auf einem Blatt für die Konferenz, oder alle Texte als "
+                             "Tabelle"))
         ->setMenu(menu);
 }
 
