@@ -4,6 +4,7 @@
 #include "desktop/even_rows.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
+#include "toolkit/entry_combo.h"
 #include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 
