@@ -204,7 +204,7 @@ Text EintraegeAufheben(const Arbeitsverzeichnis& verzeichnis, const Stammdaten& 
                        const Schuelertabelle<Eintrag>& eintraege, const Text& heute) {
     if (Zeugnisliste{.Eintraege = eintraege, .OhneKind = {}}.istLeer())
         return {};
-    if (const Text letzte = LetzteKopie(verzeichnis, daten); !letzte.empty()) {
+    if (Text letzte = LetzteKopie(verzeichnis, daten); !letzte.empty()) {
         const Zeugnisliste liste =
             Zuordnen(ListenzeilenLesen(verzeichnis, letzte, daten.Jahrgang), daten.Liste);
         if (std::equal(eintraege.begin(), eintraege.end(), liste.Eintraege.begin()))
