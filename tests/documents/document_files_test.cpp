@@ -101,20 +101,19 @@ TEST_F(DocumentFiles, WritesNothingOnceItIsToldToStop) {
 
 TEST_F(DocumentFiles, AnEmptyClassListGivesOneHelpfulSentenceInEveryDocument) {
     installation.write(u"Daten/Namen.Txt", u"");
-    for (const auto& [document, macro] :
-         {std::pair{u"ZeugnisseSchreiben.doc", u"ZeugnisseSchreiben"},
-          {u"ZeugnisseAnlagen.doc", u"ZeugnisseAnlagen"},
-          {u"KlListe.doc", u"Klassenliste"},
-          {u"StListe.doc", u"Strichliste"},
-          {u"BldListe.doc", u"Bilderliste"},
-          {u"Leerformular.doc", u"Leerformular"},
-          {u"Zeugnisliste.doc", u"Zeugnisliste"},
-          {u"ZeugnislisteNeu.doc", u"ZeugnislisteNeu"}}) {
-        const Text sentence = test::failureSentenceOf([&] { open(document, macro); });
+    for (const auto& key : {std::pair{u"ZeugnisseSchreiben.doc", u"ZeugnisseSchreiben"},
+                            {u"ZeugnisseAnlagen.doc", u"ZeugnisseAnlagen"},
+                            {u"KlListe.doc", u"Klassenliste"},
+                            {u"StListe.doc", u"Strichliste"},
+                            {u"BldListe.doc", u"Bilderliste"},
+                            {u"Leerformular.doc", u"Leerformular"},
+                            {u"Zeugnisliste.doc", u"Zeugnisliste"},
+                            {u"ZeugnislisteNeu.doc", u"ZeugnislisteNeu"}}) {
+        const Text sentence = test::failureSentenceOf([&] { open(key.first, key.second); });
         EXPECT_NE(sentence.find(u"noch keine Klasse. Tragen Sie sie im Zeugnisprogramm unter "
                                 u"„Basisdaten“ ein."),
                   Text::npos)
-            << utf8FromText(macro) << ": " << utf8FromText(sentence);
+            << utf8FromText(key.second) << ": " << utf8FromText(sentence);
     }
 }
 
@@ -151,7 +150,7 @@ TEST_F(DocumentFiles, TellsByTheContentWhetherADocumentWasEdited) {
 TEST_F(DocumentFiles, TextsInTheTemporaryFolderGoAtTheNextStart) {
     qputenv("TMPDIR", installation.path().c_str());
     const auto left = [&](const char* name, bool edited) {
-        const fs::path folder = installation.path() / name;
+        fs::path folder = installation.path() / name;
         fs::create_directories(folder / "profil");
         AnzeigetextSchreiben(folder, u"Azra liest.");
         std::ofstream(folder / "offen").flush();
