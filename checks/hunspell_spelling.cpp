@@ -1,19 +1,18 @@
 #include "checks/hunspell_spelling.h"
 
-#include <array>
+#include "platform/program_search.h"
+
 #include <filesystem>
 #include <hunspell/hunspell.hxx>
 
 namespace zeugnis {
 namespace {
 
-constexpr std::array Woerterbuecher = {"/usr/share/hunspell/de_DE",
-                                       "/usr/share/myspell/dicts/de_DE"};
-
 class HunspellRechtschreibung : public Rechtschreibung {
   public:
-    explicit HunspellRechtschreibung(const std::string& stamm)
-        : m_hunspell((stamm + ".aff").c_str(), (stamm + ".dic").c_str()),
+    HunspellRechtschreibung(const std::filesystem::path& regeln,
+                            const std::filesystem::path& woerter)
+        : m_hunspell(nameForCLibrary(regeln).c_str(), nameForCLibrary(woerter).c_str()),
           m_utf8(m_hunspell.get_dict_encoding() == "UTF-8") {}
 
     [[nodiscard]] bool kennt(TextView wort) const override {
@@ -36,9 +35,10 @@ class HunspellRechtschreibung : public Rechtschreibung {
 
 std::unique_ptr<Rechtschreibung> DeutscheRechtschreibung() {
     std::error_code ignored;
-    for (const char* stamm : Woerterbuecher)
-        if (std::filesystem::exists(std::string(stamm) + ".dic", ignored))
-            return std::make_unique<HunspellRechtschreibung>(stamm);
+    for (const std::filesystem::path& ordner : dictionaryFolders())
+        if (std::filesystem::exists(ordner / "de_DE.dic", ignored))
+            return std::make_unique<HunspellRechtschreibung>(ordner / "de_DE.aff",
+                                                             ordner / "de_DE.dic");
     return nullptr;
 }
 

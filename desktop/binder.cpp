@@ -363,7 +363,7 @@ PictureView* Binder::picture(PictureBox& control, QSize preferred, const QString
         if (shown == control.loads())
             return;
         shown = control.loads();
-        widget->setPixmap(QPixmap(QString::fromStdString(control.file().string())));
+        widget->setPixmap(QPixmap(qPath(control.file())));
     });
     return widget;
 }

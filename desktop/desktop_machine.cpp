@@ -46,7 +46,7 @@ Text DesktopClipboard::text() {
 }
 
 bool DesktopPictures::canShow(const std::filesystem::path& file) {
-    QImageReader reader(QString::fromStdString(file.string()), "jpeg");
+    QImageReader reader(qPath(file), "jpeg");
     return !reader.read().isNull();
 }
 

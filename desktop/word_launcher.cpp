@@ -1,6 +1,7 @@
 #include "desktop/word_launcher.h"
 
 #include "platform/failure.h"
+#include "platform/program_search.h"
 #include "platform/working_directory.h"
 #include "toolkit/qt_text.h"
 
@@ -16,6 +17,8 @@ QString foundProgram(const QString& name) {
     for (const QString& spelling : {name, name.toLower(), name.toUpper()})
         if (QString found = QStandardPaths::findExecutable(spelling); !found.isEmpty())
             return found;
+    if (const auto registered = registeredProgram(fromQString(name)))
+        return qPath(*registered);
     return {};
 }
 
@@ -37,7 +40,7 @@ void WordLauncher::start(const Text& commandLine, const std::filesystem::path& p
     const bool byWord =
         !word.isEmpty() && !words.isEmpty() && documentExists(words[0], programFolder);
     const QString program = byWord ? word : m_ownFolder + QStringLiteral("/zeugnisdokumente");
-    if (!QProcess::startDetached(program, words, QString::fromStdString(programFolder.string())))
+    if (!QProcess::startDetached(program, words, qPath(programFolder)))
         throw Laufzeitfehler(Fehlerart::ProgramNotFound,
                              u"Das Programm „" + fromQString(program) +
                                  u"“ kann nicht gestartet werden. Es sollte „" + commandLine +

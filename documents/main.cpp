@@ -13,9 +13,12 @@
 #include "documents/window/theme.h"
 #include "platform/failure.h"
 #include "platform/machine.h"
+#include "platform/process.h"
+#include "platform/program_search.h"
 #include "safety/guard.h"
 #include "safety/layouts.h"
 #include "safety/recovery.h"
+#include "toolkit/look.h"
 #include "toolkit/qt_text.h"
 
 #include <QApplication>
@@ -219,16 +222,16 @@ int gescheitert(const Text& satz, bool stumm) {
 } // namespace
 
 int main(int argc, char** argv) {
-    std::vector<Text> argumente;
-    for (int i = 1; i < argc; ++i)
-        argumente.push_back(textFromUtf8(argv[i]));
+    const std::vector<Text> argumente = programArguments(argc, argv);
     const bool stumm =
         std::find(argumente.begin(), argumente.end(), OhneFenster) != argumente.end();
 
     std::unique_ptr<QGuiApplication> application;
     if (stumm) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        if (!drawsWithoutDisplay())
+            qputenv("QT_QPA_PLATFORM", "offscreen");
         application = std::make_unique<QGuiApplication>(argc, argv);
+        look::loadDeliveredFonts();
     } else {
         auto widgets = std::make_unique<QApplication>(argc, argv);
         QApplication::setApplicationDisplayName(qString(Programmtitel));

@@ -1,6 +1,8 @@
 #include "documents/app/document_files.h"
 #include "documents/content/help_markup.h"
 #include "platform/failure.h"
+#include "platform/path_text.h"
+#include "platform/process.h"
 #include "platform/whole_file.h"
 
 #include <QGuiApplication>
@@ -12,8 +14,7 @@ namespace {
 using namespace zeugnis;
 
 void hilfeSchreiben(const Arbeitsverzeichnis& quelle, const Arbeitsverzeichnis& ziel,
-                    const std::string& stamm) {
-    const Text name = textFromUtf8(stamm);
+                    const Text& name) {
     const Text markup = textFromUtf8(readWholeFile(quelle, name + u".txt"));
     const auto bilder = [&](const Text& bild) { return readWholeFile(quelle, bild); };
     dokumente::DokumentSchreiben(ziel, dokumente::HilfeAusMarkup(markup, bilder), name);
@@ -25,16 +26,17 @@ void hilfeSchreiben(const Arbeitsverzeichnis& quelle, const Arbeitsverzeichnis& 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    if (argc != 3) {
+    const std::vector<Text> ordner = programArguments(argc, argv);
+    if (ordner.size() != 2) {
         std::cerr << "usage: make_help SOURCE TARGET\n";
         return 2;
     }
     try {
-        const Arbeitsverzeichnis quelle(argv[1]);
-        const Arbeitsverzeichnis ziel(argv[2]);
+        const Arbeitsverzeichnis quelle(pathFromText(ordner[0]));
+        const Arbeitsverzeichnis ziel(pathFromText(ordner[1]));
         for (const auto& datei : std::filesystem::directory_iterator(quelle.current()))
             if (datei.path().extension() == ".txt")
-                hilfeSchreiben(quelle, ziel, datei.path().stem().string());
+                hilfeSchreiben(quelle, ziel, textFromPath(datei.path().stem()));
         return 0;
     } catch (const std::exception& failure) {
         std::cerr << utf8FromText(sentenceOf(failure)) << '\n';

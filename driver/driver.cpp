@@ -4,6 +4,7 @@
 #include "controls/text_box.h"
 #include "driver/properties.h"
 #include "platform/failure.h"
+#include "platform/path_text.h"
 #include "program/all_screens.h"
 
 #include <algorithm>
@@ -300,14 +301,14 @@ void Driver::reached(bool reached, const Control& control) {
         m_out << "unreachable " << qualifiedName(control) << '\n';
 }
 
-std::optional<Surroundings> surroundingsFrom(int argc, char** argv) {
-    if (argc != 2 && argc != 4)
+std::optional<Surroundings> surroundingsFrom(const std::vector<Text>& arguments) {
+    if (arguments.size() != 1 && arguments.size() != 3)
         return std::nullopt;
-    Surroundings surroundings{argv[1], std::nullopt};
-    if (argc == 4) {
-        if (std::string_view(argv[2]) != "--date")
+    Surroundings surroundings{pathFromText(arguments[0]), std::nullopt};
+    if (arguments.size() == 3) {
+        if (arguments[1] != u"--date")
             return std::nullopt;
-        surroundings.date = textFromUtf8(argv[3]);
+        surroundings.date = arguments[2];
     }
     return surroundings;
 }

@@ -23,7 +23,7 @@ struct Surroundings {
 };
 
 /// What a program that drives takes: FOLDER [--date dd.mm.yyyy]. Nothing if it is something else.
-std::optional<Surroundings> surroundingsFrom(int argc, char** argv);
+std::optional<Surroundings> surroundingsFrom(const std::vector<Text>& arguments);
 
 /// Runs the program on an installation: reads commands, one a line, lets a hand carry them out, and
 /// prints what happens, one event a line.

@@ -1,15 +1,24 @@
 #include "platform/path_text.h"
 
 namespace zeugnis {
+namespace {
+
+std::string bytesOf(const std::u8string& utf8) { return {utf8.begin(), utf8.end()}; }
+
+} // namespace
 
 Text textFromPath(const std::filesystem::path& path) {
-    const std::u8string utf8 = path.u8string();
-    return textFromUtf8(std::string(utf8.begin(), utf8.end()));
+    return textFromUtf8(bytesOf(path.u8string()));
 }
 
-std::filesystem::path pathFromText(TextView name) {
-    const std::string utf8 = utf8FromText(name);
-    return std::u8string(utf8.begin(), utf8.end());
+std::filesystem::path pathFromText(TextView name) { return pathFromUtf8(utf8FromText(name)); }
+
+std::string utf8FromPath(const std::filesystem::path& path) {
+    return bytesOf(path.generic_u8string());
+}
+
+std::filesystem::path pathFromUtf8(std::string_view name) {
+    return std::u8string(name.begin(), name.end());
 }
 
 } // namespace zeugnis

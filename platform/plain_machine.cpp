@@ -1,5 +1,7 @@
 #include "platform/plain_machine.h"
 
+#include "platform/local_time.h"
+
 #include <array>
 #include <cstdio>
 #include <ctime>
@@ -8,9 +10,7 @@
 namespace zeugnis {
 
 Text SystemCalendar::today() {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
+    const std::tm local = localTime(std::time(nullptr)).value_or(std::tm{});
     std::array<char, 16> date{};
     const size_t length = std::strftime(date.data(), date.size(), "%d.%m.%Y", &local);
     return {date.data(), date.data() + length};

@@ -13,6 +13,9 @@ struct Content {
     int error = 0;
 };
 
+/// Whether an error says that there is no more room, on the disk or for this user.
+bool meansFull(int error);
+
 Content read(const std::filesystem::path& path);
 
 struct Opened {

@@ -1,14 +1,11 @@
 #include "safety/folder_lock.h"
 
+#include "platform/process.h"
 #include "safety/seal.h"
 
 #include <array>
-#include <cerrno>
 #include <charconv>
-#include <csignal>
-#include <pwd.h>
 #include <sstream>
-#include <unistd.h>
 #include <utility>
 
 namespace zeugnis::safety {
@@ -23,7 +20,7 @@ constexpr const char* Stem = "Offen";
 fs::path lockFile(const Paths& paths) { return paths.root / "Offen.sperre"; }
 fs::path holderFile(const Paths& paths) { return paths.root / "Offen.txt"; }
 fs::path probeFile(const Paths& paths) {
-    return paths.root / ("Offen.probe" + std::to_string(::getpid()));
+    return paths.root / ("Offen.probe" + std::to_string(ownProcess()));
 }
 
 std::string bytesOf(const Holder& holder) {
@@ -52,18 +49,9 @@ bool isSame(const Holder& left, const Holder& right) {
            left.since == right.since;
 }
 
-bool lives(int process) { return process > 0 && (::kill(process, 0) == 0 || errno == EPERM); }
-
 } // namespace
 
-Holder thisProgram(Moment since) {
-    std::array<char, 256> machine{};
-    if (::gethostname(machine.data(), machine.size() - 1) != 0)
-        machine[0] = '\0';
-    const passwd* user = ::getpwuid(::getuid());
-    return {textFromUtf8(machine.data()),
-            user != nullptr ? textFromUtf8(user->pw_name) : Text(u"unbekannt"), since, ::getpid()};
-}
+Holder thisProgram(Moment since) { return {machineName(), userName(), since, ownProcess()}; }
 
 FolderLock::FolderLock(const fs::path& programFolder, Holder self)
     : m_paths(programFolder), m_self(std::move(self)) {}
@@ -120,7 +108,8 @@ bool FolderLock::isHeld(raw::Lock lock, const std::optional<Holder>& holder) con
         return false;
     if (holder->machine != m_self.machine)
         return isFresh();
-    return lock == raw::Lock::NotOffered && !isSame(*holder, m_self) && lives(holder->process);
+    return lock == raw::Lock::NotOffered && !isSame(*holder, m_self) &&
+           processLives(holder->process);
 }
 
 std::optional<Holder> FolderLock::written() const {

@@ -346,7 +346,7 @@ void Guard::retryPending() {
 void Guard::sayUnavailable(int error) {
     if (std::exchange(m_said, true) || !onUnavailable)
         return;
-    const bool full = error == ENOSPC || error == EDQUOT;
+    const bool full = raw::meansFull(error);
     onUnavailable(u"Der Ordner „Notsicherung“ kann nicht beschrieben werden" +
                   Text(full ? u", weil auf dem Datenträger kein Platz mehr frei ist" : u"") +
                   u". Sie können weiterarbeiten und speichern wie gewohnt, aber ohne "

@@ -1,6 +1,7 @@
 #include "safety/latest.h"
 
 #include "files/file_catalogue.h"
+#include "platform/path_text.h"
 #include "platform/raw_file.h"
 #include "safety/actions.h"
 #include "safety/layouts.h"
@@ -47,7 +48,7 @@ bool Latest::covers(const std::string& name) {
 int Latest::keep(const std::string& name, std::string_view content) const {
     if (const int error = makeFolder(m_paths, m_paths.latest); error != 0)
         return error;
-    const raw::Opened opened = raw::openForWriting(m_paths.latest / fileNameOf(name));
+    const raw::Opened opened = raw::openForWriting(m_paths.latest / pathFromUtf8(fileNameOf(name)));
     if (opened.error != 0)
         return opened.error;
     const std::string bytes = sealed(Kind, content);
@@ -59,7 +60,7 @@ int Latest::keep(const std::string& name, std::string_view content) const {
 }
 
 std::optional<std::string> Latest::of(const std::string& name) const {
-    const raw::Content content = raw::read(m_paths.latest / fileNameOf(name));
+    const raw::Content content = raw::read(m_paths.latest / pathFromUtf8(fileNameOf(name)));
     if (content.error != 0)
         return std::nullopt;
     return unsealed(Kind, content.bytes);
@@ -68,7 +69,7 @@ std::optional<std::string> Latest::of(const std::string& name) const {
 std::vector<std::string> Latest::names() const {
     std::vector<std::string> all;
     for (const fs::path& file : filesEndingIn(m_paths.latest, Ending))
-        if (std::string name = nameIn(file.filename().string()); of(name))
+        if (std::string name = nameIn(utf8FromPath(file.filename())); of(name))
             all.push_back(std::move(name));
     return all;
 }

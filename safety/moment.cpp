@@ -1,8 +1,9 @@
 #include "safety/moment.h"
 
+#include "platform/local_time.h"
+
 #include <array>
 #include <charconv>
-#include <ctime>
 
 namespace zeugnis::safety {
 namespace {
@@ -35,11 +36,11 @@ std::optional<int> numberIn(std::string_view text) {
 
 Moment now() {
     const std::time_t clock = std::time(nullptr);
-    std::tm local{};
-    if (localtime_r(&clock, &local) == nullptr)
+    const std::optional<std::tm> local = localTime(clock);
+    if (!local)
         return Moment(seconds(clock));
-    const sys_days day = year(local.tm_year + 1900) / (local.tm_mon + 1) / local.tm_mday;
-    return day + hours(local.tm_hour) + minutes(local.tm_min) + seconds(local.tm_sec);
+    const sys_days day = year(local->tm_year + 1900) / (local->tm_mon + 1) / local->tm_mday;
+    return day + hours(local->tm_hour) + minutes(local->tm_min) + seconds(local->tm_sec);
 }
 
 sys_days dayOf(Moment moment) { return floor<days>(moment); }

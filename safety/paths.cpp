@@ -32,11 +32,11 @@ std::optional<std::string> Paths::nameOf(const fs::path& file) const {
     const fs::path relative = file.lexically_relative(program);
     if (relative.empty() || relative == "." || *relative.begin() == "..")
         return std::nullopt;
-    return relative.generic_string();
+    return utf8FromPath(relative);
 }
 
 std::optional<fs::path> Paths::fileOf(std::string_view name) const {
-    const fs::path relative(name);
+    const fs::path relative = pathFromUtf8(name);
     if (relative.empty() || relative.is_absolute() ||
         std::find(relative.begin(), relative.end(), "..") != relative.end())
         return std::nullopt;
@@ -50,7 +50,7 @@ int makeFolder(const Paths& paths, const fs::path& folder) {
     for (const fs::path& one : {paths.root, folder}) {
         if (!fs::create_directory(one, failed)) {
             if (failed)
-                return failed.value();
+                return failed.default_error_condition().value();
             continue;
         }
         if (const int error = raw::syncFolder(one.parent_path()); error != 0)
@@ -76,7 +76,7 @@ std::vector<fs::path> filesEndingIn(const fs::path& folder, std::string_view end
     failed.clear();
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
          entry.increment(failed))
-        if (entry->path().filename().string().ends_with(ending))
+        if (utf8FromPath(entry->path().filename()).ends_with(ending))
             found.push_back(entry->path());
     if (failed == std::errc::no_such_file_or_directory)
         failed.clear();

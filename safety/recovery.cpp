@@ -1,5 +1,6 @@
 #include "safety/recovery.h"
 
+#include "platform/path_text.h"
 #include "platform/raw_file.h"
 #include "safety/actions.h"
 #include "safety/restore.h"
@@ -52,10 +53,10 @@ class Interrupted {
         if (content.error == ENOENT)
             return; // it has ended meanwhile
         if (content.error != 0)
-            return obstacle(u"Eine unterbrochene Speicherung kann nicht gelesen werden; geprüft "
-                            u"werden muss die Datei „" +
-                            shownName("Notsicherung/Staende/" + m_journal.filename().string()) +
-                            u"“.");
+            return obstacle(
+                u"Eine unterbrochene Speicherung kann nicht gelesen werden; geprüft "
+                u"werden muss die Datei „" +
+                shownName("Notsicherung/Staende/" + utf8FromPath(m_journal.filename())) + u"“.");
         const Journal journal = readJournal(content.bytes);
         if (m_wanted && !std::all_of(journal.files.begin(), journal.files.end(),
                                      [&](const Former& one) { return m_wanted(one.name); }))

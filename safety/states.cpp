@@ -1,5 +1,6 @@
 #include "safety/states.h"
 
+#include "platform/path_text.h"
 #include "platform/raw_file.h"
 #include "safety/actions.h"
 
@@ -58,7 +59,7 @@ class FirstOfSpan {
 std::vector<State> States::list() const {
     std::vector<State> states;
     for (const fs::path& file : filesEndingIn(m_paths.states, FormerState)) {
-        const std::string id = file.stem().string();
+        const std::string id = utf8FromPath(file.stem());
         const std::optional<Journal> journal = read(id);
         if (!journal || journal->files.empty())
             continue;
@@ -74,7 +75,7 @@ std::vector<State> States::list() const {
 }
 
 std::optional<Journal> States::read(const std::string& id) const {
-    if (fs::path(id).filename() != id)
+    if (pathFromUtf8(id).filename() != pathFromUtf8(id))
         return std::nullopt;
     const raw::Content content = raw::read(m_paths.states / (id + std::string(FormerState)));
     if (content.error != 0)
@@ -102,9 +103,9 @@ int States::add(Moment when, const Text& action, const std::vector<Former>& file
 std::vector<Former> States::allBefore(const std::string& id) const {
     std::map<std::string, Former> files;
     for (const fs::path& file : filesEndingIn(m_paths.states, FormerState)) {
-        if (file.stem().string() < id)
+        if (utf8FromPath(file.stem()) < id)
             continue;
-        if (const std::optional<Journal> journal = read(file.stem().string()))
+        if (const std::optional<Journal> journal = read(utf8FromPath(file.stem())))
             for (const Former& one : journal->files)
                 files.try_emplace(one.name, one);
     }

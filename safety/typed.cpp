@@ -1,6 +1,8 @@
 #include "safety/typed.h"
 
 #include "platform/code_page.h"
+#include "platform/path_text.h"
+#include "platform/process.h"
 #include "platform/raw_file.h"
 #include "safety/damage.h"
 #include "safety/layouts.h"
@@ -9,7 +11,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <unistd.h>
 
 namespace zeugnis::safety {
 namespace fs = std::filesystem;
@@ -89,7 +90,7 @@ std::vector<Typed> notInFiles(const fs::path& programFolder, const std::vector<T
 TypedStore::TypedStore(const fs::path& programFolder, Clock clock)
     : m_paths(programFolder),
       m_clock(std::move(clock)),
-      m_run(journalStem(m_clock(), 0) + '-' + std::to_string(::getpid())) {}
+      m_run(journalStem(m_clock(), 0) + '-' + std::to_string(ownProcess())) {}
 
 fs::path TypedStore::fileOf(const std::string& run) const {
     return m_paths.typed / (run + std::string(Ending));
@@ -132,7 +133,7 @@ std::vector<Offer> TypedStore::offers() {
     std::vector<fs::path> files = filesEndingIn(m_paths.typed, Ending);
     std::reverse(files.begin(), files.end());
     for (const fs::path& file : files) {
-        const std::string name = file.stem().string();
+        const std::string name = utf8FromPath(file.stem());
         const raw::Content content = raw::read(file);
         if (name == m_run || content.error != 0)
             continue;

@@ -3,7 +3,9 @@
 #include "toolkit/high_contrast.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFont>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -70,6 +72,12 @@ Colours& chosen() {
 
 } // namespace
 
+void loadDeliveredFonts() {
+    const QDir fonts(QCoreApplication::applicationDirPath() + QStringLiteral("/fonts"));
+    for (const QString& file : fonts.entryList({QStringLiteral("*.ttf")}))
+        QFontDatabase::addApplicationFont(fonts.filePath(file));
+}
+
 const Colours& colours() { return chosen(); }
 
 void apply(QApplication& application, const QString& ownStyleSheet, const QPalette& system) {
@@ -78,6 +86,7 @@ void apply(QApplication& application, const QString& ownStyleSheet, const QPalet
     initResources();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
     speakGerman(application);
+    loadDeliveredFonts();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setFont(
         QFont(QStringList{QStringLiteral("Open Sans"), QStringLiteral("Segoe UI"),
@@ -86,6 +95,8 @@ void apply(QApplication& application, const QString& ownStyleSheet, const QPalet
     QApplication::setPalette(palette(colours()));
     const QString sheet = QString::fromLatin1(SharedStyleSheet) + ownStyleSheet;
     application.setStyleSheet(highContrast ? inHighContrast(sheet, *highContrast) : sheet);
+    // Some systems have a font of their own for lists.
+    QApplication::setFont(QApplication::font(), "QAbstractItemView");
 }
 
 } // namespace zeugnis::look

@@ -28,6 +28,9 @@ struct Colours {
 /// Those that apply() has chosen.
 const Colours& colours();
 
+/// The fonts that lie beside the program, where a package brings its own. `apply` does it too.
+void loadDeliveredFonts();
+
 /// Style, palette, font, icon and German standard texts for the whole application. `ownStyleSheet`
 /// comes behind the rules that both programs share. Where `system` is a palette of high contrast or
 /// a dark one, the colours are its own.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/text.h"
+#include "platform/path_text.h"
 
 #include <QString>
 
@@ -10,6 +10,8 @@ namespace zeugnis {
 inline QString qString(TextView text) {
     return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
 }
+
+inline QString qPath(const std::filesystem::path& path) { return qString(textFromPath(path)); }
 
 inline Text fromQString(const QString& text) { return text.toStdU16String(); }
 

@@ -2,7 +2,9 @@
 
 #include "documents/app/document_files.h"
 #include "documents/app/review_document.h"
+#include "platform/path_text.h"
 #include "platform/raw_file.h"
+#include "toolkit/qt_text.h"
 
 #include <QDir>
 
@@ -13,7 +15,7 @@ namespace zeugnis::dokumente {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr const char* Prefix = "zeugnisdokumente-";
+constexpr TextView Prefix = u"zeugnisdokumente-";
 constexpr const char* LockFile = "offen";
 constexpr std::chrono::minutes JustMade{1};
 constexpr std::chrono::hours Week{24 * 7};
@@ -55,8 +57,7 @@ bool isEdited(const fs::path& folder) {
 } // namespace
 
 TemporaryFolder::TemporaryFolder()
-    : m_folder(QDir::tempPath() + QLatin1Char('/') + QLatin1String(Prefix) +
-               QStringLiteral("XXXXXX")) {
+    : m_folder(QDir::tempPath() + QLatin1Char('/') + qString(Prefix) + QStringLiteral("XXXXXX")) {
     const raw::Opened opened = raw::openForWriting(path() / LockFile);
     m_lock = opened.handle;
     if (m_lock >= 0)
@@ -76,7 +77,7 @@ void RemoveLeftFolders() {
     for (fs::directory_iterator entry(pathOf(QDir::tempPath()), failed), end;
          !failed && entry != end; entry.increment(failed)) {
         const fs::path& folder = entry->path();
-        if (folder.filename().string().starts_with(Prefix) && entry->is_directory(ignored) &&
+        if (textFromPath(folder.filename()).starts_with(Prefix) && entry->is_directory(ignored) &&
             !entry->is_symlink(ignored) && !isInUse(folder) && !isEdited(folder))
             fs::remove_all(folder, ignored);
     }

@@ -1,60 +1,51 @@
 #include "documents/app/word_processor.h"
 
+#include "platform/path_text.h"
+#include "platform/process.h"
+#include "platform/program_search.h"
+#include "toolkit/qt_text.h"
+
 #include <QDesktopServices>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <chrono>
 #include <system_error>
-
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <unistd.h>
-#endif
+#include <thread>
 
 namespace zeugnis::dokumente {
 namespace fs = std::filesystem;
 namespace {
 
-constexpr int HoechstensMillisekunden = 60000;
-constexpr int Takt = 50;
-
-QString qPfad(const fs::path& pfad) { return QString::fromStdU16String(pfad.u16string()); }
+// A pause between two looks whether it has ended.
+constexpr auto Takt = std::chrono::milliseconds(20);
+constexpr auto Hoechstens = std::chrono::seconds(60);
 
 QString gefunden(std::initializer_list<const char*> namen) {
     for (const char* name : namen)
         if (QString programm = QStandardPaths::findExecutable(QString::fromLatin1(name));
             !programm.isEmpty())
             return programm;
+    for (const char* name : namen)
+        if (const auto programm = registeredProgram(textFromUtf8(name)))
+            return qPath(*programm);
     return {};
 }
 
-QString libreOffice() { return gefunden({"soffice", "libreoffice"}); }
+QString libreOffice() { return gefunden({"soffice", "libreoffice", "soffice.exe"}); }
 
-// LibreOffice starts by way of other programs, so all that came of it has to end with it.
-void alsEigeneGruppe(QProcess& umwandlung) {
-#ifdef Q_OS_UNIX
-    umwandlung.setChildProcessModifier([] { ::setpgid(0, 0); });
-#else
-    static_cast<void>(umwandlung);
-#endif
-}
-
-void beenden(QProcess& umwandlung) {
-#ifdef Q_OS_UNIX
-    ::kill(static_cast<pid_t>(-umwandlung.processId()), SIGKILL);
-#endif
-    umwandlung.kill();
-    umwandlung.waitForFinished();
-}
-
-void abwarten(QProcess& umwandlung, const std::stop_token& abbruch) {
-    QElapsedTimer zeit;
-    zeit.start();
-    while (umwandlung.state() != QProcess::NotRunning && !umwandlung.waitForFinished(Takt))
-        if (abbruch.stop_requested() || zeit.hasExpired(HoechstensMillisekunden))
-            return beenden(umwandlung);
+// LibreOffice starts by way of other programs, so all that came of it ends
+// with it.
+void ausfuehren(const QString& programm, const std::vector<Text>& worte,
+                const std::stop_token& abbruch) {
+    const auto umwandlung = ProcessFamily::start(pathFromText(fromQString(programm)), worte);
+    const auto ende = std::chrono::steady_clock::now() + Hoechstens;
+    while (umwandlung && !umwandlung->hasEnded()) {
+        if (abbruch.stop_requested() || std::chrono::steady_clock::now() > ende)
+            return;
+        std::this_thread::sleep_for(Takt);
+    }
 }
 
 } // namespace
@@ -64,8 +55,8 @@ bool inTextverarbeitungOeffnen(const fs::path& dokument) {
     if (programm.isEmpty())
         programm = libreOffice();
     if (programm.isEmpty())
-        return QDesktopServices::openUrl(QUrl::fromLocalFile(qPfad(dokument)));
-    return QProcess::startDetached(programm, {qPfad(dokument)});
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(qPath(dokument)));
+    return QProcess::startDetached(programm, {qPath(dokument)});
 }
 
 std::optional<fs::path> inPdfUmwandeln(const fs::path& dokument, const fs::path& ordner,
@@ -76,19 +67,16 @@ std::optional<fs::path> inPdfUmwandeln(const fs::path& dokument, const fs::path&
     // With a profile of its own it works beside a LibreOffice that is already open. With an umlaut
     // in this address that is not encoded it would never end.
     const QString profil =
-        QString::fromLatin1(QUrl::fromLocalFile(qPfad(ordner / "profil")).toEncoded());
+        QString::fromLatin1(QUrl::fromLocalFile(qPath(ordner / "profil")).toEncoded());
     fs::path pdf = ordner / dokument.filename();
     pdf.replace_extension(".pdf");
     std::error_code ignored;
     fs::remove(pdf, ignored); // of an earlier conversion
 
-    QProcess umwandlung;
-    alsEigeneGruppe(umwandlung);
-    umwandlung.start(programm, {QStringLiteral("-env:UserInstallation=") + profil,
-                                QStringLiteral("--headless"), QStringLiteral("--convert-to"),
-                                QStringLiteral("pdf"), QStringLiteral("--outdir"), qPfad(ordner),
-                                qPfad(dokument)});
-    abwarten(umwandlung, abbruch);
+    ausfuehren(programm,
+               {u"-env:UserInstallation=" + fromQString(profil), u"--headless", u"--convert-to",
+                u"pdf", u"--outdir", textFromPath(ordner), textFromPath(dokument)},
+               abbruch);
     return !abbruch.stop_requested() && fs::is_regular_file(pdf, ignored) ? std::optional(pdf)
                                                                           : std::nullopt;
 }

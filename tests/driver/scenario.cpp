@@ -1,6 +1,7 @@
 #include "tests/driver/scenario.h"
 
 #include "driver/command_line.h"
+#include "platform/path_text.h"
 #include "tests/support/test_installation.h"
 
 #include <gtest/gtest.h>
@@ -101,14 +102,15 @@ std::vector<std::string> scenariosIn(const std::string& folder) {
     std::error_code missing;
     for (const auto& entry : fs::directory_iterator(scenarios / folder, missing))
         if (entry.path().extension() == ".script")
-            names.push_back(fs::relative(entry.path(), scenarios).replace_extension().string());
+            names.push_back(
+                utf8FromPath(fs::relative(entry.path(), scenarios).replace_extension()));
     std::sort(names.begin(), names.end());
     return names;
 }
 
 void playScenario(const std::string& name, const Play& play) {
     const fs::path base = SourceFolder / "tests" / "scenarios" / name;
-    const auto with = [&](const char* extension) { return fs::path(base.string() + extension); };
+    const auto with = [&](const char* extension) { return fs::path(base).concat(extension); };
     const std::string script = contentOf(with(".script"));
     const std::string expected = contentOf(with(".expected"));
 

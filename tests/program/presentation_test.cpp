@@ -223,12 +223,13 @@ std::string played(const std::string& script) {
 
 TEST(Presentation, OfAllScreensIsAsExpected) {
     const fs::path base = SourceFolder / "tests" / "program" / "presentation";
-    const std::string actual = played(contentOf(base.string() + ".script"));
-    if (actual == contentOf(base.string() + ".expected"))
+    const auto with = [&](const char* extension) { return fs::path(base).concat(extension); };
+    const std::string actual = played(contentOf(with(".script")));
+    if (actual == contentOf(with(".expected")))
         return;
     const fs::path kept = fs::current_path() / "presentation.actual";
     std::ofstream(kept, std::ios::binary) << actual;
-    ADD_FAILURE() << "compare " << kept << " with " << base.string() + ".expected";
+    ADD_FAILURE() << "compare " << kept << " with " << with(".expected");
 }
 
 } // namespace

@@ -1,12 +1,9 @@
 #include "safety/folder_lock.h"
 
+#include "platform/process.h"
 #include "tests/support/test_installation.h"
 
 #include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace zeugnis::safety::test {
 namespace {
@@ -31,8 +28,8 @@ class FolderLockTest : public testing::Test {
 
     TemporaryFolder folder;
     const Moment since = *momentFrom("2026-11-22 22:30:00");
-    const Holder here{u"pult", u"erika", since, ::getpid()};
-    const Holder second{u"pult", u"erika", since + std::chrono::minutes(5), ::getpid()};
+    const Holder here{u"pult", u"erika", since, ownProcess()};
+    const Holder second{u"pult", u"erika", since + std::chrono::minutes(5), ownProcess()};
     const Holder far{u"sofa", u"karl", since, 4711};
 };
 
@@ -48,19 +45,6 @@ TEST_F(FolderLockTest, ASecondStartIsToldWhoHasTheFolderOpen) {
     EXPECT_TRUE(first->renew());
     first.reset();
     EXPECT_EQ(other.take().outcome, Outcome::Ours);
-}
-
-TEST_F(FolderLockTest, ACrashLeavesNoObstacle) {
-    const pid_t child = fork();
-    if (child == 0) {
-        FolderLock crashing(folder.path(), second);
-        crashing.take();
-        raise(SIGKILL);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(fs::exists(file()));
-    EXPECT_EQ(FolderLock(folder.path(), here).take().outcome, Outcome::Ours);
 }
 
 TEST_F(FolderLockTest, AnotherMachineIsBelievedForAWhile) {

@@ -3,6 +3,7 @@
 #include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "masterdata/master_data_screen.h"
+#include "platform/path_text.h"
 #include "platform/whole_file.h"
 #include "safety/recovery.h"
 #include "tests/support/failure_of.h"
@@ -36,7 +37,7 @@ class GuardTest : public testing::Test {
         std::vector<std::string> names;
         if (folder.has(u"Notsicherung/Staende"))
             for (const auto& entry : fs::directory_iterator(folder.path() / "Notsicherung/Staende"))
-                names.push_back(entry.path().filename().string());
+                names.push_back(utf8FromPath(entry.path().filename()));
         std::sort(names.begin(), names.end());
         return names;
     }

@@ -1,5 +1,6 @@
 #include "safety/typed.h"
 
+#include "platform/path_text.h"
 #include "safety/bring_back.h"
 #include "safety/states.h"
 #include "tests/support/test_installation.h"
@@ -27,7 +28,7 @@ class TypedTest : public testing::Test {
     [[nodiscard]] std::vector<std::string> files() const {
         std::vector<std::string> names;
         for (const auto& entry : fs::directory_iterator(folder.path() / "Notsicherung/Getippt"))
-            names.push_back(entry.path().extension().string());
+            names.push_back(utf8FromPath(entry.path().extension()));
         return names;
     }
 

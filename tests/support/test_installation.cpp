@@ -1,11 +1,11 @@
 #include "tests/support/test_installation.h"
 
 #include "platform/code_page.h"
+#include "platform/process.h"
 
-#include <cstdlib>
+#include <atomic>
 #include <fstream>
 #include <sstream>
-#include <stdexcept>
 
 namespace zeugnis::test {
 namespace fs = std::filesystem;
@@ -83,10 +83,11 @@ const std::vector<Modules>& modules34() {
 } // namespace
 
 TemporaryFolder::TemporaryFolder() {
-    std::string name = (fs::temp_directory_path() / "Zeugnis Prüfung äöü-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-        throw std::runtime_error("no temporary folder: " + name);
-    m_path = name;
+    static std::atomic<int> number = 0;
+    const Text name = u"Zeugnis Prüfung äöü-" + textFromNumber(ownProcess()) + u"-";
+    do
+        m_path = fs::temp_directory_path() / (name + textFromNumber(++number));
+    while (!fs::create_directory(m_path));
 }
 
 TemporaryFolder::~TemporaryFolder() {

@@ -1,4 +1,5 @@
 #include "driver/driver.h"
+#include "platform/process.h"
 #include "tests/window_driver/stage.h"
 #include "tests/window_driver/window_hand.h"
 
@@ -6,7 +7,7 @@
 
 int main(int argc, char** argv) {
     using namespace zeugnis;
-    const auto surroundings = driver::surroundingsFrom(argc, argv);
+    const auto surroundings = driver::surroundingsFrom(programArguments(argc, argv));
     if (!surroundings) {
         std::cerr << "usage: zeugnis-window-driver FOLDER [--date dd.mm.yyyy]\n";
         return 2;
