@@ -29,6 +29,10 @@ check_pie_supported()
 target_compile_definitions(zeugnis_compiler INTERFACE
     $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS> $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
 target_compile_options(zeugnis_compiler INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
+if(WIN32)
+    # There the guards come from a library that only the linker's own option brings in.
+    target_link_options(zeugnis_compiler INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
+endif()
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
         target_compile_options(zeugnis_compiler INTERFACE $<$<CONFIG:Release>:-fcf-protection=full>)
