@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "platform/path_text.h"
+#include "platform/stored_name.h"
 #include "platform/write_watcher.h"
 
 #include <algorithm>
@@ -55,9 +56,9 @@ bool isMissing(const std::error_code& error) {
 
 Entry entryIn(const fs::path& folder, TextView name) {
     std::error_code failed;
-    fs::path exact = folder / pathFromText(name);
+    const fs::path exact = folder / pathFromText(name);
     if (fs::exists(fs::symlink_status(exact, failed)))
-        return {std::move(exact)};
+        return {asStored(exact)};
     if (!isMissing(failed))
         return {.sure = false};
     fs::directory_iterator entry(folder, failed);

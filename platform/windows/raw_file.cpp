@@ -8,13 +8,10 @@
 #include <climits>
 #include <fcntl.h>
 #include <io.h>
-#include <share.h>
-#include <sys/stat.h>
 
 namespace zeugnis::raw {
 namespace {
 
-constexpr int ForThisProgram = _O_BINARY | _O_NOINHERIT;
 constexpr int Attempts = 20;
 constexpr DWORD Pause = 25; // milliseconds
 
@@ -65,22 +62,32 @@ int patiently(Attempt attempt) {
     return errorOf(reason);
 }
 
-Opened open(const std::filesystem::path& path, int flags) {
+// As elsewhere, an open file may be renamed and removed; the usual call of the library forbids it.
+Opened open(const std::filesystem::path& path, DWORD access, DWORD disposition, int flags) {
+    HANDLE file = INVALID_HANDLE_VALUE;
     Opened opened;
     opened.error = patiently([&] {
-        opened.handle =
-            ::_wsopen(path.c_str(), flags | ForThisProgram, _SH_DENYNO, _S_IREAD | _S_IWRITE);
-        return opened.handle >= 0;
+        file = ::CreateFileW(path.c_str(), access,
+                             FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                             disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return file != INVALID_HANDLE_VALUE;
     });
     if (opened.error == EACCES && isFolder(path))
         opened.error = EISDIR;
+    if (opened.error != 0)
+        return opened;
+    opened.handle = ::_open_osfhandle(reinterpret_cast<intptr_t>(file), flags | _O_BINARY);
+    if (opened.handle < 0) {
+        opened.error = EMFILE;
+        ::CloseHandle(file);
+    }
     return opened;
 }
 
 } // namespace
 
 Content read(const std::filesystem::path& path) {
-    const Opened opened = open(path, _O_RDONLY);
+    const Opened opened = open(path, GENERIC_READ, OPEN_EXISTING, _O_RDONLY);
     if (opened.error != 0)
         return {{}, opened.error};
     Content content;
@@ -95,9 +102,9 @@ Content read(const std::filesystem::path& path) {
 }
 
 Opened openForWriting(const std::filesystem::path& path) {
-    Opened opened = open(path, _O_WRONLY);
+    Opened opened = open(path, GENERIC_WRITE, OPEN_EXISTING, 0);
     if (opened.error == ENOENT) {
-        opened = open(path, _O_WRONLY | _O_CREAT | _O_EXCL);
+        opened = open(path, GENERIC_WRITE, CREATE_NEW, 0);
         opened.created = opened.error == 0;
     }
     return opened;
@@ -119,7 +126,7 @@ int remove(const std::filesystem::path& path) {
 }
 
 Opened createNew(const std::filesystem::path& path) {
-    Opened opened = open(path, _O_WRONLY | _O_CREAT | _O_EXCL | _O_APPEND);
+    Opened opened = open(path, GENERIC_WRITE, CREATE_NEW, _O_APPEND);
     opened.created = opened.error == 0;
     return opened;
 }

@@ -214,8 +214,11 @@ TEST_F(MasterDataScreen, EndsTooHighWithoutTheFolderOfTheCopies) {
 TEST_F(MasterDataScreen, DeletesNothingWhereItCannotTellWhetherTheFolderIsThere) {
     GsBasis& screen = unlocked(1);
     installation.remove(u"Daten/Sicherheit");
+    std::error_code failed;
     std::filesystem::create_directory_symlink("Sicherheit",
-                                              installation.path() / "Daten/Sicherheit");
+                                              installation.path() / "Daten/Sicherheit", failed);
+    if (failed)
+        GTEST_SKIP() << "no links here";
     user::click(screen.Command1(0));
     EXPECT_TRUE(installation.has(u"Daten/Namen.Txt"));
 }

@@ -19,12 +19,12 @@ class WorkingDirectory : public testing::Test {
 };
 
 TEST_F(WorkingDirectory, FindsFilesWithoutRegardToCaseAndSlashes) {
-    const fs::path file = data / "Sicherheit" / "Einfügungen1.txt";
+    const fs::path file = data / "Sicherheit" / u"Einfügungen1.txt";
     for (const TextView name :
          {u"Daten\\Sicherheit\\Einfügungen1.txt", u"daten/SICHERHEIT\\EINFÜGUNGEN1.TXT",
           u"DATEN//.\\sicherheit/..\\Sicherheit/einfügungen1.Txt"})
         EXPECT_EQ(directory.path(name), file) << utf8FromText(name);
-    EXPECT_EQ(directory.path(u"DATEN/Neu Ä.Txt"), data / "Neu Ä.Txt")
+    EXPECT_EQ(directory.path(u"DATEN/Neu Ä.Txt"), data / u"Neu Ä.Txt")
         << "a new file is written as it is named";
 }
 

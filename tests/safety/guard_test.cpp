@@ -93,8 +93,13 @@ TEST_F(GuardTest, AnInterruptedUnitIsTakenBackAtTheNextStart) {
 
     // What a kill would leave, in a folder of its own.
     const TemporaryFolder killed;
-    fs::copy(folder.path(), killed.path(),
-             fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
+        const fs::path copy = killed.path() / entry.path().lexically_relative(folder.path());
+        if (entry.is_directory())
+            fs::create_directory(copy);
+        else
+            fs::copy_file(entry.path(), copy);
+    }
     const Recovery recovery = takeBackInterrupted(killed.path());
     EXPECT_TRUE(recovery.complete());
     ASSERT_THAT(recovery.takenBack, SizeIs(1));
