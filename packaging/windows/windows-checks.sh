@@ -1,5 +1,5 @@
 # What packaging/windows/test does with the windows and the documents, on a display of its own.
-# shellcheck shell=bash disable=SC2154
+# shellcheck shell=bash disable=SC2034,SC2154
 
 display_file=$(mktemp)
 Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$display_file" >/dev/null 2>&1 &
@@ -23,7 +23,7 @@ step documents
 keys=(ZeugnisseSchreiben:ZeugnisseSchreiben ZeugnisseAnlagen:ZeugnisseAnlagen KlListe:Klassenliste
     StListe:Strichliste BldListe:Bilderliste Leerformular:Leerformular ZeugnislisteNeu:ZeugnislisteNeu)
 good=0
-cd "$class"
+cd "$class" || exit 1
 for key in "${keys[@]}"; do
     if timeout 120 wine "$package/zeugnisdokumente.exe" "${key%:*}.doc" "/m${key#*:}" --no-window 2>>"$work/documents.log"; then
         good=$((good + 1))
@@ -54,5 +54,5 @@ wine "$package/zeugnisprogramm.exe" &
 sleep 15
 scrot -o "$work/window.png"
 wineserver -k
-cd "$work"
+cd "$work" || exit 1
 echo "Look at $work/window.png"
