@@ -12,7 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void fail(int error, const Text& sentence) {
-    const bool full = error == ENOSPC || error == EDQUOT;
+    const bool full = raw::meansFull(error);
     throw Laufzeitfehler(full ? Fehlerart::DiskFull : Fehlerart::AccessDenied,
                          sentence + (full ? u" Der Datenträger ist voll." : u""));
 }
