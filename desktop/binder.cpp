@@ -62,12 +62,13 @@ void tint(QLabel& label, Farbwert colour) {
         border.isValid() ? QStringLiteral("QLabel { border: 3px solid %1; border-radius: %2px }")
                                .arg(border.name())
                                .arg(theme::Radius)
-        : ground.isValid() ? QStringLiteral("QLabel { background: %1; border-radius: %2px }"
-                                            "QLabel:disabled { background: %3 }")
-                                 .arg(ground.name())
-                                 .arg(theme::Radius)
-                                 .arg(ground.lighter(130).name())
-                           : QString();
+        : ground.isValid() && !theme::colours().HighContrast
+            ? QStringLiteral("QLabel { background: %1; border-radius: %2px }"
+                             "QLabel:disabled { background: %3 }")
+                  .arg(ground.name())
+                  .arg(theme::Radius)
+                  .arg(ground.lighter(130).name())
+            : QString();
     if (label.styleSheet() != sheet)
         label.setStyleSheet(sheet);
 }

@@ -62,6 +62,7 @@ ReviewView::ReviewView(GsAnzeige& screen, WindowHost& host, QWidget* below)
     middle->addLayout(choices());
     middle->addWidget(text(), 1);
     layout->addLayout(middle, 1);
+    bind().widgetOf(m_review.Check1(0))->setFocus();
     wishSize({1120, 760});
 }
 
@@ -77,7 +78,6 @@ QBoxLayout* ReviewView::choices() {
     // In the order of the text.
     for (const int box : {0, 1, 2, 3, 4, 5, 6, 7, 8, 10, 9})
         boxes->addWidget(bind().check(m_review.Check1(box)));
-    bind().widgetOf(m_review.Check1(0))->setFocus();
     auto* area = new PageArea(this);
     area->add(*frame);
     area->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Maximum);

@@ -171,8 +171,11 @@ int dokumentZeigen(const Arbeitsverzeichnis& programmordner, const Aufruf& aufru
                    const std::filesystem::path& umwandlungen) {
     TemporaryFolder texte;
     const Dokumentdateien dateien = mitFortschrittSchreiben(aufruf, texte.path());
-    if (OneWindow::bringToFront(dateien.Doc))
+    if (OneWindow::bringToFront(dateien.Doc)) {
+        if (const Text hinweis = aufgehobenHinweis(dateien); !hinweis.empty())
+            QMessageBox::information(nullptr, qString(Programmtitel), qString(hinweis));
         return 0;
+    }
     if (art == Fensterart::Zeugnisse) {
         std::unique_ptr<PreviewWindow> fenster =
             zeugnisfenster(programmordner, dateien, umwandlungen);

@@ -25,7 +25,8 @@ QPlainTextEdit* ComparePane::column(const QString& heading) {
     label->setFont(theme::scaledFont(1.0, QFont::DemiBold));
     auto* text = new QPlainTextEdit(this);
     text->setReadOnly(true);
-    text->setStyleSheet(QStringLiteral("QPlainTextEdit { background: white; }"));
+    text->setStyleSheet(
+        QStringLiteral("QPlainTextEdit { background: %1; }").arg(theme::colours().Surface.name()));
     text->setTabChangesFocus(true);
     text->setAccessibleName(heading);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -1,10 +1,10 @@
 #include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "desktop/choice_row.h"
+#include "desktop/screen_window.h"
 #include "desktop/window_host.h"
 #include "tests/desktop/settle_layouts.h"
 #include "tests/support/test_programm.h"
-#include "toolkit/page_area.h"
 #include "years12/entry_screen.h"
 
 #include <QApplication>
@@ -29,11 +29,7 @@ class EntryView12Test : public testing::Test {
         });
         screen = dynamic_cast<Kompetenzen*>(machine.programm.find(bildschirme::Kompetenzen));
         host.run([this] { user::pick(screen->Combo1, 0); });
-        // The start page owns this window, so the pages are its descendants as well.
-        for (QWidget* one : QApplication::topLevelWidgets())
-            if (const auto* pages = one->findChild<PageArea*>();
-                one->isVisible() && pages != nullptr)
-                window = pages->window();
+        window = host.windowOf(screen);
     }
 
     void turnTo(int page) {
