@@ -7,6 +7,7 @@
 #include "platform/raw_file.h"
 #include "toolkit/qt_text.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>

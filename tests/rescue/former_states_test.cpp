@@ -15,7 +15,6 @@ namespace {
 using namespace zeugnis::test;
 using safety::Difference;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 const Text TomsText = u"Tom hört zu.";
 
@@ -124,6 +123,7 @@ TEST_F(FormerStatesTest, ADeletedModuleComesBackAlone) {
 
 std::vector<Kind> fullClass() {
     std::vector<Kind> kinder;
+    kinder.reserve(SchuelerHoechstens);
     for (int i = 0; i < SchuelerHoechstens; ++i)
         kinder.push_back({u"Kind" + textFromNumber(99 - i), u"Eins", u"m"});
     return kinder;
