@@ -2,6 +2,7 @@
 
 #include "desktop/entry_parts.h"
 #include "desktop/theme.h"
+#include "toolkit/flow_row.h"
 #include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 #include "years34/colours.h"
@@ -224,9 +225,9 @@ QWidget* EntryView34::interests() {
     return layout->parentWidget();
 }
 
-QBoxLayout* EntryView34::badges() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(24);
+QLayout* EntryView34::badges() {
+    auto* row = new FlowRow(24);
+    row->alignRightFrom(static_cast<int>(BadgeGroups.size()));
     for (size_t group = 0; group < BadgeGroups.size(); ++group) {
         QVBoxLayout* part = column();
         QLabel* name = heading(m_entry.Label16(static_cast<int>(group)));
@@ -241,9 +242,8 @@ QBoxLayout* EntryView34::badges() {
         }
         pictures->addStretch();
         part->addLayout(pictures);
-        row->addLayout(part);
+        row->add(*part);
     }
-    row->addStretch();
     return row;
 }
 

@@ -20,7 +20,7 @@ class EntryView34 : public ScreenWindow {
     QWidget* interests();
     QWidget* remarks();
     QVBoxLayout* beginPage(Frame& frame, Label* hint);
-    QBoxLayout* badges();
+    QLayout* badges();
     QBoxLayout* supportSentence();
     QBoxLayout* groups();
     QBoxLayout* markSentence();

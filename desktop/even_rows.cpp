@@ -9,7 +9,8 @@ EvenRows::EvenRows(int spacing, double leastShare) : m_leastShare(leastShare) {
 }
 
 EvenRows::~EvenRows() {
-    for (QLayoutItem* item : m_items)
+    // A layout takes itself out of the one that it is in when it goes.
+    while (QLayoutItem* item = EvenRows::takeAt(0))
         delete item;
 }
 

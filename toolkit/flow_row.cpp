@@ -12,8 +12,14 @@ FlowRow::FlowRow(int spacing) {
 }
 
 FlowRow::~FlowRow() {
-    for (QLayoutItem* item : m_items)
+    // A layout takes itself out of the one that it is in when it goes.
+    while (QLayoutItem* item = FlowRow::takeAt(0))
         delete item;
+}
+
+void FlowRow::add(QLayout& part) {
+    addChildLayout(&part);
+    addItem(&part);
 }
 
 void FlowRow::insertWidget(int index, QWidget& widget) {
@@ -37,19 +43,24 @@ QLayoutItem* FlowRow::takeAt(int index) {
     return item;
 }
 
+int FlowRow::gapBefore(size_t index) const {
+    const auto found = m_spaceBefore.find(static_cast<int>(index));
+    return spacing() + (found == m_spaceBefore.end() ? 0 : found->second);
+}
+
 std::vector<FlowRow::Row> FlowRow::rowsWithin(int width) const {
     std::vector<Row> rows;
     for (size_t i = 0; i < m_items.size(); ++i) {
         if (m_items[i]->isEmpty())
             continue;
         const QSize size = m_items[i]->sizeHint();
-        if (rows.empty() || rows.back().size.width() + spacing() + size.width() > width)
+        const int all = rows.empty() ? 0 : rows.back().size.width() + gapBefore(i) + size.width();
+        if (rows.empty() || all > width) {
             rows.push_back({i, i + 1, size});
-        else
-            rows.back() = {rows.back().first,
-                           i + 1,
-                           {rows.back().size.width() + spacing() + size.width(),
-                            std::max(rows.back().size.height(), size.height())}};
+            continue;
+        }
+        rows.back().end = i + 1;
+        rows.back().size = {all, std::max(rows.back().size.height(), size.height())};
     }
     return rows;
 }
@@ -62,9 +73,10 @@ int FlowRow::heightForWidth(int width) const {
 }
 
 QSize FlowRow::sizeHint() const {
-    int width = -spacing();
-    for (const QLayoutItem* item : m_items)
-        width += item->sizeHint().width() + spacing();
+    int width = 0;
+    for (size_t i = 0; i < m_items.size(); ++i)
+        if (!m_items[i]->isEmpty())
+            width += m_items[i]->sizeHint().width() + (width > 0 ? gapBefore(i) : 0);
     return {width, heightForWidth(width)};
 }
 
@@ -89,9 +101,10 @@ void FlowRow::setGeometry(const QRect& rect) {
                                                     : static_cast<int>(i) >= m_firstAtRight;
             const QSize size = m_items[i]->sizeHint().boundedTo({rect.width(), row.size.height()});
             const int indent = atRight ? std::max(0, rect.width() - row.size.width()) : 0;
+            x += i == row.first ? 0 : gapBefore(i);
             m_items[i]->setGeometry(
                 {{x + indent, y + (row.size.height() - size.height()) / 2}, size});
-            x += size.width() + spacing();
+            x += size.width();
         }
         y += row.size.height() + spacing();
     }

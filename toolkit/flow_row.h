@@ -16,6 +16,7 @@ class FlowRow : public QLayout {
     explicit FlowRow(int spacing);
     ~FlowRow() override;
 
+    void add(QLayout& part);
     void insertWidget(int index, QWidget& widget);
     void alignRightFrom(int index) { m_firstAtRight = index; }
     /// Sets the item that comes next apart from the one before.

@@ -1,4 +1,5 @@
 #include "desktop/comfort/entry_keys.h"
+#include "desktop/elided_label.h"
 
 #include "controls/list_controls.h"
 #include "desktop/screen_window.h"
@@ -15,13 +16,12 @@ namespace zeugnis {
 EntryKeys::EntryKeys(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry)
     : QObject(&window), m_window(window), m_host(host), m_entry(entry), m_flow(entry) {
     const bool categories = !entry.Kategorien.empty();
-    m_hint =
-        new QLabel(categories ? tr("Bild↓ nächste Kategorie · 0 bis 9 Zeile · Alt+→ nächstes "
-                                   "Kind · F8 nächstes Kind, dem ein Text fehlt")
-                              : tr("Bild↓ nächste Auswahl · 1 bis 9 Zeile · Strg+Bild↓ nächste "
-                                   "Seite · Alt+→ nächstes Kind · F8 nächstes Kind, dem ein "
-                                   "Text fehlt"),
-                   &window);
+    m_hint = new ElidedLabel(&window);
+    m_hint->setText(categories ? tr("Bild↓ nächste Kategorie · 0 bis 9 Zeile · Alt+→ nächstes "
+                                    "Kind · F8 nächstes Kind, dem ein Text fehlt")
+                               : tr("Bild↓ nächste Auswahl · 1 bis 9 Zeile · Strg+Bild↓ nächste "
+                                    "Seite · Alt+→ nächstes Kind · F8 nächstes Kind, dem ein "
+                                    "Text fehlt"));
     m_hint->setFont(theme::scaledFont(0.82));
     m_hint->setForegroundRole(QPalette::PlaceholderText);
 

@@ -47,7 +47,7 @@ Window reports(Arbeitsverzeichnis& folder) {
     const Dokumentdateien files =
         written(folder, {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"});
     auto window = std::make_unique<ReportWindow>(
-        folder, [files] { return asWritten(files); }, [] {});
+        folder, [files] { return asWritten(files); }, [] {}, [] {});
     window->showChecks({.Pruefen =
                             [folder] {
                                 Arbeitsverzeichnis mine = folder;
