@@ -184,8 +184,11 @@ void enlargeFont(int percent) {
 } // namespace
 
 void resizeWindow(QWidget& window, const QSize& size) {
-    window.resize(size);
-    settleLayouts();
+    // On its way a narrower window folds parts away; it is as small as wished only then.
+    for (int i = 0; i < 2; ++i) {
+        window.resize(size);
+        settleLayouts();
+    }
     // These would break their entries anew only a moment later.
     for (auto* list : window.findChildren<QListView*>())
         list->doItemsLayout();
