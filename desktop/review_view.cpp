@@ -82,6 +82,7 @@ QBoxLayout* ReviewView::choices() {
     area->add(*frame);
     area->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Maximum);
     column->addWidget(area);
+    bind().widgetOf(m_review.Check1(0))->setFocus();
     column->addSpacing(10);
     column->addWidget(bind().button(m_review.Command1(0), u'T'));
     column->addWidget(bind().button(m_review.Command1(1), u'W'));

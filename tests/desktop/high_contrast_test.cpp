@@ -33,6 +33,9 @@ bool showsText(const QWidget& widget) {
 
 // The ground is what there is most of; the ink is what differs most from it.
 void expectReadable(const QWidget& widget, const QImage& window, const QColor& ground) {
+    // What is scrolled out of sight is not in the picture.
+    if (widget.visibleRegion().boundingRect() != widget.rect())
+        return;
     const int border = qobject_cast<const QLabel*>(&widget) != nullptr ? 0 : 6;
     const QRect inner(widget.mapTo(widget.window(), QPoint(border, 2)),
                       widget.size() - QSize(2 * border, 4));
