@@ -33,7 +33,7 @@ std::vector<Eingabefluss::Gruppe> Eingabefluss::gruppen() const {
             gruppen.emplace_back();
         gruppen.back().push_back(control);
     }
-    std::ranges::stable_partition(gruppen, [this](const Gruppe& gruppe) {
+    std::stable_partition(gruppen.begin(), gruppen.end(), [this](const Gruppe& gruppe) {
         return gruppe.front()->name() != m_schirm.Zuletzt;
     });
     return gruppen;
