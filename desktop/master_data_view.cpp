@@ -25,7 +25,7 @@ namespace {
 
 constexpr int FieldSpacing = 12;
 constexpr int ApartFromTheRest = 14; // of what deletes
-constexpr int RowLetters = 20;       // of the list of pupils
+constexpr int RowLetters = 17;       // of the list of pupils
 
 QFrame* area(const QString& name, QWidget* parent) {
     auto* frame = new QFrame(parent);
@@ -138,6 +138,16 @@ QBoxLayout* MasterDataView::schoolField(int index) {
                      qString(Schulfelder.at(static_cast<size_t>(index)).Beschriftung));
 }
 
+QBoxLayout* MasterDataView::schoolYear() {
+    constexpr int SchoolYear = 3;
+    constexpr int BesideText = 22; // frame, space and caret
+    QBoxLayout* field = schoolField(SchoolYear);
+    QWidget* box = field->itemAt(1)->widget();
+    box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("2026/2027")) +
+                         BesideText);
+    return field;
+}
+
 QBoxLayout* MasterDataView::pupilField(int index) {
     const Schuelerfeld& field = Schuelerfelder.at(static_cast<size_t>(index));
     const bool isBirthplace = field.Wert == &Schueler::Geburtsort;
@@ -148,7 +158,7 @@ QBoxLayout* MasterDataView::pupilField(int index) {
 QWidget* MasterDataView::schoolArea() {
     QFrame* frame = area(tr("Schuldaten"), this);
     auto* column = new QVBoxLayout(frame);
-    column->setContentsMargins(16, 12, 16, 14);
+    column->setContentsMargins(14, 12, 14, 14);
     column->setSpacing(7);
     column->addLayout(areaHead(frame->accessibleName(), m_basis.Text1(0),
                                {bind().button(m_basis.Command3, u'u')}));
@@ -161,7 +171,7 @@ QBoxLayout* MasterDataView::schoolForm() {
     column->setSpacing(7);
     for (const int field : {0, 1, 2, 10})
         column->addLayout(schoolField(field));
-    column->addLayout(side({{schoolField(5), 3}, {schoolField(3), 5}, {schoolField(4), 3}}));
+    column->addLayout(side({{schoolField(5), 3}, {schoolYear(), 5}, {schoolField(4), 3}}));
     auto* days = new EvenRows(FieldSpacing);
     for (const int field : {8, 7})
         days->add(*schoolField(field));
@@ -195,7 +205,7 @@ QLayout* MasterDataView::pathRow() {
 QWidget* MasterDataView::pupilArea() {
     QFrame* frame = area(tr("Schülerdaten"), this);
     auto* column = new QVBoxLayout(frame);
-    column->setContentsMargins(16, 12, 16, 14);
+    column->setContentsMargins(14, 12, 14, 14);
     column->setSpacing(7);
     column->addLayout(
         areaHead(frame->accessibleName(), m_basis.Text2(1),

@@ -34,6 +34,7 @@ class MasterDataView : public ScreenWindow {
                       std::initializer_list<TintedButton*> buttons);
     QBoxLayout* captioned(TextBox& box, const QString& name, const QString& spokenName = {});
     QBoxLayout* schoolField(int index);
+    QBoxLayout* schoolYear(); ///< never narrower than its figures
     QBoxLayout* pupilField(int index);
     void orderByUse();
 

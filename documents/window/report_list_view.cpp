@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyleOptionHeader>
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <algorithm>
@@ -23,6 +24,7 @@ int atFont(int pixels) { return windowplace::atFont({pixels, 0}).width(); }
 constexpr double HeadShare = 0.86; // of the size of the cells
 constexpr int RowPadding = 4;
 constexpr QSize HeadPadding(10, 10);
+constexpr int NamePadding = 16;
 
 /// The editor of a cell is as wide as the cell, with its text in the middle.
 class CellDelegate : public QStyledItemDelegate {
@@ -43,6 +45,26 @@ class CellDelegate : public QStyledItemDelegate {
     }
 };
 
+/// The names. A style sheet takes the dots from a header whose text is too long.
+class NameHeader : public QHeaderView {
+  public:
+    explicit NameHeader(QWidget* parent) : QHeaderView(Qt::Vertical, parent) {
+        setSectionsClickable(true);
+        setHighlightSections(true);
+        setSectionResizeMode(Fixed);
+        setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
+  protected:
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
+        QHeaderView::initStyleOptionForIndex(option, section);
+        QFont font = this->font();
+        font.setBold(option->state.testFlag(QStyle::State_On));
+        option->text =
+            QFontMetrics(font).elidedText(option->text, Qt::ElideRight, width() - NamePadding);
+    }
+};
+
 } // namespace
 
 ReportListView::ReportListView(ReportListModel& model, QWidget* parent)
@@ -52,13 +74,10 @@ ReportListView::ReportListView(ReportListModel& model, QWidget* parent)
     setAccessibleName(QStringLiteral("Einträge der Klasse"));
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
     setCornerButtonEnabled(false);
+    setVerticalHeader(new NameHeader(this));
     setAlternatingRowColors(true);
     setHorizontalScrollMode(ScrollPerPixel);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
-        header->setTextElideMode(Qt::ElideRight);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(&model, &ReportListModel::refused, this, [this](const QModelIndex& cell) {
         m_wasRefused = true;
         // The view may be on its way to another cell at this moment.
@@ -72,11 +91,14 @@ ReportListView::ReportListView(ReportListModel& model, QWidget* parent)
     setCurrentIndex(model.index(0, 0));
 }
 
-// Headings may have two lines. None is cut, however large the letters are.
+// Headings may have two lines. None is cut, however large the letters are; that of the current
+// column is bold. A heading is painted in the font of what scrolls in the header.
 void ReportListView::measure() {
     QFont font = this->font();
     font.setPointSizeF(font.pointSizeF() * HeadShare);
     horizontalHeader()->setFont(font);
+    horizontalHeader()->viewport()->setFont(font);
+    font.setBold(true);
     const QFontMetrics metrics(font);
     QSize widest;
     for (int column = 0; column < m_model.columnCount(); ++column)

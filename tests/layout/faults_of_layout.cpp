@@ -61,17 +61,21 @@ bool isWhole(const QListWidget& list) {
     return true;
 }
 
+// The heading of the current column is bold; a long name may end in dots, a heading may not.
 bool isWhole(const QHeaderView& header) {
     const bool across = header.orientation() == Qt::Horizontal;
+    QFont font = header.viewport()->font();
+    font.setBold(across);
+    const QFontMetrics metrics(font);
     for (int i = 0; i < header.count(); ++i) {
         const auto data = [&](int role) {
             return header.model()->headerData(i, header.orientation(), role).toString();
         };
         const QRect room(0, 0, across ? header.sectionSize(i) : header.width(),
                          across ? header.height() : header.sectionSize(i));
-        const QSize text = header.fontMetrics().size(Qt::TextExpandTabs, data(Qt::DisplayRole));
+        const QSize text = metrics.size(Qt::TextExpandTabs, data(Qt::DisplayRole));
         if ((text.width() > room.width() || text.height() > room.height()) &&
-            data(Qt::ToolTipRole).isEmpty())
+            (across || data(Qt::ToolTipRole).isEmpty()))
             return false;
     }
     return true;
