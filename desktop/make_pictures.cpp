@@ -71,7 +71,7 @@ void takePicture(const Programm& program, const Text& name, const std::string& f
     const Screen* screen = program.find(name);
     for (QWidget* window : QApplication::topLevelWidgets())
         if (screen != nullptr && window->isVisible() &&
-            window->windowTitle() == qString(screen->Title))
+            window->windowTitle().remove(QStringLiteral("[*]")) == qString(screen->Title))
             return save(*window, file);
     throw std::runtime_error("no picture of " + utf8FromText(name));
 }

@@ -3,6 +3,7 @@
 #include "comfort/entry_access.h"
 #include "desktop/comfort/class_rail.h"
 #include "desktop/comfort/entry_keys.h"
+#include "desktop/comfort/saved_line.h"
 #include "desktop/screen_window.h"
 
 #include <QHBoxLayout>
@@ -30,11 +31,21 @@ void putAtTheLeft(QWidget& rail, QWidget& window) {
 } // namespace
 
 void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
+    auto* last = new QHBoxLayout;
     const std::optional<Eingabeschirm> entry = EingabeschirmAus(screen);
+    if (entry)
+        last->addWidget((new EntryKeys(window, host, *entry))->hint(), 1);
+    else
+        last->addStretch(1);
+    addSavedLine(window, screen, host, *last);
+    if (last->count() == 1) {
+        delete last;
+        return;
+    }
+    last->setSpacing(16);
+    qobject_cast<QBoxLayout*>(window.layout())->addLayout(last);
     if (!entry)
         return;
-    auto* keys = new EntryKeys(window, host, *entry);
-    window.layout()->addWidget(keys->hint());
     auto* rail = new ClassRail(window, host, *entry);
     putAtTheLeft(*rail, window);
 }

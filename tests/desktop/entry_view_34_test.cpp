@@ -25,7 +25,7 @@ class EntryView34Test : public testing::Test {
         screen = dynamic_cast<GSAGFI*>(machine.programm.find(bildschirme::GSAGFI));
         host.run([this] { user::pick(screen->Combo1, 0); });
         for (QWidget* one : QApplication::topLevelWidgets())
-            if (one->isVisible() && one->windowTitle() == QStringLiteral("Förder Interessen"))
+            if (one->isVisible() && one->windowTitle() == QStringLiteral("Förder Interessen[*]"))
                 window = one;
     }
 
