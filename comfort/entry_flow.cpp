@@ -114,6 +114,11 @@ bool Eingabefluss::KindOhneText() {
     return false;
 }
 
+bool Eingabefluss::Hinfuehren(int kind, int seite) {
+    const bool da = kind == m_schirm.Kinder->listIndex() || user::pick(*m_schirm.Kinder, kind);
+    return da && (seite == m_schirm.Seite() || seiteOeffnen(seite));
+}
+
 // A page that was opened by other means begins with its first group.
 void Eingabefluss::seiteFolgen() {
     if (m_seite == m_schirm.Seite())

@@ -28,6 +28,9 @@ class Eingabefluss {
     /// The next child, from the current one on and around, that lacks a text.
     bool KindOhneText();
 
+    /// To a child and a page, from wherever the screen is.
+    bool Hinfuehren(int kind, int seite);
+
     /// What the group begins with; null in work and social behaviour, or with no page open.
     [[nodiscard]] const Control* Stelle();
     /// The keyboard has come to this control: its group is the current one.

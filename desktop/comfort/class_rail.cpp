@@ -1,9 +1,12 @@
 #include "desktop/comfort/class_rail.h"
 
+#include "comfort/entry_flow.h"
 #include "controls/list_controls.h"
 #include "controls/program.h"
 #include "controls/user_actions.h"
+#include "desktop/comfort/check_thread.h"
 #include "desktop/comfort/rail_row.h"
+#include "desktop/comfort/text_hints.h"
 #include "desktop/screen_window.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
@@ -11,10 +14,14 @@
 #include "files/pupil_list.h"
 #include "toolkit/entry_combo.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/twin_window.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace zeugnis {
@@ -41,8 +48,18 @@ QString told(const Kinderstand& state, const Eingabeschirm& entry) {
     QStringList pages;
     for (size_t page = 0; page < state.Seiten.size(); ++page)
         pages << pageName(*entry.Seiten[page]) + QStringLiteral(": ") +
-                     stateWord(state.Seiten[page]);
-    return qString(state.Name) + QStringLiteral(". ") + pages.join(QStringLiteral(", "));
+                     stateWord(state.Seiten[page].Stand);
+    QString words = qString(state.Name) + QStringLiteral(". ") + pages.join(QStringLiteral(", "));
+    for (const Seitenblick& page : state.Seiten)
+        for (const Text& hint : page.Hinweise)
+            words += QStringLiteral("\n") + qString(hint);
+    return words;
+}
+
+// A tool tip that breaks its lines.
+QString asTip(const QString& words) {
+    return QStringLiteral("<p>%1</p>")
+        .arg(words.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>• ")));
 }
 
 } // namespace
@@ -52,8 +69,11 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
       m_window(window),
       m_host(host),
       m_entry(entry),
-      m_overview(entry),
+      m_hints(new TextHints(CheckThread::of(host), host.program().directory().programFolder(),
+                            entry, this)),
+      m_overview(entry, [this](const Textfrage& question) { return m_hints->of(question); }),
       m_sentence(new QLabel(this)),
+      m_hintButton(new QPushButton(&window)),
       m_list(new QListWidget(this)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -70,15 +90,49 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
             [this](const QListWidgetItem* item) { choose(m_list->row(item)); });
     connect(m_list, &QListWidget::itemActivated, this,
             [this](const QListWidgetItem* item) { choose(m_list->row(item)); });
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_list, &QWidget::customContextMenuRequested, this, &ClassRail::showMenu);
+    m_hintButton->setObjectName(QStringLiteral("link"));
+    m_hintButton->setFont(theme::scaledFont(0.92));
+    m_hintButton->setCursor(Qt::PointingHandCursor);
+    m_hintButton->setToolTip(tr("Zeigen, was an den Texten dieses Kindes auffällt (F7)"));
+    m_hintButton->hide();
+    connect(m_hintButton, &QPushButton::clicked, this, &ClassRail::openHints);
+    auto* shortcut = new QShortcut(Qt::Key_F7, &window);
+    connect(shortcut, &QShortcut::activated, this, &ClassRail::openHints);
+    connect(m_hints, &TextHints::found, &host, [&host] { host.refresh(); });
     window.installEventFilter(this);
     window.follow([this] { follow(); });
 }
 
 void ClassRail::follow() {
-    const std::vector<Kinderstand> states = m_overview.Staende();
-    m_sentence->setText(qString(Klassenuebersicht::Satz(states)));
-    showStates(states);
-    markPupils(states);
+    m_states = m_overview.Staende();
+    m_sentence->setText(qString(Klassenuebersicht::Satz(m_states)));
+    showStates(m_states);
+    markPupils(m_states);
+    showHintCount();
+}
+
+QWidget* ClassRail::hintButton() const { return m_hintButton; }
+
+void ClassRail::showHintCount() {
+    const int child = m_entry.Kinder->listIndex();
+    qsizetype count = 0;
+    if (child >= 0 && child < static_cast<int>(m_states.size()))
+        for (const Seitenblick& page : m_states[static_cast<size_t>(child)].Seiten)
+            count += static_cast<qsizetype>(page.Hinweise.size());
+    m_hintButton->setText(count == 1 ? tr("1 Hinweis (F7)") : tr("%1 Hinweise (F7)").arg(count));
+    m_hintButton->setVisible(count > 0);
+}
+
+void ClassRail::openHints() {
+    if (!m_hintButton->isVisible())
+        return;
+    QMenu menu(m_hintButton);
+    addHints(menu, m_entry.Kinder->listIndex());
+    const QSize size = menu.sizeHint();
+    menu.exec(
+        m_hintButton->mapToGlobal(QPoint(m_hintButton->width() - size.width(), -size.height())));
 }
 
 void ClassRail::showStates(const std::vector<Kinderstand>& states) {
@@ -95,7 +149,7 @@ void ClassRail::showStates(const std::vector<Kinderstand>& states) {
         const QString words = told(state, m_entry);
         if (item.data(Qt::AccessibleTextRole) != words) {
             item.setData(Qt::AccessibleTextRole, words);
-            item.setToolTip(words);
+            item.setToolTip(asTip(words));
         }
     }
     m_list->setCurrentRow(m_entry.Kinder->listIndex());
@@ -110,7 +164,7 @@ void ClassRail::markPupils(const std::vector<Kinderstand>& states) {
         pupils->setItemIcon(row,
                             isHidden() ? RailRow::sign(states[static_cast<size_t>(row)]) : QIcon());
         pupils->setItemData(
-            row, isHidden() ? told(states[static_cast<size_t>(row)], m_entry) : QString(),
+            row, isHidden() ? asTip(told(states[static_cast<size_t>(row)], m_entry)) : QString(),
             Qt::ToolTipRole);
     }
 }
@@ -128,7 +182,52 @@ void ClassRail::foldIfNarrow() {
     if (narrow == isHidden())
         return;
     setVisible(!narrow);
-    markPupils(m_overview.Staende());
+    markPupils(m_states);
+}
+
+void ClassRail::showMenu(const QPoint& place) {
+    const QListWidgetItem* item = m_list->itemAt(place);
+    const int child = item != nullptr ? m_list->row(item) : m_list->currentRow();
+    if (child < 0 || child >= static_cast<int>(m_states.size()))
+        return;
+    QMenu menu(this);
+    addHints(menu, child);
+    menu.exec(m_list->viewport()->mapToGlobal(place));
+}
+
+void ClassRail::addHints(QMenu& menu, int child) {
+    const std::vector<Seitenblick>& pages = m_states.at(static_cast<size_t>(child)).Seiten;
+    for (size_t i = 0; i < pages.size(); ++i) {
+        const int page = static_cast<int>(i);
+        for (const Text& hint : pages[i].Hinweise)
+            menu.addAction(qString(hint).replace(u'&', QStringLiteral("&&")), this,
+                           [this, child, page] { lead(child, page); });
+        for (const Zwilling& twin : pages[i].Zwillinge)
+            menu.addAction(
+                tr("Neben den Text von %1 stellen …")
+                    .arg(qString(m_states.at(static_cast<size_t>(twin.Platz)).Name)),
+                this, [this, page, child, other = twin.Platz] { showTwins(page, child, other); });
+    }
+    if (menu.isEmpty())
+        menu.addAction(tr("Kein Hinweis"))->setEnabled(false);
+}
+
+void ClassRail::lead(int child, int page) {
+    if (child != m_entry.Kinder->listIndex() && !m_host.mayAct(*m_entry.Kinder))
+        return;
+    m_host.run([&] { Eingabefluss(m_entry).Hinfuehren(child, page); });
+}
+
+void ClassRail::showTwins(int page, int child, int other) {
+    const auto side = [&](int one) {
+        return TwinWindow::Side{.name = qString(m_states.at(static_cast<size_t>(one)).Name),
+                                .text = m_entry.TextVon(page, one),
+                                .way = tr("Zu diesem &Text"),
+                                .lead = [this, one, page] { lead(one, page); }};
+    };
+    TwinWindow twins(pageName(*m_entry.Seiten[static_cast<size_t>(page)]), side(child), side(other),
+                     &m_window);
+    twins.exec();
 }
 
 bool ClassRail::eventFilter(QObject* watched, QEvent* event) {

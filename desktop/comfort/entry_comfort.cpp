@@ -47,6 +47,7 @@ void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
     if (!entry)
         return;
     auto* rail = new ClassRail(window, host, *entry);
+    last->addWidget(rail->hintButton());
     putAtTheLeft(*rail, window);
 }
 

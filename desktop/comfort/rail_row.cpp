@@ -47,8 +47,8 @@ RailRow::RailRow(const Arbeitsverzeichnis& directory, QObject* parent)
 
 void RailRow::set(QListWidgetItem& item, const Kinderstand& state, const Text& picture) {
     QByteArray states;
-    for (const Seitenstand page : state.Seiten)
-        states.append(static_cast<char>(page));
+    for (const Seitenblick& page : state.Seiten)
+        states.append(static_cast<char>(page.Stand));
     const std::pair<int, QVariant> values[] = {
         {Qt::DisplayRole, qString(state.Name)}, {States, states}, {Picture, qString(picture)}};
     for (const auto& [role, value] : values)

@@ -16,30 +16,31 @@ namespace zeugnis::dokumente {
 namespace {
 
 constexpr TextView Lueckenmarke = u"?????";
-constexpr size_t GleichAb = 60; // shorter texts may well be the same
 constexpr size_t NamenHoechstens = 3;
 
 struct Abschnitt {
     TextView Ueberschrift;
     Text Gedruckt; ///< the text as the report shows it
+    Vergleichswoerter Woerter = {};
 };
 
 // The sections of each child, the same in the same order.
 using Klassentexte = std::vector<std::vector<Abschnitt>>;
 
 struct Pruefling {
-    const Zeugnisdaten& Daten;
+    const Stammdaten& Stamm;
+    const std::optional<Zeugnisliste>& Liste;
     const Klassentexte& Texte;
     const Pruefmittel& Mittel;
     const std::set<Text>& Bekannte;
     int Platz;
 
-    [[nodiscard]] const Schueler& kind(int platz) const { return Daten.Stamm.Liste.Kinder[platz]; }
+    [[nodiscard]] const Schueler& kind(int platz) const { return Stamm.Liste.Kinder[platz]; }
     [[nodiscard]] Text name() const { return Kindname(kind(Platz)); }
     [[nodiscard]] const std::vector<Abschnitt>& abschnitte(int platz) const {
         return Texte[static_cast<size_t>(platz)];
     }
-    [[nodiscard]] int anzahl() const { return Daten.Stamm.Liste.Schuelerzahl; }
+    [[nodiscard]] int anzahl() const { return Stamm.Liste.Schuelerzahl; }
 };
 
 using Befunde = std::vector<Befund>;
@@ -156,34 +157,57 @@ Text doppelteZeichen(const Pruefling& /*pruefling*/, const Text& text) {
     return leerzeichen ? u"doppeltes Leerzeichen." : u"";
 }
 
+Text aufgezaehlt(const Pruefling& pruefling, const std::vector<int>& plaetze) {
+    std::vector<Text> namen;
+    for (const int platz : plaetze)
+        namen.push_back(Kindname(pruefling.kind(platz)));
+    if (namen.size() > NamenHoechstens) {
+        const int weitere = static_cast<int>(namen.size() - NamenHoechstens + 1);
+        namen.resize(NamenHoechstens - 1);
+        namen.push_back(textFromNumber(weitere) + u" weiteren Kindern");
+    }
+    return enumerated(namen);
+}
+
+void zwillingeMelden(const Pruefling& pruefling, TextView ueberschrift,
+                     const std::vector<Zwilling>& zwillinge, Befunde& befunde) {
+    for (const bool genau : {true, false}) {
+        std::vector<int> andere;
+        for (const Zwilling& zwilling : zwillinge)
+            if (zwilling.Genau == genau)
+                andere.push_back(zwilling.Platz);
+        if (!andere.empty())
+            befunde.push_back(
+                {.Platz = pruefling.Platz,
+                 .Kind = pruefling.name(),
+                 .Abschnitt = ueberschrift,
+                 .Satz = Text(ueberschrift) +
+                         (genau ? u": derselbe Text wie bei " : u": fast derselbe Text wie bei ") +
+                         aufgezaehlt(pruefling, andere) + u".",
+                 .Zwillinge = andere});
+    }
+}
+
 void gleicherText(const Pruefling& pruefling, Befunde& befunde) {
     const std::vector<Abschnitt>& eigene = pruefling.abschnitte(pruefling.Platz);
     for (size_t i = 0; i < eigene.size(); ++i) {
-        const Text& text = eigene[i].Gedruckt;
-        if (text.size() <= GleichAb)
-            continue;
-        std::vector<Text> andere;
-        for (int platz = 0; platz < pruefling.anzahl(); ++platz)
-            if (platz != pruefling.Platz && pruefling.abschnitte(platz)[i].Gedruckt == text)
-                andere.push_back(Kindname(pruefling.kind(platz)));
-        if (andere.empty())
-            continue;
-        if (andere.size() > NamenHoechstens) {
-            const int weitere = static_cast<int>(andere.size() - NamenHoechstens + 1);
-            andere.resize(NamenHoechstens - 1);
-            andere.push_back(textFromNumber(weitere) + u" weiteren Kindern");
+        std::vector<Zwilling> zwillinge;
+        for (int platz = 0; platz < pruefling.anzahl(); ++platz) {
+            const Abschnitt& andere = pruefling.abschnitte(platz)[i];
+            const bool genau = SindGleich(andere.Gedruckt, eigene[i].Gedruckt);
+            if (platz != pruefling.Platz &&
+                (genau || SindFastGleich(andere.Woerter, eigene[i].Woerter)))
+                zwillinge.push_back({platz, genau});
         }
-        befunde.push_back({pruefling.Platz, pruefling.name(), eigene[i].Ueberschrift,
-                           Text(eigene[i].Ueberschrift) + u": derselbe Text wie bei " +
-                               enumerated(andere) + u"."});
+        zwillingeMelden(pruefling, eigene[i].Ueberschrift, zwillinge, befunde);
     }
 }
 
 // Subjects in which no child of the class has a grade are not taught.
 std::vector<Text> fehlendeNoten(const Pruefling& pruefling) {
     std::vector<Text> faecher;
-    const std::span<const Spalte> spalten = SpaltenFuer(pruefling.Daten.Stamm.Jahrgang);
-    const Schuelertabelle<Eintrag>& eintraege = pruefling.Daten.Liste->Eintraege;
+    const std::span<const Spalte> spalten = SpaltenFuer(pruefling.Stamm.Jahrgang);
+    const Schuelertabelle<Eintrag>& eintraege = pruefling.Liste->Eintraege;
     for (size_t i = ErstesFach; i < spalten.size(); ++i) {
         const bool wirdErteilt =
             std::any_of(eintraege.begin(), eintraege.end(),
@@ -195,9 +219,9 @@ std::vector<Text> fehlendeNoten(const Pruefling& pruefling) {
 }
 
 void versaeumnisse(const Pruefling& pruefling, Befunde& befunde) {
-    if (!pruefling.Daten.Liste)
+    if (!pruefling.Liste)
         return;
-    const Eintrag& eintrag = pruefling.Daten.Liste->Eintraege[pruefling.Platz];
+    const Eintrag& eintrag = pruefling.Liste->Eintraege[pruefling.Platz];
     if (eintrag.Werte[SpalteTage] == LeereZelle)
         befunde.push_back({pruefling.Platz,
                            pruefling.name(),
@@ -214,9 +238,9 @@ void versaeumnisse(const Pruefling& pruefling, Befunde& befunde) {
 }
 
 void noten(const Pruefling& pruefling, Befunde& befunde) {
-    if (!pruefling.Daten.Liste || !HatNoten(pruefling.Daten.Stamm.Jahrgang))
+    if (!pruefling.Liste || !HatNoten(pruefling.Stamm.Jahrgang))
         return;
-    if (!pruefling.Daten.Liste->Eintraege[pruefling.Platz].hatNoten()) {
+    if (!pruefling.Liste->Eintraege[pruefling.Platz].hatNoten()) {
         befunde.push_back({pruefling.Platz,
                            pruefling.name(),
                            {},
@@ -256,7 +280,7 @@ Text einschraenkung(const Pruefling& /*pruefling*/, const Text& text) {
 
 void versetzung(const Pruefling& pruefling, Befunde& befunde) {
     const Abschnitt& bemerkungen = pruefling.abschnitte(pruefling.Platz).back();
-    if (IstZahl(pruefling.Daten.Stamm.Halbjahr, 2) && !bemerkungen.Gedruckt.empty() &&
+    if (IstZahl(pruefling.Stamm.Halbjahr, 2) && !bemerkungen.Gedruckt.empty() &&
         !NenntVersetzung(bemerkungen.Gedruckt))
         befunde.push_back(
             {pruefling.Platz, pruefling.name(), bemerkungen.Ueberschrift,
@@ -271,19 +295,12 @@ void angaben(const Pruefling& pruefling, Befunde& befunde) {
 
 using Pruefung = void (*)(const Pruefling& pruefling, Befunde& befunde);
 
-constexpr std::array<Pruefung, 12> Pruefungen = {
-    angaben,
-    versaeumnisse,
-    noten,
-    ohneText,
-    jeAbschnitt<platzhalterImText>,
-    jeAbschnitt<luecke>,
-    jeAbschnitt<fremderName>,
-    jeAbschnitt<doppelteZeichen>,
-    saetzeUndWoerter,
-    jeAbschnitt<einschraenkung>,
-    versetzung,
-    gleicherText,
+constexpr std::array Kindpruefungen = {angaben, versaeumnisse, noten, ohneText};
+
+// What can be told of each section by itself.
+constexpr std::array<Pruefung, 6> Textpruefungen = {
+    jeAbschnitt<platzhalterImText>, jeAbschnitt<luecke>, jeAbschnitt<fremderName>,
+    jeAbschnitt<doppelteZeichen>,   saetzeUndWoerter,    jeAbschnitt<einschraenkung>,
 };
 
 // FNV-1a over what is said about whom, and over the text that it is said about.
@@ -330,10 +347,22 @@ void listePruefen(const Zeugnisdaten& daten, Befunde& befunde) {
 
 Klassentexte texteDerKlasse(const Zeugnisdaten& daten) {
     Klassentexte klasse(static_cast<size_t>(daten.Stamm.Liste.Schuelerzahl));
-    for (size_t platz = 0; platz < klasse.size(); ++platz)
-        for (const Abschnittstext& abschnitt : AbschnitteVon(daten, static_cast<int>(platz)))
-            klasse[platz].push_back({abschnitt.Ueberschrift, printable(abschnitt.Inhalt)});
+    for (size_t platz = 0; platz < klasse.size(); ++platz) {
+        const int nummer = static_cast<int>(platz);
+        for (const Abschnittstext& abschnitt : AbschnitteVon(daten, nummer)) {
+            const Text gedruckt = printable(abschnitt.Inhalt);
+            klasse[platz].push_back(
+                {abschnitt.Ueberschrift, gedruckt,
+                 VergleichswoerterVon(gedruckt, daten.Stamm.Liste.Kinder[nummer].Vorname)});
+        }
+    }
     return klasse;
+}
+
+std::set<Text> bekannteWoerter(const Stammdaten& stamm, const Pruefmittel& mittel) {
+    std::set<Text> bekannte = NamenDerKlasse(stamm);
+    bekannte.insert(mittel.Gelernte.begin(), mittel.Gelernte.end());
+    return bekannte;
 }
 
 } // namespace
@@ -344,16 +373,45 @@ std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten, const Pruefmitte
         befunde.push_back({.Satz = std::move(satz), .Art = Befundart::Angaben});
     listePruefen(daten, befunde);
     const Klassentexte texte = texteDerKlasse(daten);
-    std::set<Text> bekannte = NamenDerKlasse(daten.Stamm);
-    bekannte.insert(mittel.Gelernte.begin(), mittel.Gelernte.end());
-    for (int platz = 0; platz < daten.Stamm.Liste.Schuelerzahl; ++platz)
-        for (const Pruefung pruefung : Pruefungen)
-            pruefung({.Daten = daten,
-                      .Texte = texte,
-                      .Mittel = mittel,
-                      .Bekannte = bekannte,
-                      .Platz = platz},
-                     befunde);
+    const std::set<Text> bekannte = bekannteWoerter(daten.Stamm, mittel);
+    for (int platz = 0; platz < daten.Stamm.Liste.Schuelerzahl; ++platz) {
+        const Pruefling pruefling{.Stamm = daten.Stamm,
+                                  .Liste = daten.Liste,
+                                  .Texte = texte,
+                                  .Mittel = mittel,
+                                  .Bekannte = bekannte,
+                                  .Platz = platz};
+        for (const Pruefung pruefung : Kindpruefungen)
+            pruefung(pruefling, befunde);
+        for (const Pruefung pruefung : Textpruefungen)
+            pruefung(pruefling, befunde);
+        versetzung(pruefling, befunde);
+        gleicherText(pruefling, befunde);
+    }
+    vermerken(befunde, texte);
+    return befunde;
+}
+
+std::vector<Befund> AbschnittPruefen(const Stammdaten& stamm, const Pruefmittel& mittel,
+                                     const Einzeltext& text) {
+    Klassentexte texte(static_cast<size_t>(stamm.Liste.Schuelerzahl));
+    if (text.Platz >= stamm.Liste.Schuelerzahl)
+        return {};
+    texte[static_cast<size_t>(text.Platz)] = {{text.Ueberschrift, printable(text.Inhalt)}};
+    const std::optional<Zeugnisliste> ohneListe;
+    const std::set<Text> bekannte = bekannteWoerter(stamm, mittel);
+    const Pruefling pruefling{.Stamm = stamm,
+                              .Liste = ohneListe,
+                              .Texte = texte,
+                              .Mittel = mittel,
+                              .Bekannte = bekannte,
+                              .Platz = text.Platz};
+    Befunde befunde;
+    for (const Pruefung pruefung : Textpruefungen)
+        pruefung(pruefling, befunde);
+    if (text.NenntVersetzung)
+        versetzung(pruefling, befunde);
+    zwillingeMelden(pruefling, text.Ueberschrift, text.Zwillinge, befunde);
     vermerken(befunde, texte);
     return befunde;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "checks/text_checks.h"
+#include "checks/twins.h"
 #include "documents/content/school_report.h"
 
 /// What a careful colleague would notice in the reports of a class before they are printed.
@@ -18,8 +19,9 @@ struct Befund {
     TextView Abschnitt = {}; ///< the heading below which it stands; empty for none
     Text Satz;
     Befundart Art = Befundart::Text;
-    std::vector<Text> Woerter = {}; ///< that can be learnt
-    Text Vermerk = {};              ///< another one as soon as the text is another
+    std::vector<Text> Woerter = {};  ///< that can be learnt
+    Text Vermerk = {};               ///< another one as soon as the text is another
+    std::vector<int> Zwillinge = {}; ///< places of the children with the same text, or nearly
 };
 
 /// What texts are held against.
@@ -32,6 +34,19 @@ struct Pruefmittel {
 
 /// Child by child in the order of the class list; what concerns all comes first.
 std::vector<Befund> ZeugnissePruefen(const Zeugnisdaten& daten, const Pruefmittel& mittel);
+
+/// One text of a report that is still growing.
+struct Einzeltext {
+    int Platz = 0;
+    TextView Ueberschrift;
+    Text Inhalt;
+    bool NenntVersetzung = false; ///< it is the section that tells of moving up
+    std::vector<Zwilling> Zwillinge = {};
+};
+
+/// What ZeugnissePruefen would notice in this text alone.
+std::vector<Befund> AbschnittPruefen(const Stammdaten& stamm, const Pruefmittel& mittel,
+                                     const Einzeltext& text);
 
 /// The marks of Platzhalter.txt; none if there is no such file. Fails as the record reader does.
 std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis);

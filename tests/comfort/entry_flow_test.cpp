@@ -43,8 +43,7 @@ TEST(EntryFlow, WritesWorkAndSocialBehaviourInTwentyEightKeys) {
     EXPECT_EQ(screen.Bereich, Abschnitt::AV);
     EXPECT_EQ(screen.Kategorie, KategorienAV - 1) << "back to the last one of the section before";
 
-    Klassenuebersicht overview(*EingabeschirmAus(screen),
-                               [](const Text& text, const Schueler&) { return text.empty(); });
+    Klassenuebersicht overview(*EingabeschirmAus(screen));
     EXPECT_EQ(Klassenuebersicht::Satz(overview.Staende()), u"1 von 3 hat beide Texte");
     EXPECT_TRUE(flow.KindOhneText());
     EXPECT_EQ(screen.Combo1.listIndex(), 1);

@@ -1,0 +1,49 @@
+#include "desktop/comfort/check_thread.h"
+
+#include "checks/hunspell_spelling.h"
+#include "desktop/window_host.h"
+
+namespace zeugnis {
+
+CheckThread& CheckThread::of(WindowHost& host) {
+    if (auto* thread = host.findChild<CheckThread*>())
+        return *thread;
+    return *new CheckThread(&host);
+}
+
+CheckThread::CheckThread(QObject* parent) : QObject(parent) {
+    m_thread = std::jthread([this](const std::stop_token& stop) { work(stop); });
+}
+
+CheckThread::~CheckThread() = default;
+
+void CheckThread::post(Task task) {
+    {
+        const std::lock_guard guard(m_mutex);
+        m_tasks.push_back(std::move(task));
+    }
+    m_more.notify_one();
+}
+
+void CheckThread::work(const std::stop_token& stop) {
+    std::unique_ptr<Rechtschreibung> dictionary;
+    bool loaded = false;
+    while (true) {
+        Task task;
+        {
+            std::unique_lock lock(m_mutex);
+            if (!m_more.wait(lock, stop, [this] { return !m_tasks.empty(); }))
+                return;
+            if (stop.stop_requested())
+                return;
+            task = std::move(m_tasks.front());
+            m_tasks.pop_front();
+        }
+        if (!loaded)
+            dictionary = DeutscheRechtschreibung();
+        loaded = true;
+        task(dictionary.get());
+    }
+}
+
+} // namespace zeugnis
