@@ -1,5 +1,6 @@
 #include "desktop/start_view.h"
 
+#include "desktop/comfort/class_summary_line.h"
 #include "desktop/picture_view.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
@@ -39,6 +40,7 @@ StartView::StartView(GsStart& screen, WindowHost& host, QWidget* below)
         if (QWidget* first = bind().widgetOf(m_start.Command1(tools ? 4 : 0)))
             first->setFocus();
     });
+    bind().widgetOf(m_start.Command1(0))->setFocus();
     wishSize({1060, 700}, Growth::None);
 }
 
@@ -131,8 +133,6 @@ QWidget* StartView::works() {
     constexpr QChar Mnemonics[] = {u'A', u'I', u'F', u'B', u'T', u'x', u'S'};
     for (int i = 0; i <= 6; ++i) {
         TintedButton* button = bind().button(m_start.Command1(i), Mnemonics[i], Role::Main);
-        if (i == 0)
-            button->setFocus();
         column->addWidget(button);
     }
     column->addSpacing(10);
@@ -140,6 +140,8 @@ QWidget* StartView::works() {
     column->addWidget(bind().button(m_start.Command6, u'E', Role::Main));
     column->addWidget(bind().button(m_start.Command5, u'u', Role::Main));
     column->addWidget(bind().button(m_start.Command7, u'L', Role::Main));
+    column->addSpacing(10);
+    column->addWidget(new ClassSummaryLine(m_start, *this, host()));
     column->addStretch();
     area->add(*column);
     return area;

@@ -3,6 +3,8 @@
 #include "checks/hunspell_spelling.h"
 #include "desktop/window_host.h"
 
+#include <optional>
+
 namespace zeugnis {
 
 CheckThread& CheckThread::of(WindowHost& host) {
@@ -26,8 +28,12 @@ void CheckThread::post(Task task) {
 }
 
 void CheckThread::work(const std::stop_token& stop) {
-    std::unique_ptr<Rechtschreibung> dictionary;
-    bool loaded = false;
+    std::optional<std::unique_ptr<Rechtschreibung>> loaded;
+    const Dictionary dictionary = [&loaded] {
+        if (!loaded)
+            loaded = DeutscheRechtschreibung();
+        return loaded->get();
+    };
     while (true) {
         Task task;
         {
@@ -39,10 +45,7 @@ void CheckThread::work(const std::stop_token& stop) {
             task = std::move(m_tasks.front());
             m_tasks.pop_front();
         }
-        if (!loaded)
-            dictionary = DeutscheRechtschreibung();
-        loaded = true;
-        task(dictionary.get());
+        task(dictionary);
     }
 }
 

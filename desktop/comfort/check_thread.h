@@ -13,8 +13,7 @@ namespace zeugnis {
 class Rechtschreibung;
 class WindowHost;
 
-/// A thread with the German dictionary, for checks that must keep no window waiting. It loads the
-/// dictionary once, before the first task.
+/// A thread with the German dictionary, for checks that must keep no window waiting.
 class CheckThread : public QObject {
     Q_OBJECT
 
@@ -25,8 +24,10 @@ class CheckThread : public QObject {
     explicit CheckThread(QObject* parent);
     ~CheckThread() override;
 
-    /// Null where there is no German dictionary. A task must catch its failures.
-    using Task = std::function<void(const Rechtschreibung* dictionary)>;
+    /// Loads the dictionary the first time; null where there is no German one.
+    using Dictionary = std::function<const Rechtschreibung*()>;
+    /// Must catch its failures.
+    using Task = std::function<void(const Dictionary& dictionary)>;
 
     /// One task after the other, in the order in which they come. What is not begun when the
     /// program ends is left.

@@ -104,31 +104,32 @@ std::optional<std::vector<Text>> TextHints::of(const Textfrage& question) {
 
 // A failure leaves the files to those who must read them: there are no hints then.
 void TextHints::ask() {
-    m_thread.post([self = QPointer(this), knowledge = m_knowledge,
-                   questions = std::exchange(m_questions, {})](const Rechtschreibung* dictionary) {
-        std::vector<std::vector<Text>> answers(questions.size());
-        try {
-            if (!std::exchange(knowledge->isRead, true)) {
-                knowledge->read();
-                knowledge->isUsable = true;
+    m_thread.post(
+        [self = QPointer(this), knowledge = m_knowledge,
+         questions = std::exchange(m_questions, {})](const CheckThread::Dictionary& dictionary) {
+            std::vector<std::vector<Text>> answers(questions.size());
+            try {
+                if (!std::exchange(knowledge->isRead, true)) {
+                    knowledge->read();
+                    knowledge->isUsable = true;
+                }
+                knowledge->means.Woerterbuch = dictionary();
+                for (size_t i = 0; knowledge->isUsable && i < questions.size(); ++i)
+                    answers[i] = knowledge->findings(questions[i]);
+            } catch (const std::exception&) {
+                answers.assign(questions.size(), {});
             }
-            knowledge->means.Woerterbuch = dictionary;
-            for (size_t i = 0; knowledge->isUsable && i < questions.size(); ++i)
-                answers[i] = knowledge->findings(questions[i]);
-        } catch (const std::exception&) {
-            answers.assign(questions.size(), {});
-        }
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, questions, answers] {
-                if (!self)
-                    return;
-                for (size_t i = 0; i < questions.size(); ++i)
-                    self->learn(questions[i], answers[i]);
-                emit self->found();
-            },
-            Qt::QueuedConnection);
-    });
+            QMetaObject::invokeMethod(
+                QCoreApplication::instance(),
+                [self, questions, answers] {
+                    if (!self)
+                        return;
+                    for (size_t i = 0; i < questions.size(); ++i)
+                        self->learn(questions[i], answers[i]);
+                    emit self->found();
+                },
+                Qt::QueuedConnection);
+        });
 }
 
 void TextHints::learn(const Textfrage& question, std::vector<Text> sentences) {

@@ -97,11 +97,11 @@ void ohneText(const Pruefling& pruefling, Befunde& befunde) {
         leere.push_back(u"„" + Text(abschnitt.Ueberschrift) + u"“");
     }
     if (leere.size() == abschnitte.size())
-        befunde.push_back(
-            {pruefling.Platz, pruefling.name(), erster, u"Es gibt noch keine Texte."});
+        befunde.push_back({pruefling.Platz, pruefling.name(), erster, u"Es gibt noch keine Texte.",
+                           Befundart::OhneText});
     else if (!leere.empty())
-        befunde.push_back(
-            {pruefling.Platz, pruefling.name(), erster, u"Ohne Text: " + enumerated(leere) + u"."});
+        befunde.push_back({pruefling.Platz, pruefling.name(), erster,
+                           u"Ohne Text: " + enumerated(leere) + u".", Befundart::OhneText});
 }
 
 using Abschnittspruefung = Text (*)(const Pruefling& pruefling, const Text& text);
@@ -245,7 +245,7 @@ void noten(const Pruefling& pruefling, Befunde& befunde) {
                            pruefling.name(),
                            {},
                            u"Noch keine Noten eingetragen.",
-                           Befundart::Liste});
+                           Befundart::Noten});
         return;
     }
     if (const std::vector<Text> faecher = fehlendeNoten(pruefling); !faecher.empty())
@@ -253,7 +253,7 @@ void noten(const Pruefling& pruefling, Befunde& befunde) {
                            pruefling.name(),
                            {},
                            u"Es fehlt die Note in " + enumerated(faecher) + u".",
-                           Befundart::Liste});
+                           Befundart::Noten});
 }
 
 void saetzeUndWoerter(const Pruefling& pruefling, Befunde& befunde) {

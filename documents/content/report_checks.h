@@ -11,7 +11,13 @@ namespace zeugnis::dokumente {
 inline constexpr int AlleKinder = -1;
 
 /// What a finding is about, to choose from.
-enum class Befundart { Text, Liste, Angaben };
+enum class Befundart {
+    Text,
+    OhneText, ///< a text is missing
+    Liste,    ///< absences, and the list itself
+    Noten,
+    Angaben
+};
 
 struct Befund {
     int Platz = AlleKinder;

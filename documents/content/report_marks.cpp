@@ -52,13 +52,17 @@ void WoerterLernen(const Arbeitsverzeichnis& verzeichnis, const std::vector<Text
 }
 
 std::vector<Befund> OffeneBefunde(Arbeitsverzeichnis& verzeichnis) {
-    const Zeugnisdaten daten = ZeugnisdatenLesen(verzeichnis);
-    const std::unique_ptr<Rechtschreibung> woerterbuch = DeutscheRechtschreibung();
+    return OffeneBefunde(verzeichnis, ZeugnisdatenLesen(verzeichnis),
+                         DeutscheRechtschreibung().get());
+}
+
+std::vector<Befund> OffeneBefunde(Arbeitsverzeichnis& verzeichnis, const Zeugnisdaten& daten,
+                                  const Rechtschreibung* woerterbuch) {
     const Bausteinwoerter bausteine = BausteinwoerterLesen(verzeichnis);
     std::vector<Befund> befunde =
         ZeugnissePruefen(daten, {.Platzhalter = PlatzhalterLesen(verzeichnis),
                                  .Bausteine = &bausteine,
-                                 .Woerterbuch = woerterbuch.get(),
+                                 .Woerterbuch = woerterbuch,
                                  .Gelernte = GelernteLesen(verzeichnis)});
     const std::set<Text> gesehen = GeseheneLesen(verzeichnis);
     std::erase_if(befunde, [&](const Befund& befund) { return gesehen.contains(befund.Vermerk); });

@@ -15,5 +15,8 @@ void WoerterLernen(const Arbeitsverzeichnis& verzeichnis, const std::vector<Text
 /// The findings of the class as it stands on disk, without those that have been seen. The mark of a
 /// finding holds only as long as the text that it is about.
 std::vector<Befund> OffeneBefunde(Arbeitsverzeichnis& verzeichnis);
+/// The same with a dictionary that has been loaded; null: spelling is not checked.
+std::vector<Befund> OffeneBefunde(Arbeitsverzeichnis& verzeichnis, const Zeugnisdaten& daten,
+                                  const Rechtschreibung* woerterbuch);
 
 } // namespace zeugnis::dokumente

@@ -21,7 +21,8 @@ constexpr int MostLetters = 37;
 enum Filter { All, Texts, GradesAndAbsences };
 
 bool isShown(const Befund& befund, int filter) {
-    return filter == All || (filter == Texts) == (befund.Art != Befundart::Liste);
+    const bool isOfList = befund.Art == Befundart::Liste || befund.Art == Befundart::Noten;
+    return filter == All || (filter == Texts) != isOfList;
 }
 
 QString counted(size_t count, const QString& one, const QString& many) {

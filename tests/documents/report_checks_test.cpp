@@ -1,4 +1,5 @@
 #include "checks/hunspell_spelling.h"
+#include "documents/content/class_summary.h"
 #include "documents/content/report_checks.h"
 #include "documents/content/report_marks.h"
 #include "tests/documents/report_installation.h"
@@ -161,6 +162,35 @@ TEST(ReportChecks, TellsOnceWhatIsMissingInTheList) {
     daten.Liste.reset();
     EXPECT_EQ(befunde(daten), "-1 Die Zeugnisliste dieser Klasse ist noch nicht angelegt. In allen "
                               "Zeugnissen stehen bei Versäumnissen und Noten Striche.\n");
+}
+
+TEST(ReportChecks, TellsTheClassInOneLine) {
+    Zeugnisdaten daten = tadellos();
+    const auto line = [&](bool mitHinweisen) {
+        const Klassenbild bild = KlassenbildVon(daten, ZeugnissePruefen(daten, {}), mitHinweisen);
+        const Klassensatz satz = KlassensatzVon(bild);
+        return utf8FromText(satz.Kinder + u" · " + satz.Texte + u" · " + satz.Hinweise + u" · " +
+                            satz.Noten);
+    };
+    EXPECT_EQ(line(true),
+              "4 Kinder · Alle Texte vollständig · Kein Hinweis · Alle Noten eingetragen");
+    daten.AVSV[1][1].clear();
+    daten.Bereiche[2][3] = u" ";
+    daten.Bereiche[0][2] = u"Anna liest..";
+    daten.Liste->Eintraege[0] = Eintrag();
+    EXPECT_EQ(line(true),
+              "4 Kinder · Texte vollständig bei 2 · 1 Hinweis · Noten fehlen bei einem");
+    const Klassenbild bild = KlassenbildVon(daten, ZeugnissePruefen(daten, {}), true);
+    EXPECT_EQ(bild.OhneText, (Fundort{1, true, 1}));
+    EXPECT_EQ(bild.ErsterHinweis, (Fundort{2, false, 0}));
+    daten.AVSV[0][2].clear();
+    daten.Liste.reset();
+    EXPECT_EQ(line(false), "4 Kinder · Texte vollständig bei einem ·  · ");
+    daten.Stamm.Liste.Schuelerzahl = 1;
+    daten.AVSV[0][0].clear();
+    EXPECT_EQ(line(true), "1 Kind · Texte noch bei keinem vollständig · Kein Hinweis · ");
+    daten.Stamm.Liste.Kinder[0] = {};
+    EXPECT_EQ(KlassensatzVon(KlassenbildVon(daten, {}, true)).Kinder, u"Noch keine Kinder");
 }
 
 } // namespace
