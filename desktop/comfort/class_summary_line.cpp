@@ -15,7 +15,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 
@@ -29,8 +28,8 @@ ClassSummaryLine::ClassSummaryLine(GsStart& screen, ScreenWindow& window, Window
       m_window(window),
       m_host(host),
       m_thread(CheckThread::of(host)) {
-    auto* row = new FlowRow(4);
-    row->alignRightFrom(static_cast<int>(2 * m_parts.size()));
+    auto* row = new FlowRow(14);
+    row->alignRightFrom(static_cast<int>(m_parts.size()));
     setLayout(row);
     const std::array tips = {tr("Die Stammdaten öffnen"), tr("Zum ersten Kind, dem ein Text fehlt"),
                              tr("Zum ersten Text, an dem etwas auffällt"),
@@ -41,9 +40,6 @@ ClassSummaryLine::ClassSummaryLine(GsStart& screen, ScreenWindow& window, Window
         part->setCursor(Qt::PointingHandCursor);
         part->setToolTip(tips.at(i));
         m_parts.at(i) = part;
-        m_dots.at(i) = new QLabel(QStringLiteral("·"), this);
-        m_dots.at(i)->setForegroundRole(QPalette::PlaceholderText);
-        row->insertWidget(row->count(), *m_dots.at(i));
         row->insertWidget(row->count(), *part);
     }
     connect(m_parts[Children], &QPushButton::clicked, this, &ClassSummaryLine::showMasterData);
@@ -107,7 +103,6 @@ void ClassSummaryLine::show(const Klassenbild& picture) {
         m_parts.at(i)->setText(qString(texts.at(i)));
         m_parts.at(i)->setEnabled(leads.at(i));
         m_parts.at(i)->setVisible(!texts.at(i).empty());
-        m_dots.at(i)->setVisible(i > 0 && !texts.at(i).empty());
     }
     m_isKnown = picture.Kinder > 0;
     setVisible(m_isKnown && m_screen.Command2.Visible);

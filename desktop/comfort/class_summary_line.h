@@ -7,7 +7,6 @@
 
 #include <array>
 
-class QLabel;
 class QPushButton;
 
 namespace zeugnis {
@@ -48,7 +47,6 @@ class ClassSummaryLine : public QWidget {
     bool m_isKnown = false;
     enum Part { Children, Texts, Hints, Grades };
     std::array<QPushButton*, 4> m_parts{};
-    std::array<QLabel*, 4> m_dots{}; ///< in front of each part
 };
 
 } // namespace zeugnis
