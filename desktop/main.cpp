@@ -1,4 +1,5 @@
 #include "common/screen_names.h"
+#include "desktop/comfort/lead_to_text.h"
 #include "desktop/desktop_machine.h"
 #include "desktop/rescue/choice_box.h"
 #include "desktop/rescue/net.h"
@@ -12,6 +13,7 @@
 #include "safety/folder_lock.h"
 #include "safety/guard.h"
 #include "safety/recovery.h"
+#include "toolkit/entry_call.h"
 #include "toolkit/qt_text.h"
 
 #include <QApplication>
@@ -76,6 +78,8 @@ int run() {
     dialogs.parent = [&host] { return host.dialogParent(); };
     Net net(host, dialogs, guard, programFolder);
     net.keepFolder(lock);
+    const EntryCallServer calls(
+        programFolder, [&host](const EntryPlace& place) { return leadToText(host, place); });
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
         &host,

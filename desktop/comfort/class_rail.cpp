@@ -222,7 +222,7 @@ void ClassRail::showTwins(int page, int child, int other) {
     const auto side = [&](int one) {
         return TwinWindow::Side{.name = qString(m_states.at(static_cast<size_t>(one)).Name),
                                 .text = m_entry.TextVon(page, one),
-                                .way = tr("Zu diesem &Text"),
+                                .way = tr("Zu diesem Text"),
                                 .lead = [this, one, page] { lead(one, page); }};
     };
     TwinWindow twins(pageName(*m_entry.Seiten[static_cast<size_t>(page)]), side(child), side(other),

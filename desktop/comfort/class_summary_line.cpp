@@ -1,15 +1,14 @@
 #include "desktop/comfort/class_summary_line.h"
 
-#include "comfort/entry_flow.h"
-#include "common/screen_names.h"
-#include "controls/list_controls.h"
 #include "controls/program.h"
 #include "controls/user_actions.h"
 #include "desktop/comfort/check_thread.h"
+#include "desktop/comfort/lead_to_text.h"
 #include "desktop/screen_window.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "documents/content/report_marks.h"
+#include "toolkit/entry_call.h"
 #include "toolkit/flow_row.h"
 #include "toolkit/qt_text.h"
 
@@ -123,29 +122,8 @@ void ClassSummaryLine::showMasterData() {
 
 void ClassSummaryLine::showText(const std::optional<Fundort>& place) {
     if (place)
-        openEntry(*place);
-}
-
-// An entry window that is open holds what has been typed, so it is not opened anew.
-void ClassSummaryLine::openEntry(const Fundort& place) {
-    const int index = place.IstAVSV ? 0 : m_screen.Jahrgang < 3 ? 1 : 2;
-    const std::array names = {bildschirme::GsArbeitsverhalten, bildschirme::Kompetenzen,
-                              bildschirme::GSAGFI};
-    const TextView name = names.at(static_cast<size_t>(index));
-    const Screen* open = m_host.program().find(name);
-    Button& button = m_screen.Command1(index);
-    if ((open == nullptr || !open->shown()) && m_host.mayAct(button))
-        m_host.run([&] { user::click(button); });
-    Screen* screen = m_host.program().find(name);
-    const std::optional<Eingabeschirm> entry =
-        screen == nullptr ? std::nullopt : EingabeschirmAus(*screen);
-    if (!entry || !m_host.mayAct(*entry->Kinder))
-        return;
-    m_host.run([&] { Eingabefluss(*entry).Hinfuehren(place.Platz, place.Seite); });
-    if (ScreenWindow* window = m_host.windowOf(screen)) {
-        window->raise();
-        window->activateWindow();
-    }
+        leadToText(m_host,
+                   {.child = place->Platz, .isBehaviour = place->IstAVSV, .page = place->Seite});
 }
 
 } // namespace zeugnis

@@ -37,7 +37,6 @@ class ClassSummaryLine : public QWidget {
     void show(const dokumente::Klassenbild& picture);
     void showMasterData();
     void showText(const std::optional<dokumente::Fundort>& place);
-    void openEntry(const dokumente::Fundort& place);
 
     GsStart& m_screen;
     ScreenWindow& m_window;

@@ -8,19 +8,19 @@
 namespace zeugnis::dokumente {
 namespace {
 
-std::optional<Fundort> ortVon(const Zeugnisdaten& daten, const Befund& befund) {
-    for (const Abschnittsplan& plan : AbschnitteFuer(daten.Stamm.Jahrgang, daten.Stamm.Aufbau))
-        if (plan.Woher != Abschnittsplan::Quelle::Noten && plan.Ueberschrift == befund.Abschnitt)
-            return Fundort{befund.Platz, plan.Woher == Abschnittsplan::Quelle::AVSV,
-                           static_cast<int>(plan.Nummer)};
-    return std::nullopt;
-}
-
 Text beiWievielen(TextView was, int anzahl) {
     return Text(was) + (anzahl == 1 ? u"einem" : textFromNumber(anzahl));
 }
 
 } // namespace
+
+std::optional<Fundort> FundortVon(const Stammdaten& stamm, TextView ueberschrift, int platz) {
+    for (const Abschnittsplan& plan : AbschnitteFuer(stamm.Jahrgang, stamm.Aufbau))
+        if (plan.Woher != Abschnittsplan::Quelle::Noten && plan.Ueberschrift == ueberschrift)
+            return Fundort{platz, plan.Woher == Abschnittsplan::Quelle::AVSV,
+                           static_cast<int>(plan.Nummer)};
+    return std::nullopt;
+}
 
 Klassenbild KlassenbildVon(const Zeugnisdaten& daten, const std::vector<Befund>& befunde,
                            bool mitHinweisen) {
@@ -41,13 +41,13 @@ Klassenbild KlassenbildVon(const Zeugnisdaten& daten, const std::vector<Befund>&
         if (befund.Art == Befundart::OhneText) {
             ohneText.insert(befund.Platz);
             if (!bild.OhneText)
-                bild.OhneText = ortVon(daten, befund);
+                bild.OhneText = FundortVon(daten.Stamm, befund.Abschnitt, befund.Platz);
         } else if (befund.Art == Befundart::Noten) {
             ohneNoten.insert(befund.Platz);
         } else if (befund.Art == Befundart::Text) {
             ++hinweise;
             if (!bild.ErsterHinweis)
-                bild.ErsterHinweis = ortVon(daten, befund);
+                bild.ErsterHinweis = FundortVon(daten.Stamm, befund.Abschnitt, befund.Platz);
         }
     }
     bild.Vollstaendig = bild.Kinder - static_cast<int>(ohneText.size());

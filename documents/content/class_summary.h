@@ -14,6 +14,9 @@ struct Fundort {
     bool operator==(const Fundort&) const = default;
 };
 
+/// Where the section of that heading is written; nothing for one that no screen writes.
+std::optional<Fundort> FundortVon(const Stammdaten& stamm, TextView ueberschrift, int platz);
+
 struct Klassenbild {
     int Kinder = 0; ///< those with a name
     int Vollstaendig = 0;

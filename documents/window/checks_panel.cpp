@@ -88,11 +88,15 @@ QWidget* ChecksPanel::buttons() {
     m_seen->setToolTip(QStringLiteral("Nicht mehr zeigen, bis der Text geändert wird"));
     m_learn = new QPushButton(QStringLiteral("&Wort merken"));
     m_learn->setToolTip(QStringLiteral("Diese Schreibung ist richtig, auch bei anderen Kindern"));
+    m_compare = new QPushButton(QStringLiteral("&Nebeneinander"));
+    m_compare->setToolTip(QStringLiteral("Die beiden Texte nebeneinander ansehen"));
     layout->addWidget(m_seen);
     layout->addWidget(m_learn);
+    layout->addWidget(m_compare);
     layout->addStretch();
     connect(m_seen, &QPushButton::clicked, this, [this] { finish(m_quelle.Gesehen); });
     connect(m_learn, &QPushButton::clicked, this, [this] { finish(m_quelle.Lernen); });
+    connect(m_compare, &QPushButton::clicked, this, &ChecksPanel::compare);
     row->setVisible(m_quelle.Gesehen && m_quelle.Lernen);
     return row;
 }
@@ -150,7 +154,16 @@ const Befund* ChecksPanel::findingOf(const QListWidgetItem* item) const {
 void ChecksPanel::followSelection() {
     const Befund* befund = findingOf(m_list->currentItem());
     m_seen->setEnabled(befund != nullptr);
+    // One of the two only: a finding has words to learn, or twins.
+    const bool hasTwins = befund != nullptr && !befund->Zwillinge.empty();
+    m_compare->setVisible(hasTwins);
+    m_learn->setVisible(!hasTwins);
     m_learn->setEnabled(befund != nullptr && !befund->Woerter.empty());
+}
+
+void ChecksPanel::compare() {
+    if (const Befund* befund = findingOf(m_list->currentItem()))
+        emit comparing(*befund);
 }
 
 void ChecksPanel::choose(const QListWidgetItem* item) {

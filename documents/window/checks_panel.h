@@ -32,9 +32,12 @@ class ChecksPanel : public QWidget {
 
   signals:
     void chosen(const Befund& befund);
+    /// The texts of twins are to be shown side by side.
+    void comparing(const Befund& befund);
 
   private:
     QWidget* buttons();
+    void compare();
     void show();
     void choose(const QListWidgetItem* item);
     void finish(const std::function<void(const Befund&)>& how);
@@ -48,6 +51,7 @@ class ChecksPanel : public QWidget {
     QListWidget* m_list;
     QPushButton* m_seen = nullptr;
     QPushButton* m_learn = nullptr;
+    QPushButton* m_compare = nullptr;
 };
 
 } // namespace zeugnis::dokumente

@@ -39,6 +39,9 @@ class PreviewWindow : public QWidget {
     QPushButton* addAction(const QString& text, const QString& toolTip);
     [[nodiscard]] const Dokumentdateien& files() const { return m_anzeige.Dateien; }
     void load();
+    void goToFinding(const Befund& befund);
+    /// The texts of a finding's children side by side.
+    virtual void showTwins(const Befund& /*befund*/) {}
 
   private:
     QWidget* actionRow();
@@ -51,7 +54,6 @@ class PreviewWindow : public QWidget {
     void reloadIfChanged();
     void showPosition();
     void goTo(int row);
-    void goToFinding(const Befund& befund);
     [[nodiscard]] int pageOf(const Befund& befund) const;
     void showZoom();
     void chooseZoom(int index);

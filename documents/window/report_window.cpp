@@ -2,12 +2,16 @@
 
 #include "documents/app/report_files.h"
 #include "documents/app/temporary_folder.h"
+#include "documents/content/class_summary.h"
 #include "documents/content/class_texts.h"
+#include "documents/content/report_frame.h"
 #include "documents/window/layout_dialog.h"
 #include "documents/window/progress.h"
 #include "platform/failure.h"
 #include "platform/whole_file.h"
+#include "toolkit/entry_call.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/twin_window.h"
 
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -86,6 +90,39 @@ void ReportWindow::changeLayout() {
         load();
     } catch (const Laufzeitfehler& failure) {
         QMessageBox::warning(this, LayoutTitle, qString(failure.sentence()));
+    }
+}
+
+// In the entry window if the program is open, else on the page.
+void ReportWindow::showTwins(const Befund& befund) {
+    try {
+        const Zeugnisdaten daten = ZeugnisdatenLesen(m_folder);
+        const auto side = [&](int platz) {
+            TwinWindow::Side one{.name = qString(Kindname(daten.Stamm.Liste.Kinder[platz])),
+                                 .text = {},
+                                 .way = QStringLiteral("Zu diesem Text"),
+                                 .lead = {}};
+            for (const Abschnittstext& abschnitt : AbschnitteVon(daten, platz))
+                if (abschnitt.Ueberschrift == befund.Abschnitt)
+                    one.text = abschnitt.Inhalt;
+            const std::optional<Fundort> ort = FundortVon(daten.Stamm, befund.Abschnitt, platz);
+            one.lead = [this, ort, platz, name = one.name, befund] {
+                if (ort && callEntry(m_folder.programFolder(), {.child = ort->Platz,
+                                                                .isBehaviour = ort->IstAVSV,
+                                                                .page = ort->Seite}))
+                    return;
+                Befund dort = befund;
+                dort.Platz = platz;
+                dort.Kind = fromQString(name);
+                goToFinding(dort);
+            };
+            return one;
+        };
+        TwinWindow(qString(befund.Abschnitt), side(befund.Platz), side(befund.Zwillinge.front()),
+                   this)
+            .exec();
+    } catch (const Laufzeitfehler& failure) {
+        QMessageBox::warning(this, QStringLiteral("Hinweise"), qString(failure.sentence()));
     }
 }
 

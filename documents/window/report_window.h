@@ -15,6 +15,9 @@ class ReportWindow : public PreviewWindow {
     ReportWindow(Arbeitsverzeichnis programmordner, Nachschauen nachschauen,
                  std::function<void()> neuSchreiben, std::function<void()> konferenzblatt);
 
+  protected:
+    void showTwins(const Befund& befund) override;
+
   private:
     void changeLayout();
     void writeOneForEach();
