@@ -16,6 +16,9 @@ namespace {
 
 using namespace std::chrono;
 
+// Behind the time in the name of the file.
+constexpr std::string_view Kept = "-aufgehoben";
+
 constexpr days Month{31};
 constexpr days HalfYear{183};
 
@@ -84,6 +87,15 @@ std::optional<Journal> States::read(const std::string& id) const {
 }
 
 int States::add(Moment when, const Text& action, const std::vector<Former>& files) const {
+    return write(when, "", action, files);
+}
+
+int States::keep(Moment when, const Text& name, const std::vector<Former>& files) const {
+    return write(when, Kept, u"Aufgehoben: " + name, files);
+}
+
+int States::write(Moment when, std::string_view mark, const Text& action,
+                  const std::vector<Former>& files) const {
     if (const int error = makeFolder(m_paths, m_paths.states); error != 0)
         return error;
     std::string bytes = journalHead(when);
@@ -92,8 +104,8 @@ int States::add(Moment when, const Text& action, const std::vector<Former>& file
     bytes += journalEnd(action);
     std::error_code ignored;
     for (int number = 0; number < journalsPerSecond; ++number) {
-        const fs::path file =
-            m_paths.states / (journalStem(when, number) + std::string(FormerState));
+        const fs::path file = m_paths.states / (journalStem(when, number) + std::string(mark) +
+                                                std::string(FormerState));
         if (!fs::exists(file, ignored))
             return raw::replaceByRename(file, bytes, raw::Durability::AtOnce);
     }
@@ -124,6 +136,7 @@ void States::thinOut(Moment today, std::uintmax_t limit) const {
         return raw::remove(m_paths.states / (state.id + std::string(FormerState))) == 0;
     };
     std::vector<State> states = list();
+    std::erase_if(states, [](const State& state) { return state.id.ends_with(Kept); });
     std::reverse(states.begin(), states.end());
     FirstOfSpan firsts;
     std::erase_if(states, [&](const State& state) {
@@ -156,7 +169,7 @@ bool States::makeRoom(std::uintmax_t bytes) const {
         if (freed >= bytes)
             break;
         const std::uintmax_t size = sizeOf(file);
-        if (raw::remove(file) == 0)
+        if (!utf8FromPath(file.stem()).ends_with(Kept) && raw::remove(file) == 0)
             freed += size;
     }
     return freed > 0;

@@ -3,10 +3,14 @@
 #include "comfort/entry_access.h"
 #include "desktop/comfort/class_rail.h"
 #include "desktop/comfort/entry_keys.h"
+#include "desktop/comfort/last_term_window.h"
 #include "desktop/comfort/saved_line.h"
 #include "desktop/screen_window.h"
+#include "desktop/theme.h"
 
 #include <QHBoxLayout>
+#include <QPushButton>
+#include <QShortcut>
 
 namespace zeugnis {
 namespace {
@@ -28,6 +32,19 @@ void putAtTheLeft(QWidget& rail, QWidget& window) {
         first->setFocus();
 }
 
+QWidget* lastTermButton(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry) {
+    auto* texts = new LastTermWindow(window, host, entry);
+    auto* button = new QPushButton(QObject::tr("Letztes Halbjahr (F6)"), &window);
+    button->setObjectName(QStringLiteral("link"));
+    button->setFont(theme::scaledFont(0.92));
+    button->setCursor(Qt::PointingHandCursor);
+    button->setToolTip(QObject::tr("Den Text des Kindes vom letzten Halbjahr daneben zeigen"));
+    QObject::connect(button, &QPushButton::clicked, texts, &LastTermWindow::toggle);
+    auto* shortcut = new QShortcut(Qt::Key_F6, &window);
+    QObject::connect(shortcut, &QShortcut::activated, texts, &LastTermWindow::toggle);
+    return button;
+}
+
 } // namespace
 
 void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
@@ -46,6 +63,7 @@ void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
     qobject_cast<QBoxLayout*>(window.layout())->addLayout(last);
     if (!entry)
         return;
+    last->addWidget(lastTermButton(window, host, *entry));
     auto* rail = new ClassRail(window, host, *entry);
     last->addWidget(rail->hintButton());
     putAtTheLeft(*rail, window);

@@ -4,6 +4,7 @@
 #include "desktop/desktop_machine.h"
 #include "desktop/rescue/choice_box.h"
 #include "desktop/rescue/former_states_window.h"
+#include "desktop/rescue/half_year_box.h"
 #include "desktop/rescue/offer_window.h"
 #include "desktop/screen_window.h"
 #include "desktop/window_host.h"
@@ -93,6 +94,8 @@ void Net::offerTyped() {
 
 bool Net::mayAct(Control& control) {
     m_keeper.note();
+    if (!mayBlankTexts(control, m_folder, m_host.dialogParent()))
+        return false;
     if (rescue::opens(control))
         examine();
     if (!rescue::mayWrite(control))

@@ -5,6 +5,7 @@
 #include "editors/editor34.h"
 #include "masterdata/master_data_screen.h"
 #include "rescue/forethought.h"
+#include "rescue/last_term.h"
 #include "tests/rescue/rescue_test.h"
 
 #include <gmock/gmock.h>
@@ -151,6 +152,46 @@ TEST_F(FullClass, AClassListThatSortingHasWipedComesBack) {
     ASSERT_LT(installation.read(u"Daten/Namen.Txt").size(), before.size());
     bringBackAllBefore(u"Basisdaten gespeichert");
     EXPECT_EQ(installation.read(u"Daten/Namen.Txt"), before);
+}
+
+// The stores are blanked with the Yes, the half-year is written with the save.
+TEST_F(FormerStatesTest, TheLastHalfYearsTextsAreKnownForGoodIfTheyWereKept) {
+    Schueler tom;
+    tom.Nachname = u"Zander";
+    tom.Vorname = u"Tom";
+    GsBasis& basis = openMasterData();
+    EXPECT_FALSE(blanksTexts(basis.Command3, installation.path()).happens) << "nothing to lose";
+    machine.programm.unload(basis.name());
+    writeToms();
+    GsBasis& school = openMasterData();
+    EXPECT_TRUE(blanksTexts(school.Command3, installation.path()).atOnce);
+    EXPECT_TRUE(blanksTexts(school.Command5, installation.path()).happens);
+    EXPECT_FALSE(blanksTexts(school.Command6, installation.path()).happens);
+    const Text before = termOf(installation.path());
+    ASSERT_EQ(keepState(installation.path(), u"Fertig"), 0);
+    machine.dialogs.answers = {Antwort::Ja};
+    click(school.Command3);
+    EXPECT_FALSE(LastTerm(installation.path()).isKnown()) << "the half-year is still the same";
+    const Text other = school.Text1(4).text() == u"1" ? u"2" : u"1";
+    click(school.Text1(4));
+    school.Text1(4).setText(other);
+    click(school.Command1(0));
+
+    safety::States(installation.path()).thinOut(safety::now() + std::chrono::days(3));
+    for (const bool lateInTheYear : {false, true}) {
+        if (lateInTheYear)
+            safety::States(installation.path()).thinOut(safety::now() + std::chrono::days(170));
+        const LastTerm last(installation.path());
+        ASSERT_TRUE(last.isKnown());
+        EXPECT_EQ(last.name(), before);
+        ASSERT_EQ(last.of(tom).size(), 1U);
+        EXPECT_EQ(last.of(tom)[0].text, TomsText);
+        EXPECT_EQ(last.of(tom)[0].heading, u"Arbeitsverhalten");
+    }
+    safety::States(installation.path()).thinOut(safety::now() + std::chrono::days(400));
+    ASSERT_EQ(safety::States(installation.path()).list().size(), 1U);
+    EXPECT_EQ(safety::States(installation.path()).list()[0].action, u"Aufgehoben: Fertig");
+    EXPECT_TRUE(LastTerm(installation.path()).isKnown());
 }
 
 } // namespace
