@@ -1,6 +1,7 @@
 #include "comfort/entry_access.h"
 
 #include "behaviour/avsv_entry_screen.h"
+#include "files/section_stores.h"
 #include "years12/entry_screen.h"
 #include "years34/entry_screen.h"
 
@@ -25,6 +26,7 @@ Eingabeschirm aus(GsArbeitsverhalten& screen) {
             .Texte = {&screen.Speicher.AV.Texte, &screen.Speicher.SV.Texte},
             .Kategorien = alle(screen.Command3),
             .Zuletzt = {},
+            .Ablage = &speicherdateien::AVSVTexte,
             .Speichern = &screen.Command4,
             .Neu = &screen.Command6};
 }
@@ -38,6 +40,7 @@ Eingabeschirm aus(Kompetenzen& screen) {
                          .Texte = {},
                          .Kategorien = {},
                          .Zuletzt = screen.Check1(0).name(),
+                         .Ablage = &speicherdateien::Texte12,
                          .Speichern = &screen.Command2,
                          .Neu = &screen.Command4};
     for (int seite = 0; seite < jahrgang12::Bereichszahl; ++seite)
@@ -54,6 +57,7 @@ Eingabeschirm aus(GSAGFI& screen) {
                          .Texte = {},
                          .Kategorien = {},
                          .Zuletzt = {},
+                         .Ablage = &speicherdateien::Texte34,
                          .Speichern = &screen.Command1(0),
                          .Neu = &screen.Command1(2)};
     for (int seite = 0; seite < jahrgang34::Seitenzahl; ++seite)
@@ -92,6 +96,13 @@ const Text& Eingabeschirm::TextVon(int seite, int kind) const {
     // A page of which no text is in its box has that of memory.
     const bool imFeld = kind == Kinder->listIndex() && Felder.at(platz)->reachable();
     return imFeld ? Felder.at(platz)->text() : (*Texte.at(platz))[kind];
+}
+
+std::vector<Text> Eingabeschirm::TexteVon(int kind) const {
+    std::vector<Text> texte;
+    for (int seite = 0; seite < static_cast<int>(Seiten.size()); ++seite)
+        texte.push_back(TextVon(seite, kind));
+    return texte;
 }
 
 bool Eingabeschirm::Vollstaendig(int kind) const {

@@ -12,6 +12,7 @@ class ComboBox;
 class Frame;
 class Screen;
 class TextBox;
+struct Speicherdatei;
 
 /// What the three entry screens have in common for those who look at them and act on them from
 /// outside. It points into the screen and goes with it. Pages are the sections of work and social
@@ -26,6 +27,7 @@ struct Eingabeschirm {
     std::vector<Button*> Kategorien; ///< of work and social behaviour; empty elsewhere
     /// The boxes that stand behind the options of their page, though the screen has them in front.
     TextView Zuletzt = {};
+    const Speicherdatei* Ablage = nullptr; ///< the store that the texts go to, page by page
     Button* Speichern = nullptr;
     Button* Neu = nullptr; ///< the reset of the page
 
@@ -35,6 +37,8 @@ struct Eingabeschirm {
     [[nodiscard]] int Kategorie() const;
     /// The text of a child on a page, with what stands in its box but not yet in memory.
     [[nodiscard]] const Text& TextVon(int seite, int kind) const;
+    /// Those of all pages.
+    [[nodiscard]] std::vector<Text> TexteVon(int kind) const;
     /// Whether the child has a text on every page.
     [[nodiscard]] bool Vollstaendig(int kind) const;
 };

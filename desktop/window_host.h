@@ -87,6 +87,9 @@ class WindowHost : public QObject {
     [[nodiscard]] const WindowPlace* placed(const Text& screen) const;
     void remember(const Text& screen, const WindowPlace& place) { m_places[screen] = place; }
 
+    /// Whether the report stands beside the input; kept as long as the program runs.
+    bool reportBeside = false;
+
   signals:
     /// A run-time failure is about to be shown.
     void failed(const zeugnis::Laufzeitfehler& failure);

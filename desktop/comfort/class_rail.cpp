@@ -177,8 +177,14 @@ void ClassRail::choose(int row) {
     m_host.run([&] { user::pick(*m_entry.Kinder, row); });
 }
 
+void ClassRail::giveWay(bool away) {
+    m_givesWay = away;
+    foldIfNarrow();
+}
+
 void ClassRail::foldIfNarrow() {
-    const bool narrow = m_window.width() < NarrowestWindow * fontMetrics().height() / 20;
+    const bool narrow =
+        m_givesWay || m_window.width() < NarrowestWindow * fontMetrics().height() / 20;
     if (narrow == isHidden())
         return;
     setVisible(!narrow);

@@ -32,6 +32,9 @@ class ClassRail : public QWidget {
     /// A window must be so wide that the rail leaves the rest the room it needs.
     static constexpr int NarrowestWindow = 1300;
 
+    /// Folds away although the window is wide enough, for something that needs the room.
+    void giveWay(bool away);
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -57,6 +60,7 @@ class ClassRail : public QWidget {
     QLabel* m_sentence;
     QPushButton* m_hintButton;
     QListWidget* m_list;
+    bool m_givesWay = false;
 };
 
 } // namespace zeugnis

@@ -4,6 +4,7 @@
 #include "desktop/comfort/class_rail.h"
 #include "desktop/comfort/entry_keys.h"
 #include "desktop/comfort/last_term_window.h"
+#include "desktop/comfort/report_pane.h"
 #include "desktop/comfort/saved_line.h"
 #include "desktop/screen_window.h"
 #include "desktop/theme.h"
@@ -16,7 +17,7 @@ namespace zeugnis {
 namespace {
 
 // Everything that the window has shown until now goes to the right of the rail.
-void putAtTheLeft(QWidget& rail, QWidget& window) {
+QHBoxLayout* putAtTheLeft(QWidget& rail, QWidget& window) {
     auto* rest = new QWidget;
     QWidget* first = window.focusWidget();
     const QMargins margins = window.layout()->contentsMargins();
@@ -30,6 +31,7 @@ void putAtTheLeft(QWidget& rail, QWidget& window) {
     // A widget that moves to another parent loses the keyboard.
     if (first != nullptr)
         first->setFocus();
+    return row;
 }
 
 QWidget* lastTermButton(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry) {
@@ -66,7 +68,8 @@ void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
     last->addWidget(lastTermButton(window, host, *entry));
     auto* rail = new ClassRail(window, host, *entry);
     last->addWidget(rail->hintButton());
-    putAtTheLeft(*rail, window);
+    auto* report = new ReportPane(window, host, *entry, *putAtTheLeft(*rail, window), *rail);
+    last->addWidget(report->opener());
 }
 
 } // namespace zeugnis

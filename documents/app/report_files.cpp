@@ -58,8 +58,8 @@ void abbruchPruefen(const std::stop_token& abbruch) {
 
 } // namespace
 
-Zeugnisdaten ZeugnisdatenMitBild(Arbeitsverzeichnis& verzeichnis) {
-    Zeugnisdaten daten = ZeugnisdatenLesen(verzeichnis);
+Zeugnisdaten ZeugnisdatenMitBild(Arbeitsverzeichnis& verzeichnis, const OffeneTexte& offen) {
+    Zeugnisdaten daten = ZeugnisdatenLesen(verzeichnis, offen);
     daten.Stamm.Kopfbild = KopfbildLesen(verzeichnis, daten.Stamm.Aufbau.Kopfbild);
     return daten;
 }

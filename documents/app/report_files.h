@@ -9,7 +9,7 @@
 namespace zeugnis::dokumente {
 
 /// As ZeugnisdatenLesen, with the picture that the layout names.
-Zeugnisdaten ZeugnisdatenMitBild(Arbeitsverzeichnis& verzeichnis);
+Zeugnisdaten ZeugnisdatenMitBild(Arbeitsverzeichnis& verzeichnis, const OffeneTexte& offen = {});
 
 /// Writes the report of a child with this layout into the folder and returns the .pdf. It is that
 /// of the first child, or of one that is not moved up, so that the sentence for it shows.

@@ -56,9 +56,12 @@ Abschnittstexte AVSVTexteLesen(Arbeitsverzeichnis& verzeichnis, const Namenslist
     return texte;
 }
 
+const Speicherdatei& BereichsspeicherVon(const Stammdaten& daten) {
+    return HatNoten(daten.Jahrgang) ? speicherdateien::Texte34 : speicherdateien::Texte12;
+}
+
 Abschnittstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten) {
-    const bool istUnten = daten.Jahrgang < 3;
-    const Speicherdatei& datei = istUnten ? speicherdateien::Texte12 : speicherdateien::Texte34;
+    const Speicherdatei& datei = BereichsspeicherVon(daten);
     Abschnittstexte texte(static_cast<size_t>(datei.Texte));
     const Ordnerwechsel in(verzeichnis, dateien::Daten);
     JeSchuelerLesen(
@@ -66,8 +69,8 @@ Abschnittstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammd
             const Schueler& kind = daten.Liste.Kinder[platz];
             // The store itself goes by place alone, so a changed class list would show only here.
             if (kopf.Nachname != kind.Nachname || kopf.Vorname != kind.Vorname)
-                throw fremdeTexte(istUnten ? u"Zeugnis der Jahrgänge 1 und 2"
-                                           : u"Zeugnis der Jahrgänge 3 und 4",
+                throw fremdeTexte(HatNoten(daten.Jahrgang) ? u"Zeugnis der Jahrgänge 3 und 4"
+                                                           : u"Zeugnis der Jahrgänge 1 und 2",
                                   u" Speichern Sie im Zeugnisprogramm die Stammdaten neu.");
             for (Schuelertabelle<Text>& abschnitt : texte)
                 abschnitt[platz] = reader.text();

@@ -34,6 +34,9 @@ using Abschnittstexte = std::vector<Schuelertabelle<Text>>;
 /// class list: a child must never get the text of another.
 Abschnittstexte AVSVTexteLesen(Arbeitsverzeichnis& verzeichnis, const Namensliste& liste);
 
+/// The store of the sections that only this pair of years has.
+const Speicherdatei& BereichsspeicherVon(const Stammdaten& daten);
+
 /// Those of the sections that only this pair of years has. Fails likewise.
 Abschnittstexte BereichstexteLesen(Arbeitsverzeichnis& verzeichnis, const Stammdaten& daten);
 

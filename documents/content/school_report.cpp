@@ -26,11 +26,18 @@ void notenAnfuegen(std::vector<Block>& bloecke, const Eintrag& eintrag,
     bloecke.emplace_back(Notenschluessel(HatNotenluecke(eintrag)));
 }
 
-void ueberschriftAnfuegen(std::vector<Block>& bloecke, const Abschnittsplan& plan, TextView fach) {
+Paragraph aus(int quelle, StyleId stil, Text text) {
+    Paragraph absatz = paragraph(stil, std::move(text));
+    absatz.source = quelle;
+    return absatz;
+}
+
+void ueberschriftAnfuegen(std::vector<Block>& bloecke, int quelle, const Abschnittsplan& plan,
+                          TextView fach) {
     if (!plan.Fach.empty() && plan.Fach != fach)
-        bloecke.emplace_back(paragraph(StyleId::Bereich, Text(plan.Fach)));
-    bloecke.emplace_back(paragraph(plan.Fach.empty() ? StyleId::Bereich : StyleId::Lernbereich,
-                                   Text(plan.Ueberschrift)));
+        bloecke.emplace_back(aus(quelle, StyleId::Bereich, Text(plan.Fach)));
+    bloecke.emplace_back(aus(quelle, plan.Fach.empty() ? StyleId::Bereich : StyleId::Lernbereich,
+                             Text(plan.Ueberschrift)));
 }
 
 Section zeugnis(const Zeugnisdaten& daten, int platz) {
@@ -42,15 +49,17 @@ Section zeugnis(const Zeugnisdaten& daten, int platz) {
     std::vector<Block>& bloecke = seiten.blocks;
     bloecke.emplace_back(Versaeumnisse(eintrag));
     TextView fach;
+    int quelle = -1;
     for (const Abschnittsplan& plan : AbschnitteFuer(stamm.Jahrgang, stamm.Aufbau)) {
+        ++quelle;
         if (plan.Woher == Quelle::Noten) {
             notenAnfuegen(bloecke, eintrag, stamm.Aufbau);
             continue;
         }
-        ueberschriftAnfuegen(bloecke, plan, fach);
+        ueberschriftAnfuegen(bloecke, quelle, plan, fach);
         fach = plan.Fach;
         const Text text = AufPapier(textVon(daten, plan, platz));
-        bloecke.emplace_back(paragraph(StyleId::Bereichstext, oderStrich(text)));
+        bloecke.emplace_back(aus(quelle, StyleId::Bereichstext, oderStrich(text)));
     }
     std::get<Paragraph>(bloecke.back()).keepEndWithNext = true;
     for (Block& block : Zeugnisschluss(stamm, IstNichtVersetzt(daten, platz)))
@@ -68,13 +77,24 @@ std::vector<Abschnittstext> AbschnitteVon(const Zeugnisdaten& daten, int platz) 
     return abschnitte;
 }
 
-Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis) {
+Abschnittstexte* TexteAus(Zeugnisdaten& daten, const Speicherdatei& speicher) {
+    if (speicher.Datei == speicherdateien::AVSVTexte.Datei)
+        return &daten.AVSV;
+    return speicher.Datei == BereichsspeicherVon(daten.Stamm).Datei ? &daten.Bereiche : nullptr;
+}
+
+Zeugnisdaten ZeugnisdatenLesen(Arbeitsverzeichnis& verzeichnis, const OffeneTexte& offen) {
     Zeugnisdaten daten{.Stamm = StammdatenLesen(verzeichnis), .AVSV = {}, .Bereiche = {}};
     if (daten.Stamm.Liste.Schuelerzahl < 1)
         throw Laufzeitfehler(Fehlerart::InvalidCall,
                              u"In der Namensliste steht kein Kind. Es wurde nichts geschrieben.");
-    daten.AVSV = AVSVTexteLesen(verzeichnis, daten.Stamm.Liste);
-    daten.Bereiche = BereichstexteLesen(verzeichnis, daten.Stamm);
+    const Abschnittstexte* texte =
+        offen.Anstelle == nullptr ? nullptr : TexteAus(daten, *offen.Anstelle);
+    const auto istOffen = [&](const Abschnittstexte& andere) { return texte == &andere; };
+    daten.AVSV =
+        istOffen(daten.AVSV) ? offen.Texte : AVSVTexteLesen(verzeichnis, daten.Stamm.Liste);
+    daten.Bereiche =
+        istOffen(daten.Bereiche) ? offen.Texte : BereichstexteLesen(verzeichnis, daten.Stamm);
     daten.Liste = ZeugnislisteLesen(verzeichnis, daten.Stamm);
     return daten;
 }

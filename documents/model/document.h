@@ -19,6 +19,8 @@ struct Run {
 };
 
 struct Paragraph {
+    static constexpr int NoSource = -1;
+
     StyleId style = StyleId::Fliesstext;
     std::vector<Run> runs;
     Text label = {};           ///< number or bullet that stands in the hanging indent
@@ -26,6 +28,7 @@ struct Paragraph {
     /// Of a longer paragraph only the last lines stay with what follows; for running text.
     bool keepEndWithNext = false;
     bool startsPage = false;
+    int source = NoSource; ///< for those who show where it comes from; no writer heeds it
 };
 
 struct Image {

@@ -19,6 +19,9 @@ struct LaidStrip {
     Text bookmark = {};
     /// Draws what is repeated above it on a new page; only where the strip asks for that.
     std::function<void(QPainter&, QPoint)> paintHead = {};
+    int source = Paragraph::NoSource; ///< that of its paragraph
+    /// A line in the middle of a paragraph of several.
+    bool isInner = false;
 };
 
 std::vector<LaidStrip> layParagraph(const Paragraph& paragraph, Twips width);

@@ -143,6 +143,26 @@ void fillPage(std::vector<Block>& blocks, const page::Form& form) {
 
 } // namespace
 
+int linesTooMany(const LaidSection& section, Twips pageHeight, int pages) {
+    std::vector<LaidStrip> strips = section.strips;
+    const auto last = [&](bool inner) {
+        const auto from = std::find_if(strips.rbegin(), strips.rend(), [&](const LaidStrip& one) {
+            return one.source != Paragraph::NoSource && (one.isInner || !inner);
+        });
+        return from == strips.rend() ? strips.end() : from.base() - 1;
+    };
+    int lines = 0;
+    while (!strips.empty() && paginate(strips, pageHeight).back().page >= pages) {
+        // Without an inner line a paragraph keeps the space around it.
+        auto line = last(true);
+        if (line == strips.end() && (line = last(false)) == strips.end())
+            break;
+        strips.erase(line);
+        ++lines;
+    }
+    return lines;
+}
+
 Document fittedToPages(Document document) {
     for (Section& section : document.sections) {
         makeLinesSure(section.blocks, document.form().textWidth());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/model/document.h"
+#include "documents/pdf/pdf_writer.h"
 
 namespace zeugnis::dokumente {
 
@@ -9,5 +9,9 @@ namespace zeugnis::dokumente {
 /// paragraph whose end is kept, the last lines become a paragraph of their own, parted where a
 /// line ends anyhow; a table that fills the page gets its rows. Needs a QGuiApplication.
 Document fittedToPages(Document document);
+
+/// How many lines of running text have to go for a section to take no more than so many pages; 0 if
+/// it takes no more.
+int linesTooMany(const LaidSection& section, Twips pageHeight, int pages);
 
 } // namespace zeugnis::dokumente

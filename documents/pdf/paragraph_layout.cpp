@@ -127,6 +127,8 @@ LaidStrip layLine(const Paragraph& paragraph, const std::shared_ptr<QTextLayout>
     const Twips textTop = style.rule == Rule::Above ? ruleHeight : 0;
 
     LaidStrip laid;
+    laid.source = paragraph.source;
+    laid.isInner = !isFirst && !isLast;
     laid.strip = {.height = style.lineHeight + ruleHeight,
                   .spaceBefore = isFirst ? style.spaceBefore : 0,
                   .spaceAfter = isLast ? style.spaceAfter : 0,

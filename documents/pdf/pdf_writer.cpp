@@ -1,5 +1,6 @@
 #include "documents/pdf/pdf_writer.h"
 
+#include "documents/pdf/page_painter.h"
 #include "documents/pdf/pdf_outline.h"
 #include "toolkit/qt_text.h"
 
@@ -23,58 +24,20 @@ void setUpPage(QPdfWriter& writer, const LaidDocument& document) {
         QMarginsF()));
 }
 
-void drawFooter(QPainter& painter, const page::Form& form, const LaidSection& section,
-                int pageNumber) {
-    const Style& style = styleOf(StyleId::Fusszeile);
-    const QPoint corner(page::Left, form.height - page::FooterToEdge - style.lineHeight);
-    const Text numbers =
-        u"Seite " + textFromNumber(pageNumber) + u" von " + textFromNumber(section.pages);
-    drawLine(painter, style, Alignment::Left, section.footer, corner, form.textWidth());
-    drawLine(painter, style, Alignment::Right, numbers, corner, form.textWidth());
+void drawSection(QPdfWriter& writer, QPainter& painter, const page::Form& form,
+                 const LaidSection& section, int firstPage, std::vector<Bookmark>& bookmarks) {
+    for (int page = 0; page < section.pages; ++page) {
+        if (firstPage + page > 0)
+            writer.newPage();
+        drawPage(painter, form, section, page);
+    }
+    for (size_t i = 0; i < section.strips.size(); ++i)
+        if (const LaidStrip& strip = section.strips[i]; !strip.bookmark.empty())
+            bookmarks.push_back(
+                {.title = strip.bookmark,
+                 .page = firstPage + section.places[i].page,
+                 .fromBottom = (form.height - page::Top - section.places[i].y) / 20});
 }
-
-class SectionPainter {
-  public:
-    SectionPainter(QPdfWriter& writer, QPainter& painter, const page::Form& form,
-                   std::vector<Bookmark>& bookmarks)
-        : m_writer(writer), m_painter(painter), m_form(form), m_bookmarks(bookmarks) {}
-
-    void draw(const LaidSection& section) {
-        int current = 0;
-        beginPage();
-        for (size_t i = 0; i < section.strips.size(); ++i) {
-            const LaidStrip& strip = section.strips[i];
-            const Place& place = section.places[i];
-            for (; current < place.page; ++current) {
-                drawFooter(m_painter, m_form, section, current + 1);
-                beginPage();
-            }
-            const QPoint corner(page::Left, page::Top + place.y);
-            const bool isFirst = i == 0 || section.places[i - 1].page != place.page;
-            if (isFirst && strip.paintHead)
-                strip.paintHead(m_painter, QPoint(page::Left, page::Top));
-            strip.paint(m_painter, corner);
-            if (!strip.bookmark.empty())
-                m_bookmarks.push_back({.title = strip.bookmark,
-                                       .page = m_page,
-                                       .fromBottom = (m_form.height - corner.y()) / 20});
-        }
-        drawFooter(m_painter, m_form, section, current + 1);
-    }
-
-  private:
-    void beginPage() {
-        if (m_page >= 0)
-            m_writer.newPage();
-        ++m_page;
-    }
-
-    QPdfWriter& m_writer;
-    QPainter& m_painter;
-    const page::Form& m_form;
-    std::vector<Bookmark>& m_bookmarks;
-    int m_page = -1;
-};
 
 } // namespace
 
@@ -106,9 +69,11 @@ std::string pdfFromLayout(const LaidDocument& document, std::string_view docChec
         QPdfWriter writer(&buffer);
         setUpPage(writer, document);
         QPainter painter(&writer);
-        SectionPainter sections(writer, painter, document.form, bookmarks);
-        for (const LaidSection& section : document.sections)
-            sections.draw(section);
+        int pages = 0;
+        for (const LaidSection& section : document.sections) {
+            drawSection(writer, painter, document.form, section, pages, bookmarks);
+            pages += section.pages;
+        }
     }
     return withAdditions(buffer.data().toStdString(), bookmarks, docChecksum);
 }
