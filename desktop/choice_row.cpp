@@ -60,6 +60,13 @@ void ChoiceRow::setChosen(bool chosen) {
     QAccessible::updateAccessibility(&event);
 }
 
+void ChoiceRow::setFormer(bool former) {
+    if (m_isFormer == former)
+        return;
+    m_isFormer = former;
+    update();
+}
+
 void ChoiceRow::setKeyHint(const QString& hint) {
     m_keyHint = hint;
     measureWords();
@@ -137,6 +144,13 @@ void ChoiceRow::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void ChoiceRow::paintMark(QPainter& painter, const QColor& ink) const {
     const QRectF mark(Padding, (height() - MarkSize) / 2.0, MarkSize, MarkSize);
+    const auto paintFormer = [&] {
+        if (!m_isFormer || isChecked())
+            return;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme::colours().OutlineStrong);
+        painter.drawEllipse(mark.adjusted(5, 5, -5, -5));
+    };
     painter.setPen(QPen(ink, 1.5));
     painter.setBrush(isEnabled() ? theme::colours().Surface : theme::colours().Background);
     if (m_mark == Mark::Option) {
@@ -145,9 +159,11 @@ void ChoiceRow::paintMark(QPainter& painter, const QColor& ink) const {
             painter.setBrush(ink);
             painter.drawEllipse(mark.adjusted(4.5, 4.5, -4.5, -4.5));
         }
+        paintFormer();
         return;
     }
     painter.drawRoundedRect(mark.adjusted(1, 1, -1, -1), 3, 3);
+    paintFormer();
     if (isChecked()) {
         QPainterPath tick(mark.topLeft() + QPointF(4, 8.5));
         tick.lineTo(mark.topLeft() + QPointF(7, 11.5));

@@ -25,6 +25,9 @@ class ChoiceRow : public QAbstractButton {
     /// For a choice that something else than the mark tells; without it the mark does.
     void setChosen(bool chosen);
     [[nodiscard]] bool isChosen() const { return m_chosen.value_or(isChecked()); }
+    /// It was chosen once and does not count now: a faint dot tells it.
+    void setFormer(bool former);
+    [[nodiscard]] bool isFormer() const { return m_isFormer; }
     /// A key that is shown in front of the inscription, such as the number of a line.
     void setKeyHint(const QString& hint);
     /// A picture in place of the inscription; the row then takes no more room than it needs.
@@ -56,6 +59,7 @@ class ChoiceRow : public QAbstractButton {
     Mark m_mark;
     QColor m_tint;
     std::optional<bool> m_chosen;
+    bool m_isFormer = false;
     QString m_inscription;
     QString m_keyHint;
     QPixmap m_picture;

@@ -101,12 +101,21 @@ class Choice : public Pressed {
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State state = Pressed::state();
         state.checkable = true;
-        state.checked = static_cast<const ChoiceRow&>(button()).isChosen();
+        state.checked = row().isChosen();
         return state;
+    }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        const QString told = Pressed::text(kind);
+        if (kind != QAccessible::Description || !row().isFormer())
+            return told;
+        return told.isEmpty() ? tr("war gewählt") : told + QStringLiteral(", ") + tr("war gewählt");
     }
 
   protected:
     [[nodiscard]] const QString& mainAction() const override { return toggleAction(); }
+
+  private:
+    [[nodiscard]] const ChoiceRow& row() const { return static_cast<const ChoiceRow&>(button()); }
 };
 
 // One of several that lead to a page is a page's tab.

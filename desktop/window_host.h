@@ -69,6 +69,8 @@ class WindowHost : public QObject {
         std::function<void(const Screen& screen)> closesKnowingly;
         /// What a failure that ends the program leaves unsaved, in a few sentences.
         std::function<QString()> unsaved;
+        /// Where what they remember from one run to the next is kept; empty: nowhere.
+        std::filesystem::path programFolder;
         /// Opens the window of former states.
         std::function<void()> showFormerStates;
     };

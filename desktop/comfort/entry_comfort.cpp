@@ -1,6 +1,7 @@
 #include "desktop/comfort/entry_comfort.h"
 
 #include "comfort/entry_access.h"
+#include "desktop/comfort/choice_keeper.h"
 #include "desktop/comfort/class_rail.h"
 #include "desktop/comfort/entry_keys.h"
 #include "desktop/comfort/last_term_window.h"
@@ -65,6 +66,7 @@ void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
     qobject_cast<QBoxLayout*>(window.layout())->addLayout(last);
     if (!entry)
         return;
+    last->addWidget((new ChoiceKeeper(window, host, *entry))->link());
     last->addWidget(lastTermButton(window, host, *entry));
     auto* rail = new ClassRail(window, host, *entry);
     last->addWidget(rail->hintButton());

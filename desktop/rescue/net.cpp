@@ -54,6 +54,7 @@ Net::Net(WindowHost& host, DesktopDialogs& dialogs, safety::Guard& guard,
                 m_keeper.closesKnowingly(screen);
             },
         .unsaved = [this] { return qString(m_keeper.unsavedSentence()); },
+        .programFolder = programFolder,
         .showFormerStates = [this] { showFormerStates(); },
     };
 }
