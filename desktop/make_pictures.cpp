@@ -1,6 +1,7 @@
 // Plays a few steps on the real windows and takes pictures of them, for the help texts:
 //   click SCREEN.CONTROL | select SCREEN.CONTROL ENTRY | picture SCREEN FILE
 //   type SCREEN.CONTROL SENTENCE | offers FILE | states FILE
+//   size SCREEN WIDTHxHEIGHT | press SCREEN INSCRIPTION (a button beside the controls)
 // All questions are answered with Yes.
 
 #include "common/screen_names.h"
@@ -17,8 +18,10 @@
 #include "program/all_screens.h"
 #include "toolkit/qt_text.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QImage>
+#include <QThread>
 #include <QWidget>
 
 #include <iostream>
@@ -67,13 +70,36 @@ void save(QWidget& window, const std::string& file) {
         throw std::runtime_error("no picture in " + file);
 }
 
-void takePicture(const Programm& program, const Text& name, const std::string& file) {
+QWidget& windowOf(const Programm& program, const Text& name) {
     const Screen* screen = program.find(name);
     for (QWidget* window : QApplication::topLevelWidgets())
         if (screen != nullptr && window->isVisible() &&
             window->windowTitle().remove(QStringLiteral("[*]")) == qString(screen->Title))
-            return save(*window, file);
-    throw std::runtime_error("no picture of " + utf8FromText(name));
+            return *window;
+    throw std::runtime_error("no window of " + utf8FromText(name));
+}
+
+void wait() {
+    QThread::msleep(200);
+    settle();
+}
+
+// Larger than the display, if need be: a window that has come up is put on it only once.
+void resize(QWidget& window, const std::string& size) {
+    wait();
+    const QStringList sides = QString::fromStdString(size).split(u'x');
+    window.resize(sides.value(0).toInt(), sides.value(1).toInt());
+    settle();
+}
+
+// What it opens may come a little later.
+void press(const QWidget& window, const std::string& inscription) {
+    for (auto* button : window.findChildren<QAbstractButton*>())
+        if (button->isVisible() && button->text().startsWith(QString::fromStdString(inscription))) {
+            button->click();
+            return wait();
+        }
+    throw std::runtime_error("no button " + inscription);
 }
 
 // The windows of the net, as the next start and the tools show them.
@@ -112,10 +138,12 @@ void play(WindowHost& host, BelowTheFiles& net, const std::string& line) {
     std::string rest;
     words >> command >> name >> rest;
     Programm& program = host.program();
-    if (command == "picture") {
-        takePicture(program, textFromUtf8(name), rest);
-        return;
-    }
+    if (command == "picture")
+        return save(windowOf(program, textFromUtf8(name)), rest);
+    if (command == "size")
+        return resize(windowOf(program, textFromUtf8(name)), rest);
+    if (command == "press")
+        return press(windowOf(program, textFromUtf8(name)), rest);
     if (command == "offers" || command == "states") {
         net.take(command, name);
         return;

@@ -27,7 +27,6 @@ ChoiceKeeper::ChoiceKeeper(ScreenWindow& window, WindowHost& host, const Eingabe
         m_memory.Uebernehmen(m_setDown = AuswahlLesen(m_keptIn, m_screenName));
     m_link->setObjectName(QStringLiteral("link"));
     m_link->setFont(theme::scaledFont(0.92));
-    m_link->setFixedHeight(m_link->fontMetrics().height());
     m_link->setCursor(Qt::PointingHandCursor);
     m_link->setToolTip(tr("Wählt die Zeilen noch einmal, aus denen der gelöschte Text bestand. Was "
                           "Sie schon neu gewählt haben, bleibt."));

@@ -56,7 +56,6 @@ ReportPane::ReportPane(ScreenWindow& window, WindowHost& host, const Eingabeschi
 
     m_opener->setObjectName(QStringLiteral("link"));
     m_opener->setFont(theme::scaledFont(0.92));
-    m_opener->setFixedHeight(m_opener->fontMetrics().height());
     m_opener->setCursor(Qt::PointingHandCursor);
     m_opener->setToolTip(tr("Zeigt, wie das Zeugnis dieses Kindes gedruckt aussieht"));
     connect(m_opener, &QPushButton::clicked, this, &ReportPane::toggle);
