@@ -5,7 +5,6 @@
 #include "documents/app/word_processor.h"
 #include "documents/content/report_marks.h"
 #include "documents/content/wording.h"
-#include "documents/window/one_window.h"
 #include "documents/window/preview_window.h"
 #include "documents/window/progress.h"
 #include "documents/window/report_list_window.h"
@@ -19,6 +18,7 @@
 #include "safety/layouts.h"
 #include "safety/recovery.h"
 #include "toolkit/look.h"
+#include "toolkit/one_window.h"
 #include "toolkit/qt_text.h"
 
 #include <QApplication>
@@ -141,7 +141,7 @@ std::unique_ptr<PreviewWindow> zeugnisfenster(const Arbeitsverzeichnis& programm
 }
 
 int zeigen(const Fenster& fenster, const std::filesystem::path& dokument) {
-    const OneWindow einzig(dokument, *fenster);
+    const OneWindow einzig(dokument, [&] { return fenster.get(); });
     fenster->show();
     QApplication::setQuitOnLastWindowClosed(true);
     return QApplication::exec();

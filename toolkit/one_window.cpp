@@ -1,4 +1,4 @@
-#include "documents/window/one_window.h"
+#include "toolkit/one_window.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -6,7 +6,7 @@
 #include <QLocalSocket>
 #include <QWidget>
 
-namespace zeugnis::dokumente {
+namespace zeugnis {
 namespace {
 
 constexpr int ConnectMs = 300;
@@ -14,33 +14,33 @@ constexpr int AnswerMs = 1700;
 constexpr const char* Answer = "ok";
 
 // Of the user's own, so that nobody else's window is called.
-QString serverName(const std::filesystem::path& document) {
+QString serverName(const std::filesystem::path& opened) {
     std::error_code ignored;
-    const std::filesystem::path whole = std::filesystem::weakly_canonical(document, ignored);
+    const std::filesystem::path whole = std::filesystem::weakly_canonical(opened, ignored);
     const QString key = QDir::homePath() + u'\n' +
-                        QString::fromStdU16String((whole.empty() ? document : whole).u16string());
+                        QString::fromStdU16String((whole.empty() ? opened : whole).u16string());
     const QByteArray hash =
         QCryptographicHash::hash(key.toLower().toUtf8(), QCryptographicHash::Sha256).toHex();
-    return QStringLiteral("zeugnisdokumente-") + QString::fromLatin1(hash.left(24));
+    return QStringLiteral("zeugnisprogramm-") + QString::fromLatin1(hash.left(24));
 }
 
 } // namespace
 
-OneWindow::OneWindow(const std::filesystem::path& document, QWidget& window)
-    : m_server(new QLocalServer(this)), m_window(window) {
+OneWindow::OneWindow(const std::filesystem::path& opened, std::function<QWidget*()> window)
+    : m_server(new QLocalServer(this)), m_window(std::move(window)) {
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server, &QLocalServer::newConnection, this, &OneWindow::comeToFront);
-    const QString name = serverName(document);
-    if (m_server->listen(name) || bringToFront(document))
+    const QString name = serverName(opened);
+    if (m_server->listen(name) || bringToFront(opened))
         return;
     // Left by a process that was killed.
     QLocalServer::removeServer(name);
     m_server->listen(name);
 }
 
-bool OneWindow::bringToFront(const std::filesystem::path& document) {
+bool OneWindow::bringToFront(const std::filesystem::path& opened) {
     QLocalSocket socket;
-    socket.connectToServer(serverName(document));
+    socket.connectToServer(serverName(opened));
     return socket.waitForConnected(ConnectMs) && socket.waitForReadyRead(AnswerMs) &&
            socket.readAll() == Answer;
 }
@@ -51,10 +51,13 @@ void OneWindow::comeToFront() {
         caller->write(Answer);
         caller->disconnectFromServer();
     }
-    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
-    m_window.show();
-    m_window.raise();
-    m_window.activateWindow();
+    QWidget* window = m_window();
+    if (window == nullptr)
+        return;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
-} // namespace zeugnis::dokumente
+} // namespace zeugnis

@@ -1,4 +1,4 @@
-#include "documents/window/one_window.h"
+#include "toolkit/one_window.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <future>
 #include <optional>
 
-namespace zeugnis::dokumente {
+namespace zeugnis {
 namespace {
 
 // As another process would, while the windows of this one stay alive.
@@ -24,7 +24,8 @@ TEST(OneWindow, IsBroughtToTheFrontInsteadOfASecondOne) {
     const std::filesystem::path folder = std::filesystem::temp_directory_path() / "Größe Klasse 3a";
     QWidget window;
     window.showMinimized();
-    std::optional<OneWindow> open(std::in_place, folder / "3aZeugnisse32.doc", window);
+    std::optional<OneWindow> open(std::in_place, folder / "3aZeugnisse32.doc",
+                                  [&] { return &window; });
     EXPECT_TRUE(called(folder / "." / "3aZEUGNISSE32.doc"));
     EXPECT_FALSE(window.isMinimized());
     EXPECT_FALSE(called(folder / "3aNamensliste.doc"));
@@ -34,4 +35,4 @@ TEST(OneWindow, IsBroughtToTheFrontInsteadOfASecondOne) {
 }
 
 } // namespace
-} // namespace zeugnis::dokumente
+} // namespace zeugnis
