@@ -1,19 +1,22 @@
 #include "common/screen_names.h"
 #include "desktop/comfort/lead_to_text.h"
 #include "desktop/desktop_machine.h"
-#include "desktop/rescue/choice_box.h"
+#include "desktop/folders/first_start_window.h"
+#include "desktop/folders/recent_classes.h"
 #include "desktop/rescue/net.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "desktop/word_launcher.h"
+#include "folders/start_way.h"
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
+#include "platform/process.h"
 #include "platform/version.h"
 #include "program/all_screens.h"
-#include "safety/folder_lock.h"
 #include "safety/guard.h"
 #include "safety/recovery.h"
 #include "toolkit/entry_call.h"
+#include "toolkit/one_window.h"
 #include "toolkit/qt_text.h"
 
 #include <QApplication>
@@ -32,40 +35,14 @@ bool startCleanly(Dialogs& dialogs, const std::filesystem::path& programFolder) 
     return recovery.complete();
 }
 
-// False if another program has the folder open and the teacher does not open it all the same.
-bool takeFolder(safety::FolderLock& lock) {
-    using Outcome = safety::FolderLock::Outcome;
-    const safety::FolderLock::Answer answer = lock.take();
-    if (answer.outcome != Outcome::Held && answer.outcome != Outcome::HeldFarAway)
-        return true;
-    const QString who = qString(safety::holderSentence(answer.holder));
-    if (answer.outcome == Outcome::Held) {
-        askChoice(nullptr,
-                  who + QObject::tr("\n\nDamit sich nichts gegenseitig überschreibt, öffnet sich "
-                                    "das Programm kein zweites Mal. Arbeiten Sie in dem Fenster "
-                                    "weiter, das schon offen ist."),
-                  {QObject::tr("&Beenden")}, 0);
-        return false;
-    }
-    return askChoice(nullptr,
-                     who +
-                         QObject::tr("\n\nWenn dort noch gearbeitet wird, würden Sie sich "
-                                     "gegenseitig Texte überschreiben. Öffnen Sie den Ordner nur, "
-                                     "wenn Sie sicher sind, dass er dort nicht mehr offen ist: "
-                                     "etwa nach einem Stromausfall."),
-                     {QObject::tr("Trotzdem &öffnen"), QObject::tr("&Beenden")}, 1) == 0 &&
-           lock.takeOver();
-}
-
-int run() {
+int run(const TakenClass& taken) {
     DesktopDialogs dialogs;
     DesktopClipboard clipboard;
     SystemCalendar calendar;
     DesktopPictures pictures;
     WordLauncher launcher(QApplication::applicationDirPath());
-    const std::filesystem::path programFolder = startFolder();
-    safety::FolderLock lock(programFolder, safety::thisProgram(safety::now()));
-    if (!takeFolder(lock) || !startCleanly(dialogs, programFolder))
+    const std::filesystem::path& programFolder = taken.folder;
+    if (!startCleanly(dialogs, programFolder))
         return 1;
     safety::Guard guard(programFolder);
     guard.thinOutStates();
@@ -77,7 +54,8 @@ int run() {
     program.directory().watchWrites(&watcher);
     dialogs.parent = [&host] { return host.dialogParent(); };
     Net net(host, dialogs, guard, programFolder);
-    net.keepFolder(lock);
+    net.keepFolder(*taken.lock);
+    const OneWindow answering(programFolder, [&host] { return host.dialogParent(); });
     const EntryCallServer calls(
         programFolder, [&host](const EntryPlace& place) { return leadToText(host, place); });
     // Only inside the event loop can a failure of the start end the program.
@@ -93,6 +71,33 @@ int run() {
     return QApplication::exec();
 }
 
+// The class of this start, by the command line, the working directory or the teacher's choice. The
+// lock is null if there is none to open here.
+TakenClass classOfThisStart() {
+    std::vector<Text> arguments;
+    for (const QString& one : QApplication::arguments().mid(1))
+        arguments.push_back(fromQString(one));
+    const auto delivered = VorlageBei(programFile().parent_path());
+    const Startweg way = StartwegFinden(arguments, startFolder(), delivered.has_value());
+    if (!way.Ordner.empty()) {
+        if (!arguments.empty())
+            recentclasses::remember(way.Ordner);
+        return takeClass(way.Ordner, nullptr);
+    }
+    FirstStartWindow window(delivered, qString(way.Hinweis));
+    return window.exec() == QDialog::Accepted ? window.takeAway() : TakenClass{{}, nullptr, true};
+}
+
+int start() {
+    // The window of the first start closes before the class opens.
+    QApplication::setQuitOnLastWindowClosed(false);
+    const TakenClass taken = classOfThisStart();
+    if (taken.lock == nullptr)
+        return taken.elsewhere ? 0 : 1;
+    QApplication::setQuitOnLastWindowClosed(true);
+    return run(taken);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -101,7 +106,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(qString(Programmversion()));
     theme::apply(application);
     try {
-        return run();
+        return start();
     } catch (const std::exception& failure) {
         QMessageBox::critical(nullptr, qString(Programmtitel), qString(sentenceOf(failure)));
         return 1;

@@ -4,6 +4,7 @@
 #include "folders/module_update.h"
 #include "folders/moving_up.h"
 #include "folders/new_class.h"
+#include "folders/start_way.h"
 #include "folders/take_along.h"
 #include "platform/path_text.h"
 #include "tests/support/test_programm.h"
@@ -103,6 +104,39 @@ TEST_F(ClassFolder, IsFoundFromAnyFileInItAndTellsWhoseItIs) {
     EXPECT_EQ(OrdnernameFuer(odd), u"3ab");
     root.write(u"Beispiel/Daten/Namen.Txt", u"\"");
     EXPECT_FALSE(KlassenangabenLesen(folder));
+}
+
+TEST_F(ClassFolder, IsFoundByTheStartOrChosen) {
+    ASSERT_EQ(BeispielklasseAnlegen(Vorlage, place(u"Beispiel")), u"");
+    fs::create_directories(place(u"damaged/DATEN"));
+    const fs::path sample = place(u"Beispiel");
+    struct Case {
+        std::vector<Text> arguments;
+        fs::path folder;
+        bool delivered;
+        fs::path opens;
+        bool tells = false;
+    };
+    const Case cases[] = {
+        {{}, sample, true, sample},
+        {{}, place(u"damaged"), true, place(u"damaged")},
+        {{}, root.path(), false, root.path()},
+        {{}, root.path(), true, {}},
+        {{u"--auswahl"}, sample, true, {}},
+        {{u"--auswahl"}, root.path(), false, {}},
+        {{u"--auswahl", u"Beispiel/Daten/Namen.Txt"}, root.path(), true, sample},
+        {{textFromPath(sample)}, place(u"damaged"), false, sample},
+        {{u"damaged/Brief.doc"}, root.path(), true, {}, true},
+    };
+    for (const Case& one : cases) {
+        const Startweg way = StartwegFinden(one.arguments, one.folder, one.delivered);
+        EXPECT_EQ(way.Ordner, one.opens);
+        EXPECT_EQ(!way.Hinweis.empty(), one.tells);
+    }
+    fs::create_directories(place(u"usr/bin"));
+    EXPECT_FALSE(VorlageBei(place(u"usr/bin")));
+    ASSERT_EQ(BeispielklasseAnlegen(Vorlage, place(u"usr/share/zeugnisprogramm/vorlage")), u"");
+    EXPECT_EQ(VorlageBei(place(u"usr/bin")), place(u"usr/share/zeugnisprogramm/vorlage"));
 }
 
 TEST_F(ClassFolder, GoesIntoTheNewSchoolYearWithNamesPicturesAndOwnModules) {

@@ -9,6 +9,7 @@
 #include "desktop/window_host.h"
 #include "documents/window/theme.h"
 #include "tests/desktop/settle_layouts.h"
+#include "tests/layout/class_windows.h"
 #include "tests/layout/document_windows.h"
 #include "tests/layout/long_texts.h"
 #include "tests/support/test_programm.h"
@@ -202,6 +203,7 @@ void forEveryWindow(const Content& content, const std::function<void(const Sight
     for (const Stop& stop : Stops)
         if ((std::string(stop.klasse) + '-' + stop.name).find(part) != std::string::npos)
             Walk(stop, content).go(look);
+    forEveryClassWindow(content, look, part);
     dokumente::theme::apply(application);
     enlargeFont(content.fontPercent);
     forEveryDocumentWindow(content, look, part);

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "folders/class_folder.h"
+
+#include <QWidget>
+
+#include <filesystem>
+
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+namespace zeugnis {
+
+/// Class, school year and half-year, to fill in.
+class ClassFields : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit ClassFields(QWidget* parent);
+
+    void show(const Klassenangaben& whose);
+    /// Puts in what the fields say, and leaves the rest alone.
+    void read(Klassenangaben& whose) const;
+
+  private:
+    QLineEdit* m_class;
+    QLineEdit* m_year;
+    QRadioButton* m_first;
+    QRadioButton* m_second;
+};
+
+/// The place of a new folder: a name to write, or to choose on the disk.
+class FolderField : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `name` is what a screen reader calls the line.
+    FolderField(const QString& name, QWidget* parent);
+
+    /// Stands in the line as long as nobody has written another.
+    void suggest(const std::filesystem::path& folder);
+    [[nodiscard]] std::filesystem::path folder() const;
+    /// Why no new folder can be made there, as a sentence; empty if nothing speaks against it.
+    [[nodiscard]] QString obstacle() const;
+
+  private:
+    void choose();
+
+    QLineEdit* m_line;
+    bool m_written = false;
+};
+
+/// Documents/Zeugnisse of the teacher, where classes are suggested to lie.
+std::filesystem::path classesFolder();
+
+/// A folder of this name in classesFolder() that is not there yet: "3a 2026-27-2", "... (2)".
+std::filesystem::path freeClassFolder(const Text& name);
+
+/// What is suggested for a new class of this school year.
+Klassenangaben likelyClass();
+
+/// A form whose labels stand above their fields where the window is narrow.
+QFormLayout* newForm(QWidget* page);
+
+/// A label that wraps, for sentences.
+QLabel* sentenceLabel(const QString& text, QWidget* parent);
+
+} // namespace zeugnis

@@ -1,0 +1,202 @@
+#include "desktop/folders/first_start_window.h"
+
+#include "desktop/dialog_box.h"
+#include "desktop/folders/class_fields.h"
+#include "desktop/folders/new_class_window.h"
+#include "desktop/folders/recent_classes.h"
+#include "desktop/folders/take_along_window.h"
+#include "desktop/theme.h"
+#include "desktop/tinted_button.h"
+#include "folders/class_folder.h"
+#include "folders/new_class.h"
+#include "toolkit/qt_text.h"
+#include "toolkit/window_place.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+namespace zeugnis {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int FolderRole = Qt::UserRole;
+
+QString sentenceOf(const Klassenangaben& whose) {
+    const QString children =
+        whose.Kinder == 1 ? QObject::tr("1 Kind") : QObject::tr("%1 Kinder").arg(whose.Kinder);
+    return QObject::tr("Klasse %1  –  %2, %3. Halbjahr  –  %4")
+        .arg(qString(whose.Klasse), qString(whose.Schule.Schuljahr), qString(whose.Schule.Halbjahr),
+             children);
+}
+
+} // namespace
+
+FirstStartWindow::FirstStartWindow(std::optional<fs::path> delivered, const QString& note)
+    : m_delivered(std::move(delivered)), m_told(new QLabel(note, this)) {
+    setWindowTitle(tr("Klasse öffnen"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(22, 18, 22, 16);
+    column->setSpacing(10);
+    auto* head = new QLabel(tr("Welche Klasse möchten Sie öffnen?"), this);
+    head->setFont(theme::scaledFont(1.4, QFont::DemiBold));
+    column->addWidget(head);
+    column->addWidget(recent(), 1);
+    column->addLayout(otherWays());
+    m_told->setWordWrap(true);
+    m_told->setTextFormat(Qt::PlainText);
+    m_told->setVisible(!note.isEmpty());
+    column->addWidget(m_told);
+    column->addLayout(lastRow());
+    showRecent();
+    windowplace::keepOnDisplay(*this);
+    windowplace::place(*this, {760, 540}, windowplace::Growth::None);
+}
+
+QWidget* FirstStartWindow::recent() {
+    auto* area = new QWidget(this);
+    auto* column = new QVBoxLayout(area);
+    column->setContentsMargins(0, 0, 0, 0);
+    m_recent = new QListWidget(area);
+    m_recent->setAccessibleName(tr("Zuletzt geöffnete Klassen"));
+    m_recent->setTextElideMode(Qt::ElideMiddle);
+    m_recent->setSpacing(2);
+    column->addWidget(m_recent, 1);
+    auto* row = new QHBoxLayout;
+    m_open = new QPushButton(tr("Klasse ö&ffnen"), area);
+    m_open->setDefault(true);
+    auto* other = new QPushButton(tr("Anderen &Ordner wählen …"), area);
+    row->addWidget(m_open);
+    row->addWidget(other);
+    row->addStretch();
+    column->addLayout(row);
+    connect(m_open, &QPushButton::clicked, this, &FirstStartWindow::openChosen);
+    connect(m_recent, &QListWidget::itemActivated, this, &FirstStartWindow::openChosen);
+    connect(m_recent, &QListWidget::currentItemChanged, this,
+            [this](const QListWidgetItem* item) { m_open->setEnabled(item != nullptr); });
+    connect(other, &QPushButton::clicked, this, &FirstStartWindow::chooseFolder);
+    return area;
+}
+
+QBoxLayout* FirstStartWindow::otherWays() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    const auto way = [&](const QString& text, const QString& tip, auto action) {
+        auto* button = new TintedButton(TintedButton::Role::Main, this);
+        button->setText(text);
+        button->setToolTip(tip);
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, action);
+        row->addWidget(button, 1);
+        return button;
+    };
+    auto* first = way(tr("&Neue Klasse …"), tr("In fünf Schritten von der Schule zum ersten Kind"),
+                      &FirstStartWindow::newClass);
+    auto* sample =
+        way(tr("&Beispielklasse ansehen"), tr("Zum Ausprobieren, mit erfundenen Kindern"),
+            &FirstStartWindow::openSample);
+    way(tr("Klasse von einem &Stick mitnehmen …"),
+        tr("Kopiert den ganzen Ordner und vergleicht jede Datei"), &FirstStartWindow::takeAlong);
+    first->setEnabled(m_delivered.has_value());
+    sample->setEnabled(m_delivered.has_value());
+    return row;
+}
+
+QBoxLayout* FirstStartWindow::lastRow() {
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    auto* end = new QPushButton(tr("B&eenden"), this);
+    end->setAutoDefault(false);
+    connect(end, &QPushButton::clicked, this, &QDialog::reject);
+    row->addWidget(end);
+    return row;
+}
+
+void FirstStartWindow::showRecent() {
+    m_recent->clear();
+    for (const fs::path& folder : recentclasses::list()) {
+        const std::optional<Klassenangaben> whose = KlassenangabenLesen(folder);
+        auto* item = new QListWidgetItem(
+            (whose ? sentenceOf(*whose) : tr("Zurzeit nicht erreichbar")) + u'\n' + qPath(folder),
+            m_recent);
+        item->setData(FolderRole, qPath(folder));
+        item->setToolTip(qPath(folder));
+        if (!whose)
+            item->setForeground(theme::colours().InkFaint);
+    }
+    if (m_recent->count() == 0) {
+        auto* item = new QListWidgetItem(
+            tr("Noch war hier keine Klasse offen. Legen Sie eine neue an, oder\nsehen Sie sich "
+               "zuerst die Beispielklasse an."),
+            m_recent);
+        item->setFlags(Qt::NoItemFlags);
+        m_open->setEnabled(false);
+        return;
+    }
+    m_recent->setCurrentRow(0);
+    m_recent->setFocus();
+}
+
+void FirstStartWindow::openChosen() {
+    if (const QListWidgetItem* item = m_recent->currentItem())
+        open(pathFromText(fromQString(item->data(FolderRole).toString())));
+}
+
+void FirstStartWindow::chooseFolder() {
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Ordner einer Klasse"), qPath(classesFolder()));
+    if (!folder.isEmpty())
+        open(pathFromText(fromQString(folder)));
+}
+
+void FirstStartWindow::newClass() {
+    NewClassWindow window(*m_delivered, this);
+    if (window.exec() == QDialog::Accepted)
+        open(window.folder());
+}
+
+void FirstStartWindow::openSample() {
+    const fs::path folder = classesFolder() / "Beispielklasse";
+    if (!IstKlassenordner(folder)) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        const Text obstacle = BeispielklasseAnlegen(*m_delivered, folder);
+        QApplication::restoreOverrideCursor();
+        if (!obstacle.empty())
+            return tell(qString(obstacle));
+    }
+    open(folder);
+}
+
+void FirstStartWindow::takeAlong() {
+    TakeAlongWindow window(this);
+    if (window.exec() == QDialog::Accepted)
+        open(window.folder());
+}
+
+// A folder above the files of a class, and a file in it, is meant as the class.
+void FirstStartWindow::open(const fs::path& folder) {
+    const std::optional<fs::path> found = KlassenordnerZu(folder);
+    if (!found)
+        return tell(tr("In „%1“ liegt keine Klasse: Der Ordner „Daten“ mit der Klassenliste fehlt. "
+                       "Wählen Sie den Ordner, in dem „Daten“ liegt.")
+                        .arg(qPath(folder)));
+    TakenClass taken = takeClass(*found, this);
+    if (taken.lock == nullptr && !taken.elsewhere)
+        return;
+    recentclasses::remember(*found);
+    m_taken = std::move(taken);
+    accept();
+}
+
+void FirstStartWindow::tell(const QString& sentence) {
+    DialogBox box(windowTitle(), sentence, this);
+    box.setSign(Symbol::Ausrufezeichen);
+    box.setButtons(Tasten::Ok, Antwort::Ok);
+    box.ask();
+}
+
+} // namespace zeugnis
