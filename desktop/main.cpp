@@ -1,12 +1,14 @@
 #include "common/screen_names.h"
 #include "desktop/comfort/lead_to_text.h"
 #include "desktop/desktop_machine.h"
+#include "desktop/folders/class_menu.h"
 #include "desktop/folders/first_start_window.h"
 #include "desktop/folders/recent_classes.h"
 #include "desktop/rescue/net.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
 #include "desktop/word_launcher.h"
+#include "folders/diagnosis.h"
 #include "folders/start_way.h"
 #include "platform/failure.h"
 #include "platform/plain_machine.h"
@@ -35,6 +37,8 @@ bool startCleanly(Dialogs& dialogs, const std::filesystem::path& programFolder) 
     return recovery.complete();
 }
 
+std::optional<std::filesystem::path> delivered() { return VorlageBei(programFile().parent_path()); }
+
 int run(const TakenClass& taken) {
     DesktopDialogs dialogs;
     DesktopClipboard clipboard;
@@ -55,6 +59,10 @@ int run(const TakenClass& taken) {
     dialogs.parent = [&host] { return host.dialogParent(); };
     Net net(host, dialogs, guard, programFolder);
     net.keepFolder(*taken.lock);
+    const ClassMenu menu(host, programFolder, delivered());
+    QObject::connect(&host, &WindowHost::failed, [&](const Laufzeitfehler& failure) {
+        FehlerMerken(programFolder, failure, safety::now());
+    });
     const OneWindow answering(programFolder, [&host] { return host.dialogParent(); });
     const EntryCallServer calls(
         programFolder, [&host](const EntryPlace& place) { return leadToText(host, place); });
@@ -77,14 +85,13 @@ TakenClass classOfThisStart() {
     std::vector<Text> arguments;
     for (const QString& one : QApplication::arguments().mid(1))
         arguments.push_back(fromQString(one));
-    const auto delivered = VorlageBei(programFile().parent_path());
-    const Startweg way = StartwegFinden(arguments, startFolder(), delivered.has_value());
+    const Startweg way = StartwegFinden(arguments, startFolder(), delivered().has_value());
     if (!way.Ordner.empty()) {
         if (!arguments.empty())
             recentclasses::remember(way.Ordner);
         return takeClass(way.Ordner, nullptr);
     }
-    FirstStartWindow window(delivered, qString(way.Hinweis));
+    FirstStartWindow window(delivered(), qString(way.Hinweis));
     return window.exec() == QDialog::Accepted ? window.takeAway() : TakenClass{{}, nullptr, true};
 }
 

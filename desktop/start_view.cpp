@@ -104,6 +104,7 @@ QBoxLayout* StartView::mainArea() {
     last->addWidget(bind().button(m_start.Command2, u'W', Role::Quiet));
     last->addWidget(bind().button(m_start.Command3, u'k', Role::Normal));
     last->addWidget(formerStates());
+    last->addWidget(classMenu());
     last->addStretch();
     last->addWidget(bind().button(m_start.Command1(7), u'P', Role::Normal));
     layout->addLayout(last);
@@ -120,6 +121,19 @@ QWidget* StartView::formerStates() {
     connect(button, &QAbstractButton::clicked, this, [this] { host().beside.showFormerStates(); });
     bind().follow([this, button] {
         button->setVisible(m_start.Command3.Visible && host().beside.showFormerStates);
+    });
+    return button;
+}
+
+// Neither: it belongs to the folder of the class.
+QWidget* StartView::classMenu() {
+    auto* button = new TintedButton(TintedButton::Role::Quiet, this);
+    button->setText(tr("Klasse u&nd Programm …"));
+    button->setToolTip(tr("Andere Klasse, neues Schuljahr, neue Bausteine, Version und Diagnose"));
+    connect(button, &QAbstractButton::clicked, this,
+            [this, button] { host().beside.openClassMenu(*button); });
+    bind().follow([this, button] {
+        button->setVisible(m_start.Command3.Visible && host().beside.openClassMenu);
     });
     return button;
 }

@@ -18,6 +18,7 @@ class StartView : public ScreenWindow {
     QWidget* works();
     QBoxLayout* helpRow();
     QWidget* formerStates();
+    QWidget* classMenu();
 
     GsStart& m_start;
 };

@@ -73,6 +73,8 @@ class WindowHost : public QObject {
         std::filesystem::path programFolder;
         /// Opens the window of former states.
         std::function<void()> showFormerStates;
+        /// Opens what is offered around the class folder, at the button that was pressed.
+        std::function<void(QWidget& button)> openClassMenu;
     };
     Beside beside;
 

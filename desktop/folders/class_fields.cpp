@@ -100,11 +100,11 @@ fs::path classesFolder() {
     return pathFromText(fromQString(documents)) / "Zeugnisse";
 }
 
-fs::path freeClassFolder(const Text& name) {
+fs::path freeClassFolder(const Text& name, const fs::path& in) {
     std::error_code failed;
-    fs::path folder = classesFolder() / pathFromText(name);
+    fs::path folder = in / pathFromText(name);
     for (int i = 2; fs::exists(folder, failed); ++i)
-        folder = classesFolder() / pathFromText(name + u" (" + textFromNumber(i) + u")");
+        folder = in / pathFromText(name + u" (" + textFromNumber(i) + u")");
     return folder;
 }
 

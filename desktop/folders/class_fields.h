@@ -55,8 +55,9 @@ class FolderField : public QWidget {
 /// Documents/Zeugnisse of the teacher, where classes are suggested to lie.
 std::filesystem::path classesFolder();
 
-/// A folder of this name in classesFolder() that is not there yet: "3a 2026-27-2", "... (2)".
-std::filesystem::path freeClassFolder(const Text& name);
+/// A folder of this name that is not there yet: "3a 2026-27-2", "... (2)".
+std::filesystem::path freeClassFolder(const Text& name,
+                                      const std::filesystem::path& in = classesFolder());
 
 /// What is suggested for a new class of this school year.
 Klassenangaben likelyClass();

@@ -1,6 +1,7 @@
 #include "desktop/folders/first_start_window.h"
 
 #include "desktop/dialog_box.h"
+#include "desktop/folders/about_window.h"
 #include "desktop/folders/class_fields.h"
 #include "desktop/folders/new_class_window.h"
 #include "desktop/folders/recent_classes.h"
@@ -108,6 +109,10 @@ QBoxLayout* FirstStartWindow::otherWays() {
 
 QBoxLayout* FirstStartWindow::lastRow() {
     auto* row = new QHBoxLayout;
+    auto* about = new QPushButton(tr("Ü&ber das Programm …"), this);
+    about->setAutoDefault(false);
+    connect(about, &QPushButton::clicked, this, [this] { AboutWindow({}, this).exec(); });
+    row->addWidget(about);
     row->addStretch();
     auto* end = new QPushButton(tr("B&eenden"), this);
     end->setAutoDefault(false);

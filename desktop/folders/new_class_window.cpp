@@ -88,8 +88,8 @@ NewClassWindow::Step NewClassWindow::school() {
     line(page, tr("An&schrift:"), m_address);
     line(page, tr("&Ort der Ausgabe:"), m_town);
     return {.title = tr("Ihre Schule"),
-            .sentence = tr("So steht es oben auf jedem Zeugnis. Alles lässt sich später unter "
-                           "„Basisdaten“ ändern."),
+            .sentence = tr("So steht es oben auf jedem Zeugnis. Alles lässt sich später in der "
+                           "Werkzeugkiste bei den Stammdaten ändern."),
             .page = page,
             .first = m_schoolName,
             .obstacle = {},
@@ -171,7 +171,8 @@ NewClassWindow::Step NewClassWindow::children() {
     column->addWidget(m_child);
     connect(read, &QPushButton::clicked, this, &NewClassWindow::readList);
     return {.title = tr("Die Kinder"),
-            .sentence = tr("Auch die Klassenliste können Sie später unter „Basisdaten“ ergänzen."),
+            .sentence =
+                tr("Weitere Kinder tragen Sie später in der Werkzeugkiste bei den Stammdaten ein."),
             .page = page,
             .first = m_lastName,
             .obstacle =

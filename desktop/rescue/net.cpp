@@ -56,6 +56,7 @@ Net::Net(WindowHost& host, DesktopDialogs& dialogs, safety::Guard& guard,
         .unsaved = [this] { return qString(m_keeper.unsavedSentence()); },
         .programFolder = programFolder,
         .showFormerStates = [this] { showFormerStates(); },
+        .openClassMenu = {},
     };
 }
 

@@ -1,5 +1,6 @@
 #include "tests/layout/class_windows.h"
 
+#include "desktop/folders/about_window.h"
 #include "desktop/folders/first_start_window.h"
 #include "desktop/folders/new_class_window.h"
 #include "desktop/folders/recent_classes.h"
@@ -35,6 +36,12 @@ Window newClass(const ClassFolder& installation) {
     return std::make_unique<NewClassWindow>(installation.path(), nullptr);
 }
 
+Window about(const ClassFolder& installation) {
+    auto window = std::make_unique<AboutWindow>(installation.path(), nullptr);
+    window->saveTo(QString::fromStdU16String((installation.path() / "Diagnose.txt").u16string()));
+    return window;
+}
+
 Window takeAlong(const ClassFolder& installation) {
     auto window = std::make_unique<TakeAlongWindow>(nullptr);
     window->setSource(installation.path());
@@ -53,6 +60,7 @@ const ClassStop Stops[] = {
     {"erststart", firstStart},
     {"neue-klasse", newClass, 4, "Weiter"},
     {"mitnehmen", takeAlong},
+    {"ueber", about},
 };
 
 std::vector<const QWidget*> alwaysThere(const QWidget& window) {

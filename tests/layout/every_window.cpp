@@ -110,6 +110,8 @@ class Walk {
                     m_installation.path()) {
         BildschirmeAnmelden(m_program);
         m_host = std::make_unique<WindowHost>(m_program);
+        m_host->beside.showFormerStates = [] {};
+        m_host->beside.openClassMenu = [](QWidget&) {};
         m_host->run([this] { m_program.show(bildschirme::GsStart); });
     }
 

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+#include <filesystem>
+#include <optional>
+
+class QWidget;
+
+namespace zeugnis {
+
+class WindowHost;
+
+/// What the tools of the start page offer around the class folder: another class, the new school
+/// year, newly delivered modules, the program itself.
+class ClassMenu : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Without a template there is nothing that a class could be made of or renewed with.
+    ClassMenu(WindowHost& host, std::filesystem::path folder,
+              std::optional<std::filesystem::path> delivered);
+
+    /// Opens below the button, and does what is chosen.
+    void open(QWidget& button);
+
+  private:
+    void otherClass();
+    void about();
+
+    WindowHost& m_host;
+    std::filesystem::path m_folder;
+    std::optional<std::filesystem::path> m_delivered;
+};
+
+} // namespace zeugnis
