@@ -100,6 +100,7 @@ QBoxLayout* StartView::mainArea() {
     layout->addSpacing(6);
 
     layout->addWidget(works(), 1);
+    layout->addWidget(newModules(), 0, Qt::AlignLeft);
     auto* last = new QHBoxLayout;
     last->addWidget(bind().button(m_start.Command2, u'W', Role::Quiet));
     last->addWidget(bind().button(m_start.Command3, u'k', Role::Normal));
@@ -134,6 +135,18 @@ QWidget* StartView::classMenu() {
             [this, button] { host().beside.openClassMenu(*button); });
     bind().follow([this, button] {
         button->setVisible(m_start.Command3.Visible && host().beside.openClassMenu);
+    });
+    return button;
+}
+
+// Only as long as there are any.
+QWidget* StartView::newModules() {
+    auto* button = new TintedButton(TintedButton::Role::Quiet, this);
+    connect(button, &QAbstractButton::clicked, this, [this] { host().beside.showNewModules(); });
+    bind().follow([this, button] {
+        const size_t texts = host().beside.newModules ? host().beside.newModules() : 0;
+        button->setText(tr("Neue Bausteine: %1 Texte anse&hen …").arg(texts));
+        button->setVisible(texts > 0);
     });
     return button;
 }

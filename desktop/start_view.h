@@ -19,6 +19,7 @@ class StartView : public ScreenWindow {
     QBoxLayout* helpRow();
     QWidget* formerStates();
     QWidget* classMenu();
+    QWidget* newModules();
 
     GsStart& m_start;
 };

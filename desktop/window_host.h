@@ -75,6 +75,9 @@ class WindowHost : public QObject {
         std::function<void()> showFormerStates;
         /// Opens what is offered around the class folder, at the button that was pressed.
         std::function<void(QWidget& button)> openClassMenu;
+        /// How many texts of the modules are delivered anew, and the window that shows them.
+        std::function<size_t()> newModules;
+        std::function<void()> showNewModules;
     };
     Beside beside;
 

@@ -1,27 +1,18 @@
 #include "rescue/former_states.h"
 
-#include "common/screen_names.h"
 #include "controls/program.h"
+#include "controls/screen.h"
 #include "files/file_catalogue.h"
+#include "rescue/writing_screens.h"
 #include "safety/actions.h"
 #include "safety/layouts.h"
 
 #include <algorithm>
-#include <array>
 
 namespace zeugnis::rescue {
 namespace {
 
 using safety::Difference;
-
-// The screens that would write over what has come back.
-constexpr std::array Writing = {bildschirme::GsArbeitsverhalten,
-                                bildschirme::GSAVSVAenderung,
-                                bildschirme::Kompetenzen,
-                                bildschirme::GSAGFI,
-                                bildschirme::GSAenderung12,
-                                bildschirme::GSAenderung34,
-                                bildschirme::GsBasis};
 
 bool isCopy(const std::string& name) {
     return safety::shownName(name).find(dateien::Sicherheit) != Text::npos;
@@ -82,11 +73,10 @@ void FormerStates::choose(size_t state) {
 }
 
 Text FormerStates::obstacle() const {
-    for (const TextView name : Writing)
-        if (const Screen* screen = m_programm.find(name); screen != nullptr && screen->shown())
-            return u"Das Fenster „" + screen->Title +
-                   u"“ ist noch offen und würde das Zurückgeholte wieder überschreiben. Bitte "
-                   u"verlassen Sie es zuerst. Hier ansehen und kopieren können Sie jederzeit.";
+    if (const Screen* screen = shownWriter(m_programm))
+        return u"Das Fenster „" + screen->Title +
+               u"“ ist noch offen und würde das Zurückgeholte wieder überschreiben. Bitte "
+               u"verlassen Sie es zuerst. Hier ansehen und kopieren können Sie jederzeit.";
     return {};
 }
 
@@ -98,9 +88,7 @@ template <typename Way>
 bool FormerStates::bring(Way way) {
     if (!obstacle().empty())
         return false;
-    // Hidden ones have read the files as they were.
-    for (const TextView name : Writing)
-        m_programm.unload(name);
+    dropHiddenWriters(m_programm);
     const bool done = way();
     read();
     return done;

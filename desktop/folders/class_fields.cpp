@@ -32,6 +32,9 @@ ClassFields::ClassFields(QWidget* parent)
     halves->addStretch();
     form->addRow(tr("Halbjahr:"), halves);
     setFocusProxy(m_class);
+    for (const QLineEdit* line : {m_class, m_year})
+        connect(line, &QLineEdit::textChanged, this, &ClassFields::changed);
+    connect(m_first, &QRadioButton::toggled, this, &ClassFields::changed);
     m_class->setPlaceholderText(tr("zum Beispiel 3a"));
     m_year->setPlaceholderText(tr("zum Beispiel 2026/2027"));
 }
@@ -57,6 +60,7 @@ FolderField::FolderField(const QString& name, QWidget* parent)
     choose->setAutoDefault(false);
     row->addWidget(choose);
     m_line->setAccessibleName(name);
+    keepWhole(*m_line);
     setFocusProxy(m_line);
     connect(m_line, &QLineEdit::textEdited, this, [this] { m_written = true; });
     connect(choose, &QPushButton::clicked, this, &FolderField::choose);
@@ -66,6 +70,7 @@ void FolderField::suggest(const fs::path& folder) {
     if (!m_written)
         m_line->setText(QDir::toNativeSeparators(qPath(folder)));
     m_line->setCursorPosition(0);
+    keepWhole(*m_line); // anew: it may have come into another window meanwhile
 }
 
 fs::path FolderField::folder() const {
@@ -127,6 +132,11 @@ QFormLayout* newForm(QWidget* page) {
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     form->setVerticalSpacing(8);
     return form;
+}
+
+void keepWhole(QLineEdit& line) {
+    line.ensurePolished();
+    line.setMinimumHeight(line.minimumSizeHint().height());
 }
 
 QLabel* sentenceLabel(const QString& text, QWidget* parent) {

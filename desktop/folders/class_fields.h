@@ -24,6 +24,9 @@ class ClassFields : public QWidget {
     /// Puts in what the fields say, and leaves the rest alone.
     void read(Klassenangaben& whose) const;
 
+  signals:
+    void changed();
+
   private:
     QLineEdit* m_class;
     QLineEdit* m_year;
@@ -64,6 +67,9 @@ Klassenangaben likelyClass();
 
 /// A form whose labels stand above their fields where the window is narrow.
 QFormLayout* newForm(QWidget* page);
+
+/// Keeps the height that large type needs, which rows of a form forget.
+void keepWhole(QLineEdit& line);
 
 /// A label that wraps, for sentences.
 QLabel* sentenceLabel(const QString& text, QWidget* parent);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/text.h"
+
 #include <QObject>
 
 #include <filesystem>
@@ -26,11 +28,16 @@ class ClassMenu : public QObject {
 
   private:
     void otherClass();
+    void moveUp();
+    void showNewModules();
+    void countNewModules();
+    [[nodiscard]] Text obstacle() const;
     void about();
 
     WindowHost& m_host;
     std::filesystem::path m_folder;
     std::optional<std::filesystem::path> m_delivered;
+    size_t m_newModules = 0;
 };
 
 } // namespace zeugnis

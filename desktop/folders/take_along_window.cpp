@@ -39,6 +39,7 @@ TakeAlongWindow::TakeAlongWindow(QWidget* owner)
     auto* choose = new QPushButton(tr("W&ählen …"), this);
     choose->setAutoDefault(false);
     m_from->setReadOnly(true);
+    keepWhole(*m_from);
     m_from->setPlaceholderText(tr("der Ordner auf dem Stick, in dem „Daten“ liegt"));
     m_from->setAccessibleName(tr("Ordner auf dem Stick"));
     source->addWidget(m_from, 1);

@@ -57,6 +57,8 @@ Net::Net(WindowHost& host, DesktopDialogs& dialogs, safety::Guard& guard,
         .programFolder = programFolder,
         .showFormerStates = [this] { showFormerStates(); },
         .openClassMenu = {},
+        .newModules = {},
+        .showNewModules = {},
     };
 }
 

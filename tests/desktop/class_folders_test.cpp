@@ -1,5 +1,7 @@
 #include "desktop/folders/class_fields.h"
 #include "desktop/folders/first_start_window.h"
+#include "desktop/folders/module_update_window.h"
+#include "desktop/folders/moving_up_window.h"
 #include "desktop/folders/new_class_window.h"
 #include "desktop/folders/recent_classes.h"
 #include "desktop/folders/take_along_window.h"
@@ -15,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
+#include <QTableWidget>
 #include <QTimer>
 
 namespace zeugnis::test {
@@ -159,6 +162,47 @@ TEST_F(ClassFolders, AClassOnAStickIsCopiedWithoutTheLockOfWhoHasItOpen) {
     EXPECT_EQ(window.folder(), classesFolder() / "3a");
     EXPECT_TRUE(fs::exists(window.folder() / "Daten" / "Namen.Txt"));
     EXPECT_FALSE(fs::exists(window.folder() / "Notsicherung" / "Offen.txt"));
+}
+
+TEST_F(ClassFolders, MovingUpSuggestsTheNextSectionBesideTheOldFolder) {
+    ASSERT_EQ(BeispielklasseAnlegen(Vorlage, place(u"Zeugnisse/3a")), u"");
+    MovingUpWindow window(place(u"Zeugnisse/3a"), Vorlage, nullptr);
+    EXPECT_EQ(window.newFolder(), place(u"Zeugnisse/4a 2027-28-1"));
+    write(window, QStringLiteral("Klasse:"), QStringLiteral("7"));
+    press(window, QStringLiteral("Klasse übernehmen"));
+    EXPECT_TRUE(said(window).contains(QStringLiteral("Schuljahrgang, 1 bis 4")));
+    write(window, QStringLiteral("Klasse:"), QStringLiteral("4b"));
+    press(window, QStringLiteral("Klasse übernehmen"));
+    EXPECT_EQ(window.result(), QDialog::Accepted) << said(window).toStdString();
+    EXPECT_TRUE(root.has(u"Zeugnisse/4b 2027-28-1/Daten/Namen.Txt"));
+}
+
+TEST_F(ClassFolders, NewModulesAreTakenRowByRowAndOnlyOnce) {
+    for (const TextView folder : {u"neu", u"Klasse"})
+        ASSERT_EQ(BeispielklasseAnlegen(Vorlage, place(folder)), u"");
+    const auto deliver = [&](TextView folder, TextView content) {
+        root.write(Text(folder) + u"/Daten/AG.Txt", content);
+        root.write(Text(folder) + u"/Daten/Standard/AGStandard.Txt", content);
+    };
+    deliver(u"Klasse", u"1,\"alt\"\r\n2,\"alt\"\r\n3,\"alt\"\r\n");
+    root.write(u"Klasse/Daten/AG.Txt", u"1,\"alt\"\r\n2,\"eigen\"\r\n3,\"eigen\"\r\n");
+    deliver(u"neu", u"1,\"neu\"\r\n2,\"neu\"\r\n3,\"neu\"\r\n");
+    Text obstacle = u"Das Fenster ist noch offen.";
+    const auto open = [&] {
+        return std::make_unique<ModuleUpdateWindow>(
+            Arbeitsverzeichnis(place(u"Klasse")), Arbeitsverzeichnis(place(u"neu")),
+            [&] { return obstacle; }, nullptr);
+    };
+    const auto window = open();
+    ASSERT_EQ(window->texts().size(), 3U);
+    window->table().item(2, 0)->setCheckState(Qt::Checked);
+    answer(QStringLiteral("OK"));
+    press(*window, QStringLiteral("Übernehmen"));
+    EXPECT_TRUE(told.contains(QStringLiteral("noch offen")));
+    obstacle.clear();
+    press(*window, QStringLiteral("Übernehmen"));
+    EXPECT_EQ(root.read(u"Klasse/Daten/AG.Txt"), u"1,\"neu\"\r\n2,\"eigen\"\r\n3,\"neu\"\r\n");
+    EXPECT_TRUE(open()->texts().empty());
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "desktop/folders/about_window.h"
 #include "desktop/folders/first_start_window.h"
+#include "desktop/folders/module_update_window.h"
+#include "desktop/folders/moving_up_window.h"
 #include "desktop/folders/new_class_window.h"
 #include "desktop/folders/recent_classes.h"
 #include "desktop/folders/take_along_window.h"
@@ -48,6 +50,26 @@ Window takeAlong(const ClassFolder& installation) {
     return window;
 }
 
+Window movingUp(const ClassFolder& installation) {
+    return std::make_unique<MovingUpWindow>(installation.path(), installation.path(), nullptr);
+}
+
+// The class was delivered with other texts, and one of them is the school's own.
+Window newModules(const ClassFolder& installation) {
+    const auto reword = [&](TextView file, TextView from, TextView to, size_t most) {
+        Text content = installation.read(file);
+        for (size_t at = 0; most > 0 && (at = content.find(from, at)) != Text::npos; --most)
+            content.replace(at, from.size(), to);
+        installation.write(file, content);
+    };
+    for (const TextView file : {u"Daten/TexteAV.txt", u"Daten/Standard/TexteAVStandard.Txt"})
+        reword(file, u"Aufgaben", u"Arbeiten", 9);
+    reword(u"Daten/TexteAV.txt", u"Arbeiten", u"Wochenaufgaben und Pflichten", 2);
+    const Arbeitsverzeichnis delivered(std::filesystem::path(ZEUGNIS_SOURCE_FOLDER) / "install");
+    return std::make_unique<ModuleUpdateWindow>(
+        Arbeitsverzeichnis(installation.path()), delivered, [] { return Text(); }, nullptr);
+}
+
 /// A window whose button `next` leads on, `steps` times.
 struct ClassStop {
     const char* name;
@@ -57,10 +79,9 @@ struct ClassStop {
 };
 
 const ClassStop Stops[] = {
-    {"erststart", firstStart},
-    {"neue-klasse", newClass, 4, "Weiter"},
-    {"mitnehmen", takeAlong},
-    {"ueber", about},
+    {"erststart", firstStart}, {"neue-klasse", newClass, 4, "Weiter"},
+    {"mitnehmen", takeAlong},  {"ueber", about},
+    {"aufsteigen", movingUp},  {"neue-bausteine", newModules},
 };
 
 std::vector<const QWidget*> alwaysThere(const QWidget& window) {

@@ -111,6 +111,7 @@ class Walk {
         BildschirmeAnmelden(m_program);
         m_host = std::make_unique<WindowHost>(m_program);
         m_host->beside.showFormerStates = [] {};
+        m_host->beside.newModules = [] { return size_t(12); };
         m_host->beside.openClassMenu = [](QWidget&) {};
         m_host->run([this] { m_program.show(bildschirme::GsStart); });
     }
