@@ -22,7 +22,7 @@ VIAddVersionKey /LANG=1031 "LegalCopyright" "GPL-3.0-or-later"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
-!define MUI_FINISHPAGE_TEXT "Sie finden das Zeugnisprogramm im Startmenü. Ihre Klasse liegt in Ihren Dokumenten im Ordner Zeugnisse."
+!define MUI_FINISHPAGE_TEXT "Sie finden das Zeugnisprogramm im Startmenü. Beim ersten Start legen Sie Ihre Klasse an; sie liegt dann in Ihren Dokumenten im Ordner Zeugnisse."
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
@@ -31,7 +31,6 @@ VIAddVersionKey /LANG=1031 "LegalCopyright" "GPL-3.0-or-later"
 !insertmacro MUI_LANGUAGE "German"
 
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Zeugnisprogramm"
-!define FIRST_CLASS "$DOCUMENTS\Zeugnisse\Klasse"
 
 ; Only what was installed, so that nothing else in the folder is lost.
 !macro RemovePrograms
@@ -55,17 +54,7 @@ Section
     File /r "${ROOT}\*"
     WriteUninstaller "$INSTDIR\Entfernen.exe"
 
-    ; The first class begins with the delivered content. One that is there stays as it is.
-    IfFileExists "${FIRST_CLASS}\*.*" class_is_there
-    CreateDirectory "$DOCUMENTS\Zeugnisse"
-    SetOutPath "${FIRST_CLASS}"
-    File /r "${ROOT}\Vorlage\*"
-    class_is_there:
-
-    ; A shortcut starts in the folder of the last SetOutPath.
-    SetOutPath "${FIRST_CLASS}"
-    CreateShortcut "$SMPROGRAMS\Zeugnisprogramm.lnk" "$INSTDIR\zeugnisprogramm.exe"
-    SetOutPath "$INSTDIR"
+    CreateShortcut "$SMPROGRAMS\Zeugnisprogramm.lnk" "$INSTDIR\zeugnisprogramm.exe" "--auswahl"
 
     WriteRegStr HKCU "Software\Zeugnisprogramm" "Ordner" "$INSTDIR"
     WriteRegStr HKCU "${UNINSTALL}" "DisplayName" "Zeugnisprogramm"

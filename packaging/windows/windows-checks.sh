@@ -38,21 +38,27 @@ for pdf in ./*.pdf; do
 done
 ((good == ${#keys[@]})) || failed=1
 
-# Installed, used and removed without any question; the class stays.
+# Installed and removed without any question; a class that is there stays.
 step "Installer"
 programs="$WINEPREFIX/drive_c/users/$(id -un)/AppData/Local/Programs/Zeugnisprogramm"
 first_class=$work/home/Zeugnisse/Klasse
 rm -rf "$first_class"
+mkdir -p "$(dirname "$first_class")"
+cp -r "$package/Vorlage" "$first_class"
 wine "$work/Zeugnisprogramm-$(version)-win64-Installation.exe" /S
-[[ -e $programs/zeugnisprogramm.exe && -e $first_class/Daten/Namen.Txt ]] || { echo "Not installed."; failed=1; }
+[[ -e $programs/zeugnisprogramm.exe && -e $programs/Vorlage/Daten/Namen.Txt ]] || { echo "Not installed."; failed=1; }
 wine "$programs/Entfernen.exe" /S
 for _ in {1..30}; do [[ ! -e $programs ]] || sleep 1; done
 [[ ! -e $programs && -e $first_class/Daten/Namen.Txt ]] || { echo "Not removed, or the class is gone."; failed=1; }
 
-step "The real window"
+step "The real window, and that of the first start"
 wine "$package/zeugnisprogramm.exe" &
 sleep 15
 scrot -o "$work/window.png"
 wineserver -k
+wine "$package/zeugnisprogramm.exe" --auswahl &
+sleep 10
+scrot -o "$work/first-start.png"
+wineserver -k
 cd "$work" || exit 1
-echo "Look at $work/window.png"
+echo "Look at $work/window.png and $work/first-start.png"
