@@ -55,7 +55,7 @@ FirstStartWindow::FirstStartWindow(std::optional<fs::path> delivered, const QStr
     column->addLayout(lastRow());
     showRecent();
     windowplace::keepOnDisplay(*this);
-    windowplace::place(*this, {760, 540}, windowplace::Growth::None);
+    windowplace::place(*this, {760, m_recent->count() > 0 ? 540 : 420}, windowplace::Growth::None);
 }
 
 QWidget* FirstStartWindow::recent() {
@@ -67,6 +67,14 @@ QWidget* FirstStartWindow::recent() {
     m_recent->setTextElideMode(Qt::ElideMiddle);
     m_recent->setSpacing(2);
     column->addWidget(m_recent, 1);
+    m_welcome = sentenceLabel(
+        tr("Willkommen! Mit „Neue Klasse“ kommen Sie in fünf Schritten von Ihrer Schule zum ersten "
+           "Kind; jeden davon können Sie überspringen und später nachholen.\n\nMöchten Sie das "
+           "Programm erst kennenlernen, sehen Sie sich die Beispielklasse an: Die Kinder sind "
+           "erfunden, dort können Sie alles ausprobieren.\n\nLiegt Ihre Klasse auf einem Stick, "
+           "nehmen Sie sie auf diesen Rechner mit."),
+        area);
+    column->addWidget(m_welcome, 0, Qt::AlignTop);
     auto* row = new QHBoxLayout;
     m_open = new QPushButton(tr("Klasse ö&ffnen"), area);
     m_open->setDefault(true);
@@ -95,14 +103,14 @@ QBoxLayout* FirstStartWindow::otherWays() {
         row->addWidget(button, 1);
         return button;
     };
-    auto* first = way(tr("&Neue Klasse …"), tr("In fünf Schritten von der Schule zum ersten Kind"),
-                      &FirstStartWindow::newClass);
+    m_new = way(tr("&Neue Klasse …"), tr("In fünf Schritten von der Schule zum ersten Kind"),
+                &FirstStartWindow::newClass);
     auto* sample =
         way(tr("&Beispielklasse ansehen"), tr("Zum Ausprobieren, mit erfundenen Kindern"),
             &FirstStartWindow::openSample);
-    way(tr("Klasse von einem &Stick mitnehmen …"),
+    way(tr("Klasse von einem &Stick mitnehmen\u00a0…"),
         tr("Kopiert den ganzen Ordner und vergleicht jede Datei"), &FirstStartWindow::takeAlong);
-    first->setEnabled(m_delivered.has_value());
+    m_new->setEnabled(m_delivered.has_value());
     sample->setEnabled(m_delivered.has_value());
     return row;
 }
@@ -133,13 +141,12 @@ void FirstStartWindow::showRecent() {
         if (!whose)
             item->setForeground(theme::colours().InkFaint);
     }
-    if (m_recent->count() == 0) {
-        auto* item = new QListWidgetItem(
-            tr("Noch war hier keine Klasse offen. Legen Sie eine neue an, oder\nsehen Sie sich "
-               "zuerst die Beispielklasse an."),
-            m_recent);
-        item->setFlags(Qt::NoItemFlags);
-        m_open->setEnabled(false);
+    const bool any = m_recent->count() > 0;
+    m_recent->setVisible(any);
+    m_open->setVisible(any);
+    m_welcome->setVisible(!any);
+    if (!any) {
+        m_new->setFocus();
         return;
     }
     m_recent->setCurrentRow(0);

@@ -42,7 +42,9 @@ class FirstStartWindow : public QDialog {
     std::optional<std::filesystem::path> m_delivered;
     TakenClass m_taken;
     QListWidget* m_recent;
+    QLabel* m_welcome;
     QPushButton* m_open;
+    QPushButton* m_new;
     QLabel* m_told;
 };
 

@@ -22,6 +22,10 @@ namespace {
 
 using Window = std::unique_ptr<QDialog>;
 
+Window welcome(const ClassFolder& installation) {
+    return std::make_unique<FirstStartWindow>(installation.path(), QString());
+}
+
 Window firstStart(const ClassFolder& installation) {
     for (const char* name : {"gestern", "heute"}) {
         const std::filesystem::path folder = installation.path() / name;
@@ -79,9 +83,13 @@ struct ClassStop {
 };
 
 const ClassStop Stops[] = {
-    {"erststart", firstStart}, {"neue-klasse", newClass, 4, "Weiter"},
-    {"mitnehmen", takeAlong},  {"ueber", about},
-    {"aufsteigen", movingUp},  {"neue-bausteine", newModules},
+    {"willkommen", welcome},
+    {"erststart", firstStart},
+    {"neue-klasse", newClass, 4, "Weiter"},
+    {"mitnehmen", takeAlong},
+    {"ueber", about},
+    {"aufsteigen", movingUp},
+    {"neue-bausteine", newModules},
 };
 
 std::vector<const QWidget*> alwaysThere(const QWidget& window) {
