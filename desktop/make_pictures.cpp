@@ -1,6 +1,6 @@
 // Plays a few steps on the real windows and takes pictures of them, for the help texts:
 //   click SCREEN.CONTROL | select SCREEN.CONTROL ENTRY | picture SCREEN FILE
-//   type SCREEN.CONTROL SENTENCE | offers FILE | states FILE
+//   type SCREEN.CONTROL SENTENCE | offers FILE | states FILE | first-start FILE | new-class FILE
 //   size SCREEN WIDTHxHEIGHT | press SCREEN INSCRIPTION (a button beside the controls)
 // All questions are answered with Yes.
 
@@ -9,6 +9,8 @@
 #include "controls/text_box.h"
 #include "controls/user_actions.h"
 #include "desktop/desktop_machine.h"
+#include "desktop/folders/first_start_window.h"
+#include "desktop/folders/new_class_window.h"
 #include "desktop/rescue/former_states_window.h"
 #include "desktop/rescue/offer_window.h"
 #include "desktop/theme.h"
@@ -21,6 +23,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QImage>
+#include <QPushButton>
+#include <QSettings>
 #include <QThread>
 #include <QWidget>
 
@@ -102,6 +106,22 @@ void press(const QWidget& window, const std::string& inscription) {
     throw std::runtime_error("no button " + inscription);
 }
 
+// In front of a class, as who starts for the first time sees them.
+void takeFirstStart(const std::string& which, const std::string& file) {
+    const auto folder = std::filesystem::current_path();
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, qPath(folder));
+    FirstStartWindow first(folder, {});
+    NewClassWindow steps(folder, nullptr);
+    for (auto* button : steps.findChildren<QPushButton*>())
+        if (button->isDefault())
+            button->click();
+    QWidget& window = which == "first-start" ? static_cast<QWidget&>(first) : steps;
+    window.resize(PictureWidth, PictureWidth * 5 / 9);
+    window.show();
+    settle();
+    save(window, file);
+}
+
 // The windows of the net, as the next start and the tools show them.
 struct BelowTheFiles {
     BelowTheFiles(Programm& running, WindowHost& windows)
@@ -144,6 +164,8 @@ void play(WindowHost& host, BelowTheFiles& net, const std::string& line) {
         return resize(windowOf(program, textFromUtf8(name)), rest);
     if (command == "press")
         return press(windowOf(program, textFromUtf8(name)), rest);
+    if (command == "first-start" || command == "new-class")
+        return takeFirstStart(command, name);
     if (command == "offers" || command == "states") {
         net.take(command, name);
         return;
