@@ -16,10 +16,28 @@ class HunspellRechtschreibung : public Rechtschreibung {
           m_utf8(m_hunspell.get_dict_encoding() == "UTF-8") {}
 
     [[nodiscard]] bool kennt(TextView wort) const override {
-        return m_hunspell.spell(m_utf8 ? utf8FromText(Text(wort)) : latin1(wort));
+        return m_hunspell.spell(bytesOf(wort));
+    }
+
+    [[nodiscard]] std::vector<Text> vorschlaege(TextView wort) const override {
+        std::vector<Text> alle;
+        for (const std::string& bytes : m_hunspell.suggest(bytesOf(wort)))
+            alle.push_back(m_utf8 ? textFromUtf8(bytes) : fromLatin1(bytes));
+        return alle;
     }
 
   private:
+    [[nodiscard]] std::string bytesOf(TextView wort) const {
+        return m_utf8 ? utf8FromText(Text(wort)) : latin1(wort);
+    }
+
+    static Text fromLatin1(const std::string& bytes) {
+        Text text;
+        for (const char byte : bytes)
+            text += static_cast<char16_t>(static_cast<unsigned char>(byte));
+        return text;
+    }
+
     static std::string latin1(TextView wort) {
         std::string bytes;
         for (const char16_t zeichen : wort)

@@ -95,6 +95,23 @@ bool kenntTeile(TextView wort, Kennt kennt) {
     return true;
 }
 
+bool istRichtig(TextView wort, const Textumstand& umstand) {
+    return kenntTeile(wort, [&](TextView teil) { return istBekannt(teil, umstand); }) ||
+           (umstand.Woerterbuch != nullptr && kenntTeile(wort, [&](TextView teil) {
+                return istBekannt(teil, umstand) || kenntWoerterbuch(teil, *umstand.Woerterbuch);
+            }));
+}
+
+// In a placeholder, or with one in its midst: Schüler<in>, <ihr/sein>e.
+bool gehoertZuPlatzhalter(TextView text, const Wort& wort) {
+    const size_t ende = wort.Stelle + wort.Text.size();
+    const size_t klammer = text.find_last_of(u"<>", wort.Stelle);
+    const bool innen = klammer != TextView::npos && text[klammer] == u'<' &&
+                       text.find(u'>', ende) != TextView::npos;
+    const bool dahinter = wort.Stelle > 0 && text[wort.Stelle - 1] == u'>';
+    return innen || dahinter || (ende < text.size() && text[ende] == u'<');
+}
+
 void woerterPruefen(const Text& text, const Textumstand& umstand,
                     std::vector<Befundstelle>& befunde) {
     for (const Wort& wort : WoerterVon(text)) {
@@ -102,14 +119,7 @@ void woerterPruefen(const Text& text, const Textumstand& umstand,
             befunde.push_back({Textmangel::Namensform, Text(wort.Text)});
             continue;
         }
-        const bool bekannt =
-            kenntTeile(wort.Text, [&](TextView teil) { return istBekannt(teil, umstand); });
-        const bool richtig =
-            bekannt || (umstand.Woerterbuch != nullptr && kenntTeile(wort.Text, [&](TextView teil) {
-                            return istBekannt(teil, umstand) ||
-                                   kenntWoerterbuch(teil, *umstand.Woerterbuch);
-                        }));
-        if (richtig)
+        if (istRichtig(wort.Text, umstand))
             continue;
         if (umstand.Bausteine != nullptr && istWortrest(wort.Text, *umstand.Bausteine))
             befunde.push_back({Textmangel::Wortrest, Text(wort.Text)});
@@ -130,6 +140,16 @@ std::vector<Befundstelle> TextPruefen(const Text& text, const Textumstand& umsta
     FuerwoerterPruefen(text, umstand, befunde);
     woerterPruefen(text, umstand, befunde);
     return befunde;
+}
+
+std::vector<Wort> UnbekannteWoerter(TextView text, const Textumstand& umstand) {
+    std::vector<Wort> unbekannte = WoerterVon(text);
+    std::erase_if(unbekannte, [&](const Wort& wort) {
+        return gehoertZuPlatzhalter(text, wort) ||
+               (!istFalscheNamensform(wort.Text, umstand.Vorname) &&
+                istRichtig(wort.Text, umstand));
+    });
+    return unbekannte;
 }
 
 bool IstUnbegruendetEingeschraenkt(const Text& text) {

@@ -2,6 +2,7 @@
 
 #include "checks/module_words.h"
 #include "checks/spelling.h"
+#include "checks/words.h"
 
 /// What is wrong, or may be, in a text about a child. A text is checked as it is printed, with
 /// "\n" between its lines.
@@ -33,6 +34,10 @@ struct Textumstand {
 };
 
 std::vector<Befundstelle> TextPruefen(const Text& text, const Textumstand& umstand);
+
+/// The words of a text that neither modules nor dictionary know, and forms of the name that are
+/// slips. What stands in < > and what touches it is left out. The text must outlive the words.
+std::vector<Wort> UnbekannteWoerter(TextView text, const Textumstand& umstand);
 
 /// Whether the text restricts the overall rating ("mit Einschränkungen", "entspricht nicht")
 /// without a sentence that tells why.

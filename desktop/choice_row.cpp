@@ -91,12 +91,18 @@ QRect ChoiceRow::textArea(int width, int height) const {
 int ChoiceRow::heightForWidth(int width) const {
     if (!m_picture.isNull())
         return PictureSize + 2 * m_topPadding;
-    const QRect area = textArea(width, 1000);
-    const int lines =
-        fontMetrics()
-            .boundingRect(QRect(0, 0, area.width(), 1000), wrapping(area.width()), m_inscription)
-            .height();
-    return std::max(lines, fontMetrics().height()) + 2 * m_topPadding + 2;
+    return textHeight(textArea(width, 1000).width()) + 2 * m_topPadding + 2;
+}
+
+int ChoiceRow::textHeight(int width) const {
+    const auto [known, isNew] = m_textHeights.try_emplace(width);
+    if (isNew)
+        known->second =
+            std::max(fontMetrics()
+                         .boundingRect(QRect(0, 0, width, 1000), wrapping(width), m_inscription)
+                         .height(),
+                     fontMetrics().height());
+    return known->second;
 }
 
 QSize ChoiceRow::sizeHint() const {
@@ -116,6 +122,7 @@ QSize ChoiceRow::minimumSizeHint() const {
 }
 
 void ChoiceRow::measureWords() {
+    m_textHeights.clear();
     m_widestWord = widestWord(fontMetrics(), m_inscription);
     m_hintWidth =
         m_keyHint.isEmpty() ? 0 : fontMetrics().horizontalAdvance(m_keyHint) + HintPadding;

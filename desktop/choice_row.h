@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QPixmap>
 
+#include <map>
 #include <optional>
 
 namespace zeugnis {
@@ -54,6 +55,7 @@ class ChoiceRow : public QAbstractButton {
     [[nodiscard]] QColor outlineOf(const QColor& fill) const;
     void paintMark(QPainter& painter, const QColor& ink) const;
     [[nodiscard]] int wrapping(int width) const;
+    [[nodiscard]] int textHeight(int width) const;
     void measureWords();
 
     Mark m_mark;
@@ -66,6 +68,7 @@ class ChoiceRow : public QAbstractButton {
     int m_topPadding;
     int m_widestWord = 0;
     int m_hintWidth = 0;
+    mutable std::map<int, int> m_textHeights; ///< by width; a layout asks for the same few often
 };
 
 } // namespace zeugnis

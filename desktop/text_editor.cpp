@@ -217,7 +217,14 @@ bool TextEditor::goesOn(int start, int removed, const QString& inserted) const {
 }
 
 void TextEditor::replaceAll(const Text& text) {
-    selectAll();
+    replace(0, document()->characterCount() - 1, text);
+}
+
+void TextEditor::replace(int from, int to, const Text& text) {
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(from);
+    cursor.setPosition(to, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
     ownAction([this, &text] {
         user::paste(m_box, text);
         user::click(m_box);

@@ -26,6 +26,8 @@ class TextEditor : public QPlainTextEdit {
 
     /// Puts another text in and clicks into the box, as by hand.
     void replaceAll(const Text& text);
+    /// The same with a part of it, from one place of documentText() up to the other.
+    void replace(int from, int to, const Text& text);
     /// Nothing from before can be undone.
     void forgetHistory();
 

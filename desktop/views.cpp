@@ -1,6 +1,7 @@
 #include "desktop/views.h"
 
 #include "desktop/comfort/entry_comfort.h"
+#include "desktop/comfort/spelling.h"
 #include "desktop/editor_view_avsv.h"
 #include "desktop/editor_view_years.h"
 #include "desktop/entry_view_12.h"
@@ -44,6 +45,7 @@ ScreenWindow* makeWindow(Screen& screen, WindowHost& host, QWidget* below) {
     for (const auto make : Makers)
         if (ScreenWindow* window = make(screen, host, below)) {
             addEntryComfort(*window, screen, host);
+            addSpelling(*window, screen, host);
             return window;
         }
     throw std::logic_error("a screen without a window");

@@ -1,7 +1,8 @@
 #include "rescue/forethought.h"
 
-#include "behaviour/avsv_entry_screen.h"
+#include "comfort/entry_access.h"
 #include "common/screen_names.h"
+#include "controls/list_controls.h"
 #include "controls/program.h"
 #include "controls/user_actions.h"
 #include "masterdata/master_data_screen.h"
@@ -9,8 +10,6 @@
 #include "rescue/taking.h"
 #include "safety/damage.h"
 #include "safety/layouts.h"
-#include "years12/entry_screen.h"
-#include "years34/entry_screen.h"
 
 #include <algorithm>
 #include <array>
@@ -102,21 +101,6 @@ void mendMasterData(GsBasis& screen) {
         user::pick(screen.Combo1, shown);
 }
 
-struct Shown {
-    ComboBox* Names;
-    Button* Page;
-};
-
-Shown shownBy(Screen& screen) {
-    if (auto* avsv = dynamic_cast<GsArbeitsverhalten*>(&screen))
-        return {&avsv->Combo1, avsv->Bereich == Abschnitt::SV ? &avsv->Command2 : &avsv->Command1};
-    if (auto* young = dynamic_cast<Kompetenzen*>(&screen))
-        return {&young->Combo1, &young->Command1(young->aktSeite)};
-    if (auto* old = dynamic_cast<GSAGFI*>(&screen))
-        return {&old->Combo1, &old->Command2(old->Seite)};
-    return {};
-}
-
 } // namespace
 
 bool mayWrite(const Control& control) { return isOneOf(control, Writing); }
@@ -138,16 +122,18 @@ void mendQuotes(Screen& screen) {
     const Programm::Task task(screen.programm());
     if (auto* basis = dynamic_cast<GsBasis*>(&screen))
         return mendMasterData(*basis);
-    const Shown before = shownBy(screen);
-    const int pupil = before.Names == nullptr ? -1 : before.Names->listIndex();
+    const std::optional<Eingabeschirm> entry = EingabeschirmAus(screen);
+    const int pupil = entry ? entry->Kinder->listIndex() : -1;
+    const int page = entry ? entry->Seite() : -1;
     for (Typed& one : quotedIn(screen)) {
         one.value = safety::withGermanQuotes(one.value);
         take(screen.programm(),
              {.run = {}, .screen = screen.name(), .typed = one, .fieldName = {}, .inFile = {}});
     }
-    if (pupil >= 0 && before.Names->listIndex() != pupil) {
-        user::pick(*before.Names, pupil);
-        user::click(*before.Page);
+    if (pupil >= 0 && entry->Kinder->listIndex() != pupil) {
+        user::pick(*entry->Kinder, pupil);
+        if (page >= 0)
+            user::click(*entry->Seiten.at(static_cast<size_t>(page)));
     }
 }
 

@@ -33,6 +33,10 @@ class CheckThread : public QObject {
     /// program ends is left.
     void post(Task task);
 
+  signals:
+    /// More words are known than before.
+    void wordsLearnt();
+
   private:
     void work(const std::stop_token& stop);
 

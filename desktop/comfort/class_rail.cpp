@@ -100,6 +100,8 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
     connect(m_hintButton, &QPushButton::clicked, this, &ClassRail::openHints);
     auto* shortcut = new QShortcut(Qt::Key_F7, &window);
     connect(shortcut, &QShortcut::activated, this, &ClassRail::openHints);
+    connect(&CheckThread::of(host), &CheckThread::wordsLearnt, m_hints,
+            &TextHints::knowledgeChanged);
     connect(m_hints, &TextHints::found, &host, [&host] { host.refresh(); });
     window.installEventFilter(this);
     window.follow([this] { follow(); });
@@ -161,11 +163,13 @@ void ClassRail::markPupils(const std::vector<Kinderstand>& states) {
     if (pupils == nullptr)
         return;
     for (int row = 0; row < std::min(pupils->count(), static_cast<int>(states.size())); ++row) {
-        pupils->setItemIcon(row,
-                            isHidden() ? RailRow::sign(states[static_cast<size_t>(row)]) : QIcon());
-        pupils->setItemData(
-            row, isHidden() ? asTip(told(states[static_cast<size_t>(row)], m_entry)) : QString(),
-            Qt::ToolTipRole);
+        const Kinderstand& state = states[static_cast<size_t>(row)];
+        const QString tip = isHidden() ? asTip(told(state, m_entry)) : QString();
+        // Each change of an entry lets the list measure all of them.
+        if (pupils->itemData(row, Qt::ToolTipRole).toString() == tip)
+            continue;
+        pupils->setItemIcon(row, isHidden() ? RailRow::sign(state) : QIcon());
+        pupils->setItemData(row, tip, Qt::ToolTipRole);
     }
 }
 

@@ -10,6 +10,7 @@ namespace {
 class FewWords : public Rechtschreibung {
   public:
     [[nodiscard]] bool kennt(TextView wort) const override { return m_words.contains(Text(wort)); }
+    [[nodiscard]] std::vector<Text> vorschlaege(TextView /*wort*/) const override { return {}; }
 
   private:
     std::set<Text> m_words = {
@@ -72,6 +73,22 @@ TEST(TextChecks, FindWhatIsWrongAndNothingElse) {
     }
 }
 
+TEST(TextChecks, UnknownWordsAreNeitherPlaceholdersNorWhatTouchesThem) {
+    const FewWords dictionary;
+    const Textumstand about{.Vorname = u"Mats", .Geschlecht = u"m", .Woerterbuch = &dictionary};
+    const std::pair<const char16_t*, const char*> cases[] = {
+        {u"<Vorname> lachd viel <ihr/sein>e Schuelr<in> < gutt", "10lachd 42gutt "},
+        {u"Viel > lachd <Er/Sie> hilfd", "7lachd 22hilfd "},
+        {u"Matss lacht viel-gut, gut-viell.", "0Matss 22gut-viell "},
+    };
+    for (const auto& [text, expected] : cases) {
+        std::string found;
+        for (const Wort& word : UnbekannteWoerter(text, about))
+            found += std::to_string(word.Stelle) + utf8FromText(word.Text) + " ";
+        EXPECT_EQ(found, expected);
+    }
+}
+
 TEST(TextChecks, ARestrictedRatingNeedsAReason) {
     const Text restricted = u"Das Arbeitsverhalten entspricht den Erwartungen mit Einschränkungen.";
     EXPECT_TRUE(IstUnbegruendetEingeschraenkt(u"Mats arbeitet gern.\n" + restricted));
@@ -89,6 +106,8 @@ TEST(TextChecks, TheGermanDictionaryKnowsGerman) {
         EXPECT_TRUE(dictionary->kennt(right)) << utf8FromText(right);
     for (const char16_t* wrong : {u"Grösze", u"Aufgebn", u"lachd", u"Łódź"})
         EXPECT_FALSE(dictionary->kennt(wrong)) << utf8FromText(wrong);
+    const std::vector<Text> meant = dictionary->vorschlaege(u"Größse");
+    EXPECT_NE(std::find(meant.begin(), meant.end(), u"Größe"), meant.end());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "desktop/choice_row.h"
+#include "desktop/screen_window.h"
 #include "desktop/window_host.h"
 #include "tests/desktop/settle_layouts.h"
 #include "tests/support/test_programm.h"
@@ -57,6 +58,17 @@ TEST_F(EntryView34Test, ShowsEveryInscriptionWhole) {
             EXPECT_EQ(rows, page == 0 ? 10 : page == 1 ? 21 : 17);
         }
     }
+}
+
+TEST_F(EntryView34Test, AKindOfSupportWithoutAModuleCannotBeClicked) {
+    turnTo(0);
+    CheckBox& emptied = screen->Check1(2);
+    QWidget* row = host.windowOf(screen)->widgetOf(emptied);
+    emptied.Caption.clear();
+    host.refresh();
+    QTest::mouseClick(row, Qt::LeftButton);
+    EXPECT_FALSE(machine.programm.ended());
+    EXPECT_EQ(screen->Text1.text(), u"");
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "desktop/rescue/offer_window.h"
 #include "desktop/screen_window.h"
 #include "desktop/window_host.h"
+#include "masterdata/master_data_screen.h"
 #include "tests/support/test_programm.h"
 #include "years34/entry_screen.h"
 
@@ -162,6 +163,25 @@ TEST_F(NetTest, DamageIsMendedBeforeAnythingIsReadAndAMissingFolderIsMade) {
     const Running after(installation);
     EXPECT_EQ(file(u"Daten/AVSVspeicher.txt"), good);
     EXPECT_TRUE(installation.has(u"Daten/Sicherheit"));
+}
+
+TEST_F(NetTest, AFullClassGrowsOnlyIfThatIsSaidTwice) {
+    Text names;
+    for (int i = 1; i <= SchuelerHoechstens; ++i)
+        names += textFromNumber(i) + u",\"3a\",\"Ahlers\",\"Tom\",\"m\",\"01.02.2018\",\"\",\"\"," +
+                 u"\"\",\"\",\"Ort\"\r\n";
+    installation.write(u"Daten/Namen.Txt", names);
+    Running running(installation);
+    running.show(bildschirme::GsBasis);
+    auto& screen = running.screen<GsBasis>(bildschirme::GsBasis);
+    running.press(screen.Command5);
+    answer({QStringLiteral("Nicht")});
+    running.press(screen.Command4(2));
+    answer({QStringLiteral("Trotzdem"), QStringLiteral("Nicht")});
+    running.press(screen.Command4(2));
+    EXPECT_EQ(screen.Liste.Schuelerzahl, SchuelerHoechstens);
+    EXPECT_TRUE(said.contains(QStringLiteral("Die Klasse hat schon 33 Kinder")));
+    EXPECT_TRUE(said.contains(QStringLiteral("Alle Texte der Klasse werden dabei geleert")));
 }
 
 TEST_F(NetTest, AFormerStateComesBackWithTwoClicks) {
