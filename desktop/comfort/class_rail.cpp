@@ -95,10 +95,10 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
     m_hintButton->setObjectName(QStringLiteral("link"));
     m_hintButton->setFont(theme::scaledFont(0.92));
     m_hintButton->setCursor(Qt::PointingHandCursor);
-    m_hintButton->setToolTip(tr("Zeigen, was an den Texten dieses Kindes auffällt (F7)"));
+    m_hintButton->setToolTip(tr("Zeigen, was an den Texten dieses Kindes auffällt (F3)"));
     m_hintButton->hide();
     connect(m_hintButton, &QPushButton::clicked, this, &ClassRail::openHints);
-    auto* shortcut = new QShortcut(Qt::Key_F7, &window);
+    auto* shortcut = new QShortcut(Qt::Key_F3, &window);
     connect(shortcut, &QShortcut::activated, this, &ClassRail::openHints);
     connect(&CheckThread::of(host), &CheckThread::wordsLearnt, m_hints,
             &TextHints::knowledgeChanged);
@@ -123,7 +123,7 @@ void ClassRail::showHintCount() {
     if (child >= 0 && child < static_cast<int>(m_states.size()))
         for (const Seitenblick& page : m_states[static_cast<size_t>(child)].Seiten)
             count += static_cast<qsizetype>(page.Hinweise.size());
-    m_hintButton->setText(count == 1 ? tr("1 Hinweis (F7)") : tr("%1 Hinweise (F7)").arg(count));
+    m_hintButton->setText(count == 1 ? tr("1 Hinweis (F3)") : tr("%1 Hinweise (F3)").arg(count));
     m_hintButton->setVisible(count > 0);
 }
 

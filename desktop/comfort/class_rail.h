@@ -26,7 +26,7 @@ class ClassRail : public QWidget {
   public:
     ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry);
 
-    /// Tells how many hints there are for the child on display, and opens them; F7 does it, too.
+    /// Tells how many hints there are for the child on display, and opens them; F3 does it, too.
     [[nodiscard]] QWidget* hintButton() const;
 
     /// A window must be so wide that the rail leaves the rest the room it needs.

@@ -37,13 +37,13 @@ QHBoxLayout* putAtTheLeft(QWidget& rail, QWidget& window) {
 
 QWidget* lastTermButton(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry) {
     auto* texts = new LastTermWindow(window, host, entry);
-    auto* button = new QPushButton(QObject::tr("Letztes Halbjahr (F6)"), &window);
+    auto* button = new QPushButton(QObject::tr("Letztes Halbjahr (F5)"), &window);
     button->setObjectName(QStringLiteral("link"));
     button->setFont(theme::scaledFont(0.92));
     button->setCursor(Qt::PointingHandCursor);
     button->setToolTip(QObject::tr("Den Text des Kindes vom letzten Halbjahr daneben zeigen"));
     QObject::connect(button, &QPushButton::clicked, texts, &LastTermWindow::toggle);
-    auto* shortcut = new QShortcut(Qt::Key_F6, &window);
+    auto* shortcut = new QShortcut(Qt::Key_F5, &window);
     QObject::connect(shortcut, &QShortcut::activated, texts, &LastTermWindow::toggle);
     return button;
 }

@@ -104,7 +104,7 @@ void LastTermWindow::follow() {
 }
 
 void LastTermWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F6) {
+    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F5) {
         hide();
         m_window.activateWindow();
         return;

@@ -35,7 +35,7 @@ class HalfYearBox : public QDialog {
         paragraph(tr("So geht es gut:\n"
                      "1.  Die fertigen Zeugnisse sind gedruckt oder als PDF gespeichert.\n"
                      "2.  Heben Sie den fertigen Stand hier auf. Er bleibt unter „Frühere Stände“ "
-                     "in der Werkzeugkiste, und beim Schreiben zeigt die Taste F6 zu jedem Kind "
+                     "in der Werkzeugkiste, und beim Schreiben zeigt die Taste F5 zu jedem Kind "
                      "den Text vom letzten Halbjahr.\n"
                      "3.  Tragen Sie Halbjahr, Schuljahr und Klasse ein, speichern Sie die "
                      "Basisdaten und starten Sie das Programm neu."));
