@@ -97,7 +97,6 @@ QBoxLayout* StartView::mainArea() {
     head->addWidget(bind().signButton(m_start.Command8, QStringLiteral("?"),
                                       tr("Hilfe zur Startseite"), QKeySequence::HelpContents));
     layout->addLayout(head);
-    layout->addSpacing(6);
 
     layout->addWidget(works(), 1);
     layout->addWidget(newModules(), 0, Qt::AlignLeft);
@@ -156,18 +155,18 @@ QWidget* StartView::works() {
     auto* area = new PageArea(this);
     area->fillRoom();
     auto* column = new QVBoxLayout;
-    column->setSpacing(8);
+    column->setSpacing(7);
     constexpr QChar Mnemonics[] = {u'A', u'I', u'F', u'B', u'T', u'x', u'S'};
     for (int i = 0; i <= 6; ++i) {
         TintedButton* button = bind().button(m_start.Command1(i), Mnemonics[i], Role::Main);
         column->addWidget(button);
     }
-    column->addSpacing(10);
+    column->addSpacing(7);
     column->addWidget(bind().button(m_start.Command4, u'Z', Role::Main));
     column->addWidget(bind().button(m_start.Command6, u'E', Role::Main));
     column->addWidget(bind().button(m_start.Command5, u'u', Role::Main));
     column->addWidget(bind().button(m_start.Command7, u'L', Role::Main));
-    column->addSpacing(10);
+    column->addSpacing(3);
     column->addWidget(new ClassSummaryLine(m_start, *this, host()));
     column->addStretch();
     area->add(*column);
