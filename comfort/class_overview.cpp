@@ -37,7 +37,11 @@ std::vector<Kinderstand> Klassenuebersicht::Staende() {
     return staende;
 }
 
-void Klassenuebersicht::Vergessen() { m_zellen.clear(); }
+void Klassenuebersicht::NeuPruefen() {
+    for (std::vector<Zelle>& seite : m_zellen)
+        for (Zelle& eine : seite)
+            eine.Bekannt = false;
+}
 
 void Klassenuebersicht::texteNachsehen() {
     m_zellen.resize(m_schirm.Seiten.size(), std::vector<Zelle>(Schuelerplaetze));

@@ -47,8 +47,8 @@ class Klassenuebersicht {
 
     [[nodiscard]] std::vector<Kinderstand> Staende();
 
-    /// All texts are to be looked at anew.
-    void Vergessen();
+    /// All texts are to be looked at anew; until then what was said stays.
+    void NeuPruefen();
 
     /// "14 von 22 haben beide Texte"
     [[nodiscard]] static Text Satz(const std::vector<Kinderstand>& staende);

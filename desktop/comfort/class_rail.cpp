@@ -243,6 +243,12 @@ void ClassRail::showTwins(int page, int child, int other) {
 bool ClassRail::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize)
         foldIfNarrow();
+    // In the report window words may have been learnt, and hints been marked as seen.
+    if (event->type() == QEvent::WindowActivate) {
+        m_hints->knowledgeChanged();
+        m_overview.NeuPruefen();
+        QMetaObject::invokeMethod(m_hints, &TextHints::found, Qt::QueuedConnection);
+    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -84,7 +84,6 @@ TextHints::~TextHints() = default;
 void TextHints::knowledgeChanged() {
     m_knowledge = std::make_shared<Knowledge>(m_folder, m_behaviour);
     m_answers.clear();
-    emit found();
 }
 
 std::optional<std::vector<Text>> TextHints::of(const Textfrage& question) {

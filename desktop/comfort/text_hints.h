@@ -27,7 +27,7 @@ class TextHints : public QObject {
     /// For Klassenuebersicht. Nothing as long as it is not found; then found() comes.
     std::optional<std::vector<Text>> of(const Textfrage& question);
 
-    /// Words have been learnt, or hints been seen.
+    /// Words may have been learnt, or hints been seen; all is to be asked anew.
     void knowledgeChanged();
 
   signals:
