@@ -43,6 +43,7 @@ QFrame#area { background: #FFFFFF; border: 1px solid #DDD8CC; border-radius: 8px
 QPushButton#link { border: 1px solid transparent; border-radius: 3px; padding: 0 4px;
     background: transparent; color: #1F6F6B; text-decoration: underline; }
 QPushButton#link:focus { border-color: #1F6F6B; }
+QPushButton#link:disabled { text-decoration: none; }
 QScrollBar:vertical { width: 12px; background: transparent; border: none; margin: 0; }
 QScrollBar::handle:vertical { min-height: 32px; margin: 2px; border-radius: 4px;
     background: rgba(60, 60, 50, 90); }
