@@ -158,8 +158,12 @@ void play(WindowHost& host, BelowTheFiles& net, const std::string& line) {
     std::string rest;
     words >> command >> name >> rest;
     Programm& program = host.program();
-    if (command == "picture")
+    if (command == "picture") {
+        // What is looked for in the background comes a little later.
+        for (int i = 0; i < 8; ++i)
+            wait();
         return save(windowOf(program, textFromUtf8(name)), rest);
+    }
     if (command == "size")
         return resize(windowOf(program, textFromUtf8(name)), rest);
     if (command == "press")
