@@ -37,11 +37,11 @@ QHBoxLayout* putAtTheLeft(QWidget& rail, QWidget& window) {
 
 QWidget* lastTermButton(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry) {
     auto* texts = new LastTermWindow(window, host, entry);
-    auto* button = new QPushButton(QObject::tr("Letztes Halbjahr (F5)"), &window);
+    auto* button = new QPushButton(QObject::tr("Letztes Halbjahr"), &window);
     button->setObjectName(QStringLiteral("link"));
     button->setFont(theme::scaledFont(0.92));
     button->setCursor(Qt::PointingHandCursor);
-    button->setToolTip(QObject::tr("Den Text des Kindes vom letzten Halbjahr daneben zeigen"));
+    button->setToolTip(QObject::tr("Den Text des Kindes vom letzten Halbjahr daneben zeigen (F5)"));
     QObject::connect(button, &QPushButton::clicked, texts, &LastTermWindow::toggle);
     auto* shortcut = new QShortcut(Qt::Key_F5, &window);
     QObject::connect(shortcut, &QShortcut::activated, texts, &LastTermWindow::toggle);
@@ -62,7 +62,7 @@ void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
         delete last;
         return;
     }
-    last->setSpacing(16);
+    last->setSpacing(10);
     qobject_cast<QBoxLayout*>(window.layout())->addLayout(last);
     if (!entry)
         return;
