@@ -11,6 +11,7 @@
 #include "desktop/theme.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 

@@ -85,11 +85,12 @@ Text versetzung(Text bemerkungen, const Text& konferenz) {
     return oderStrich(saetze);
 }
 
+// What two children's texts have in common is nothing for a conference.
 Text hinweise(const std::vector<Befund>& befunde, int platz) {
     Text saetze;
     size_t anzahl = 0;
     for (const Befund& befund : befunde)
-        if (befund.Platz == platz && ++anzahl <= HinweiseHoechstens)
+        if (befund.Platz == platz && befund.Zwillinge.empty() && ++anzahl <= HinweiseHoechstens)
             saetze = verbunden(saetze, u" ", befund.Satz);
     if (anzahl > HinweiseHoechstens)
         saetze += u" Und " + textFromNumber(static_cast<int>(anzahl - HinweiseHoechstens)) +

@@ -159,6 +159,7 @@ Text doppelteZeichen(const Pruefling& /*pruefling*/, const Text& text) {
 
 Text aufgezaehlt(const Pruefling& pruefling, const std::vector<int>& plaetze) {
     std::vector<Text> namen;
+    namen.reserve(plaetze.size());
     for (const int platz : plaetze)
         namen.push_back(Kindname(pruefling.kind(platz)));
     if (namen.size() > NamenHoechstens) {
