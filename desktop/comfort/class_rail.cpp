@@ -22,6 +22,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace zeugnis {
@@ -71,7 +72,7 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
       m_entry(entry),
       m_hints(new TextHints(CheckThread::of(host), host.program().directory().programFolder(),
                             entry, this)),
-      m_overview(entry, [this](const Textfrage& question) { return m_hints->of(question); }),
+      m_overview(entry),
       m_sentence(new QLabel(this)),
       m_hintButton(new QPushButton(&window)),
       m_list(new QListWidget(this)) {
@@ -105,6 +106,12 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
     connect(m_hints, &TextHints::found, &host, [&host] { host.refresh(); });
     window.installEventFilter(this);
     window.follow([this] { follow(); });
+    // Not before the window has come up.
+    QTimer::singleShot(0, this, [this] {
+        m_overview = Klassenuebersicht(
+            m_entry, [this](const Textfrage& question) { return m_hints->of(question); });
+        m_host.refresh();
+    });
 }
 
 void ClassRail::follow() {
