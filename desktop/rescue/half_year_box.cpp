@@ -4,12 +4,15 @@
 #include "desktop/theme.h"
 #include "platform/machine.h"
 #include "rescue/last_term.h"
+#include "toolkit/page_area.h"
 #include "toolkit/qt_text.h"
 
 #include <QDialog>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace zeugnis {
@@ -19,62 +22,87 @@ QString tr(const char* text) { return QObject::tr(text); }
 
 class HalfYearBox : public QDialog {
   public:
-    HalfYearBox(bool atOnce, const QString& name, QWidget* owner) : QDialog(owner) {
+    HalfYearBox(bool atOnce, const QString& name, QWidget* owner)
+        : QDialog(owner), m_texts(new QVBoxLayout), m_name(new QLineEdit(name, this)) {
         setWindowTitle(qString(Programmtitel));
-        m_column = new QVBoxLayout(this);
-        m_column->setContentsMargins(22, 20, 22, 16);
-        m_column->setSpacing(10);
-        QLabel* head = paragraph(tr("Ein neues Halbjahr oder eine neue Klasse?"));
-        head->setFont(theme::scaledFont(1.15, QFont::DemiBold));
-        paragraph(atOnce ? tr("Gleich kommt die Frage, ob Sie mit den Zeugniseingaben neu anfangen "
-                              "wollen. Mit „Ja“ sind sofort alle Zeugnistexte der Klasse geleert, "
-                              "auch wenn Sie danach nicht speichern.")
-                         : tr("Gleich kommt die Frage, ob Sie neu anfangen wollen. Antworten Sie "
-                              "mit „Ja“, sind mit dem nächsten Speichern alle Zeugnistexte der "
-                              "Klasse geleert."));
-        paragraph(tr("So geht es gut:\n"
-                     "1.  Die fertigen Zeugnisse sind gedruckt oder als PDF gespeichert.\n"
-                     "2.  Heben Sie den fertigen Stand hier auf. Er bleibt unter „Frühere Stände“ "
-                     "in der Werkzeugkiste, und beim Schreiben zeigt die Taste F5 zu jedem Kind "
-                     "den Text vom letzten Halbjahr.\n"
-                     "3.  Tragen Sie Halbjahr, Schuljahr und Klasse ein, speichern Sie die "
-                     "Basisdaten und starten Sie das Programm neu."));
-        m_name = new QLineEdit(name, this);
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(22, 20, 22, 16);
+        column->setSpacing(10);
+        tell(atOnce);
+        auto* area = new PageArea(this);
+        area->fillRoom();
+        area->add(*m_texts);
+        column->addWidget(area, 1);
         auto* label = new QLabel(tr("&Name des Standes:"), this);
         label->setBuddy(m_name);
-        m_column->addWidget(label);
-        m_column->addWidget(m_name);
-        m_column->addSpacing(6);
-        answer(tr("Stand auf&heben und weiter"), Keep)->setDefault(true);
-        answer(tr("&Ohne Aufheben weiter"), GoOn);
-        answer(tr("&Zurück"), Rejected);
+        column->addWidget(label);
+        column->addWidget(m_name);
+        auto* row = new QHBoxLayout;
+        row->addWidget(answer(tr("Stand auf&heben und weiter"), Keep));
+        row->addWidget(answer(tr("&Ohne Aufheben weiter"), GoOn));
+        row->addStretch();
+        row->addWidget(answer(tr("&Zurück"), Rejected));
+        column->addSpacing(6);
+        column->addLayout(row);
         m_name->setFocus();
         m_name->selectAll();
+        fit(*area);
     }
 
     enum { GoOn = Accepted, Keep };
     [[nodiscard]] Text name() const { return trimmed(fromQString(m_name->text())); }
 
   private:
+    void tell(bool atOnce) {
+        m_texts->setSpacing(10);
+        paragraph(tr("Ein neues Halbjahr oder eine neue Klasse?"))
+            ->setFont(theme::scaledFont(1.15, QFont::DemiBold));
+        paragraph(atOnce ? tr("Gleich kommt die Frage, ob Sie mit den Zeugniseingaben neu anfangen "
+                              "wollen. Mit „Ja“ sind sofort alle Zeugnistexte der Klasse geleert, "
+                              "auch wenn Sie danach nicht speichern.")
+                         : tr("Gleich kommt die Frage, ob Sie neu anfangen wollen. Antworten Sie "
+                              "mit „Ja“, sind mit dem nächsten Speichern alle Zeugnistexte der "
+                              "Klasse geleert."));
+        paragraph(tr("So geht es gut:"));
+        paragraph(tr("1.  Die fertigen Zeugnisse sind gedruckt oder als PDF gespeichert."));
+        paragraph(tr("2.  Heben Sie den fertigen Stand hier auf. Er bleibt unter „Frühere Stände“ "
+                     "in der Werkzeugkiste, und beim Schreiben zeigt die Taste F5 zu jedem Kind "
+                     "den Text vom letzten Halbjahr."));
+        paragraph(tr("3.  Tragen Sie Halbjahr, Schuljahr und Klasse ein, speichern Sie die "
+                     "Basisdaten und starten Sie das Programm neu."));
+    }
+
     QLabel* paragraph(const QString& text) {
-        constexpr int LetterWidths = 74;
         auto* label = new QLabel(text, this);
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
-        label->setMinimumWidth(qMin(LetterWidths * fontMetrics().averageCharWidth(), 900));
-        m_column->addWidget(label);
+        m_texts->addWidget(label);
         return label;
     }
 
     QPushButton* answer(const QString& text, int code) {
         auto* button = new QPushButton(text, this);
         button->setAutoDefault(false);
+        button->setDefault(code == Keep);
+        button->setMinimumWidth(button->sizeHint().width());
         connect(button, &QPushButton::clicked, this, [this, code] { done(code); });
-        m_column->addWidget(button);
         return button;
     }
 
-    QVBoxLayout* m_column;
+    // As wide as lines can be read, and as high as the texts, if the display is.
+    void fit(const PageArea& area) {
+        constexpr int Letters = 80;
+        const QSize room = screen()->availableSize() - QSize(40, 70);
+        const QMargins margins = layout()->contentsMargins();
+        const int width =
+            qMin(qMax(Letters * fontMetrics().averageCharWidth(), layout()->sizeHint().width()),
+                 room.width());
+        const int texts = m_texts->totalHeightForWidth(width - margins.left() - margins.right());
+        const int rest = layout()->sizeHint().height() - area.sizeHint().height();
+        resize(width, qMin(texts + rest, room.height()));
+    }
+
+    QVBoxLayout* m_texts;
     QLineEdit* m_name;
 };
 
