@@ -144,7 +144,7 @@ Blanking blanksTexts(const Control& control, const fs::path& programFolder) {
     return {.happens = any, .atOnce = &control == &basis->Command3};
 }
 
-int keepState(const fs::path& programFolder, const Text& name) {
+int keepState(const fs::path& programFolder, const fs::path& into, const Text& name) {
     const safety::Paths paths(programFolder);
     std::vector<Former> files;
     std::error_code failed;
@@ -157,7 +157,7 @@ int keepState(const fs::path& programFolder, const Text& name) {
     };
     take(paths.program / pathFromText(dateien::Daten));
     take(paths.program);
-    return safety::States(programFolder).keep(safety::now(), name, files);
+    return safety::States(into).keep(safety::now(), name, files);
 }
 
 } // namespace zeugnis::rescue

@@ -50,8 +50,10 @@ struct Blanking {
 };
 Blanking blanksTexts(const Control& control, const std::filesystem::path& programFolder);
 
-/// Keeps all data files under a name, for good. Gives 0 or the number of an error.
-int keepState(const std::filesystem::path& programFolder, const Text& name);
+/// Keeps all data files under a name, for good. Gives 0 or the number of an error. `into` is the
+/// folder itself, or that in which the class goes on.
+int keepState(const std::filesystem::path& programFolder, const std::filesystem::path& into,
+              const Text& name);
 
 } // namespace rescue
 } // namespace zeugnis

@@ -5,6 +5,7 @@
 #include "desktop/theme.h"
 #include "folders/class_files.h"
 #include "folders/moving_up.h"
+#include "rescue/last_term.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/window_place.h"
 
@@ -89,8 +90,11 @@ void MovingUpWindow::make() {
         obstacle = qString(KlasseUebernehmen(m_old, m_delivered, newFolder(), next()));
         QApplication::restoreOverrideCursor();
     }
-    if (obstacle.isEmpty())
+    if (obstacle.isEmpty()) {
+        // For the texts of the half-year before beside the input; without them nothing is lost.
+        rescue::keepState(m_old, newFolder(), rescue::termOf(m_old));
         return accept();
+    }
     m_told->setText(obstacle);
     spoken::announce(*m_told, obstacle);
 }

@@ -120,7 +120,8 @@ bool mayBlankTexts(const Control& control, const std::filesystem::path& programF
         owner->activateWindow();
     if (chosen != HalfYearBox::Keep)
         return chosen != HalfYearBox::Rejected;
-    const int error = rescue::keepState(programFolder, box.name().empty() ? term : box.name());
+    const int error =
+        rescue::keepState(programFolder, programFolder, box.name().empty() ? term : box.name());
     return error == 0 ||
            askChoice(owner,
                      tr("Der Stand ließ sich nicht aufheben: Im Ordner „Notsicherung“ kann nicht "

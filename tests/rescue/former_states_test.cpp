@@ -168,7 +168,13 @@ TEST_F(FormerStatesTest, TheLastHalfYearsTextsAreKnownForGoodIfTheyWereKept) {
     EXPECT_TRUE(blanksTexts(school.Command5, installation.path()).happens);
     EXPECT_FALSE(blanksTexts(school.Command6, installation.path()).happens);
     const Text before = termOf(installation.path());
-    ASSERT_EQ(keepState(installation.path(), u"Fertig"), 0);
+    ASSERT_EQ(keepState(installation.path(), installation.path(), u"Fertig"), 0);
+    const TestInstallation next;
+    Text nextTerm = installation.read(u"Daten/Basisdaten.txt");
+    nextTerm.replace(nextTerm.find(u"/") + 4, 1, u"9");
+    next.write(u"Daten/Basisdaten.txt", nextTerm);
+    ASSERT_EQ(keepState(installation.path(), next.path(), before), 0);
+    EXPECT_EQ(LastTerm(next.path()).of(tom).size(), 1U) << "in the folder of the next half-year";
     machine.dialogs.answers = {Antwort::Ja};
     click(school.Command3);
     EXPECT_FALSE(LastTerm(installation.path()).isKnown()) << "the half-year is still the same";
