@@ -171,7 +171,7 @@ TEST_F(FormerStatesTest, TheLastHalfYearsTextsAreKnownForGoodIfTheyWereKept) {
     ASSERT_EQ(keepState(installation.path(), installation.path(), u"Fertig"), 0);
     const TestInstallation next;
     Text nextTerm = installation.read(u"Daten/Basisdaten.txt");
-    nextTerm.replace(nextTerm.find(u"/") + 4, 1, u"9");
+    nextTerm.replace(nextTerm.find(u'/') + 4, 1, u"9");
     next.write(u"Daten/Basisdaten.txt", nextTerm);
     ASSERT_EQ(keepState(installation.path(), next.path(), before), 0);
     EXPECT_EQ(LastTerm(next.path()).of(tom).size(), 1U) << "in the folder of the next half-year";
