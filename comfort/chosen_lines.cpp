@@ -4,6 +4,8 @@
 #include "years12/entry_screen.h"
 #include "years34/entry_screen.h"
 
+#include <algorithm>
+
 namespace zeugnis {
 namespace {
 
@@ -50,14 +52,33 @@ std::vector<Text> gewaehlte(const Kompetenzen& screen) {
     return zeilen;
 }
 
+// A choice may be numbered still although its part of the text is gone. The dots tell nothing: all
+// options of a page put each other out.
 std::vector<Text> gewaehlte(const GSAGFI& screen) {
+    const GSAGFI::Arbeitsstand& stand = screen.Staende[screen.AktuellerSchueler];
+    struct Wahl {
+        const ControlArray<OptionButton>& Optionen;
+        int Nummer;
+        const Text& Teil;
+    };
+    const Wahl wahlen[] = {{screen.Option6, stand.AGWahl, stand.AGSatz},
+                           {screen.Option1, stand.InteressenWahl, stand.InteressenSatz},
+                           {screen.Option2, stand.LernWahl, screen.LernTeil1},
+                           {screen.Option3, stand.UrteilWahl, screen.LernTeil2},
+                           {screen.Option4, stand.VersetzungWahl, stand.VersetzungsSatz}};
+    const auto zaehlt = [&](const OptionButton& option) {
+        return std::any_of(std::begin(wahlen), std::end(wahlen), [&](const Wahl& wahl) {
+            return !wahl.Teil.empty() && option.name() == wahl.Optionen(0).name() &&
+                   option.index() == wahl.Nummer - 1;
+        });
+    };
     std::vector<Text> zeilen;
     for (const Control* control : screen.controls()) {
+        if (control->container() != screen.Rahmen.at(static_cast<size_t>(screen.Seite)))
+            continue;
         const auto* option = dynamic_cast<const OptionButton*>(control);
         const auto* kasten = dynamic_cast<const CheckBox*>(control);
-        const bool istAn =
-            option != nullptr ? option->value() : kasten != nullptr && kasten->value();
-        if (istAn && control->container() == screen.Rahmen.at(static_cast<size_t>(screen.Seite)))
+        if (option != nullptr ? zaehlt(*option) : kasten != nullptr && kasten->value())
             zeilen.push_back(control->fullName());
     }
     return zeilen;

@@ -66,6 +66,13 @@ void TintedButton::setBadge(const QString& badge) {
     update();
 }
 
+void TintedButton::setFormerBadge(const QString& badge) {
+    if (m_formerBadge == badge)
+        return;
+    m_formerBadge = badge;
+    update();
+}
+
 void TintedButton::setContent(Content content) {
     if (m_content == content)
         return;
@@ -140,14 +147,19 @@ bool TintedButton::event(QEvent* event) {
 }
 
 void TintedButton::paintBadge(QPainter& painter) const {
+    const bool counts = !m_badge.value_or(QString()).isEmpty();
+    if (!counts && m_formerBadge.isEmpty())
+        return;
     painter.save();
-    painter.setFont(theme::scaledFont(0.82, QFont::Bold));
+    painter.setFont(theme::scaledFont(0.82, counts ? QFont::Bold : QFont::Normal));
     const int size = painter.fontMetrics().height() + 1;
     const QRect place(width() - size - 6, (height() - size) / 2, size, size);
-    painter.setPen(QPen(theme::colours().Ink, 1.2));
-    painter.setBrush(theme::colours().Surface);
-    painter.drawEllipse(place);
-    painter.drawText(place, Qt::AlignCenter, *m_badge);
+    painter.setPen(QPen(counts ? theme::colours().Ink : theme::colours().InkResting, 1.2));
+    if (counts) {
+        painter.setBrush(theme::colours().Surface);
+        painter.drawEllipse(place);
+    }
+    painter.drawText(place, Qt::AlignCenter, counts ? *m_badge : m_formerBadge);
     painter.restore();
 }
 
@@ -182,8 +194,7 @@ void TintedButton::paintEvent(QPaintEvent*) {
                                                       : QBrush(theme::colours().Surface));
         painter.drawEllipse(QRectF(width() - 14, height() - 14, 8, 8));
     }
-    if (m_badge && !m_badge->isEmpty())
-        paintBadge(painter);
+    paintBadge(painter);
     painter.setPen(ink);
     painter.drawText(m_role == Role::Round ? rect() : textArea(rect()), textFlags(), text());
 }

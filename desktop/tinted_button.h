@@ -24,6 +24,8 @@ class TintedButton : public QPushButton {
     [[nodiscard]] std::optional<bool> marked() const { return m_marked; }
     /// A few characters that say what the colour says, in a corner.
     void setBadge(const QString& badge);
+    /// One that does not count now; shown faintly where there is no other.
+    void setFormerBadge(const QString& badge);
     /// A small sign that tells whether what the button leads to holds anything.
     enum class Content { Unknown, Empty, Filled };
     void setContent(Content content);
@@ -54,6 +56,7 @@ class TintedButton : public QPushButton {
     QColor m_tint;
     std::optional<bool> m_marked;
     std::optional<QString> m_badge;
+    QString m_formerBadge;
     Content m_content = Content::Unknown;
 };
 

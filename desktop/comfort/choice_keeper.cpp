@@ -5,7 +5,9 @@
 #include "desktop/screen_window.h"
 #include "desktop/spoken.h"
 #include "desktop/theme.h"
+#include "desktop/tinted_button.h"
 #include "desktop/window_host.h"
+#include "toolkit/qt_text.h"
 
 #include <QPushButton>
 #include <QShortcut>
@@ -13,6 +15,17 @@
 #include <algorithm>
 
 namespace zeugnis {
+namespace {
+
+// The number of the line behind a category's button in "Command3(1) Option1(4)".
+QString lineOf(const std::vector<Text>& lines, const Text& category) {
+    for (const Text& line : lines)
+        if (line.starts_with(category + u" "))
+            return qString(line.substr(line.rfind(u'(') + 1)).chopped(1);
+    return {};
+}
+
+} // namespace
 
 ChoiceKeeper::ChoiceKeeper(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry)
     : QObject(&window),
@@ -47,6 +60,9 @@ void ChoiceKeeper::follow() {
     const Text prefix =
         category < 0 ? Text()
                      : m_entry.Kategorien.at(static_cast<size_t>(category))->fullName() + u" ";
+    for (const Button* button : m_entry.Kategorien)
+        if (auto* widget = qobject_cast<TintedButton*>(m_window.widgetOf(*button)))
+            widget->setFormerBadge(lineOf(former, button->fullName()));
     for (const Control* control : m_entry.Bildschirm->controls())
         if (auto* row = qobject_cast<ChoiceRow*>(m_window.widgetOf(*control)))
             row->setFormer(std::find(former.begin(), former.end(), prefix + control->fullName()) !=

@@ -113,10 +113,11 @@ void ReportPane::shut() {
 
 bool ReportPane::dock() {
     const double font = fontMetrics().height() / 20.0;
+    const int least = qRound(LeastWidth * font);
     const int width = m_window.width() - m_row.spacing();
     const int besideRail = width - qRound(LeastInputWithRail * font);
     const int alone = width - qRound(LeastInput * font);
-    if (alone < LeastWidth)
+    if (alone < least)
         return false;
     if (isWindow()) {
         setParent(&m_window, Qt::Widget);
@@ -124,8 +125,8 @@ bool ReportPane::dock() {
         m_window.activateWindow();
     }
     m_ownKey->setEnabled(false);
-    m_rail.giveWay(besideRail < LeastWidth);
-    setFixedWidth(std::min(MostWidth, besideRail < LeastWidth ? alone : besideRail));
+    m_rail.giveWay(besideRail < least);
+    setFixedWidth(std::min(qRound(MostWidth * font), besideRail < least ? alone : besideRail));
     show();
     return true;
 }
@@ -205,7 +206,8 @@ void ReportPane::layOut() {
             layOutTexts();
         m_view->setOpenPage(m_shown.page);
     } catch (const std::exception& failure) {
-        m_view->show(nullptr, qString(sentenceOf(failure)));
+        m_view->show(nullptr, tr("Das Zeugnis lässt sich gerade nicht zeigen.") +
+                                  QStringLiteral("\n\n") + qString(sentenceOf(failure)));
         m_fit->clear();
         m_sheet.reset();
         m_isStale = true;

@@ -98,6 +98,31 @@ TEST(ChoiceMemory, KeepsWhatTheStoreDropsForTheNextRunAsLongAsTheTextIsTheSame) 
     }
 }
 
+TEST(ChoiceMemory, RepeatsAPageWhoseOptionsPutEachOtherOut) {
+    const TemporaryFolder folder;
+    std::filesystem::copy(std::filesystem::path(ZEUGNIS_SOURCE_FOLDER) / "install", folder.path(),
+                          std::filesystem::copy_options::recursive);
+    TestProgramm running(folder);
+    auto& screen = running.open<GSAGFI>(bildschirme::GSAGFI);
+    Auswahlgedaechtnis memory(*EingabeschirmAus(screen));
+    const auto press = [&](Control& control) {
+        EXPECT_TRUE(user::click(control)) << utf8FromText(control.fullName());
+        memory.ansehen();
+    };
+    user::pick(screen.Combo1, 1);
+    user::click(screen.Command2(2));
+    for (Control* control :
+         std::initializer_list<Control*>{&screen.Check2(1), &screen.Option2(0), &screen.Check5(0),
+                                         &screen.Check5(2), &screen.Option3(0), &screen.Option4(0)})
+        press(*control);
+    const Text whole = screen.Text3.text();
+    press(screen.Command1(2));
+    EXPECT_EQ(screen.Text3.text(), u"");
+    EXPECT_EQ(memory.Fruehere().size(), 6U);
+    ASSERT_TRUE(memory.Wiederholen());
+    EXPECT_EQ(screen.Text3.text(), whole);
+}
+
 TEST(ChoiceMemory, FollowsAnUndoneReset) {
     const TestInstallation installation;
     TestProgramm program(installation);
