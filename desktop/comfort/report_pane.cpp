@@ -26,6 +26,7 @@ namespace {
 constexpr int LeastWidth = 380;
 constexpr int MostWidth = 760;
 constexpr QSize OwnWindow(560, 760);
+constexpr double MostOfDisplay = 0.45; // of its width
 // What the rest of the window cannot do without, with the usual font.
 constexpr int LeastInput = 1010;
 constexpr int LeastInputWithRail = 1200;
@@ -43,7 +44,7 @@ ReportPane::ReportPane(ScreenWindow& window, WindowHost& host, const Eingabeschi
       m_fit(new QLabel(this)),
       m_view(new ReportView(this)),
       m_opener(new QPushButton(tr("Ganzes Zeugnis (F9)"), &window)),
-      m_ownKey(new QShortcut(Qt::Key_F9, this)) {
+      m_ownKeys(new QShortcut(this)) {
     setObjectName(QStringLiteral("reportPane"));
     setWindowTitle(tr("Ganzes Zeugnis"));
     auto* column = new QVBoxLayout(this);
@@ -60,13 +61,15 @@ ReportPane::ReportPane(ScreenWindow& window, WindowHost& host, const Eingabeschi
     m_opener->setToolTip(tr("Zeigt, wie das Zeugnis dieses Kindes gedruckt aussieht"));
     connect(m_opener, &QPushButton::clicked, this, &ReportPane::toggle);
     connect(new QShortcut(Qt::Key_F9, &window), &QShortcut::activated, this, &ReportPane::toggle);
-    m_ownKey->setEnabled(false);
-    connect(m_ownKey, &QShortcut::activated, this, &ReportPane::shut);
+    m_ownKeys->setKeys({Qt::Key_F9, Qt::Key_Escape});
+    m_ownKeys->setEnabled(false);
+    connect(m_ownKeys, &QShortcut::activated, this, &ReportPane::shut);
     connect(m_view, &ReportView::pageChosen, this, &ReportPane::lookUp);
     m_timer.setSingleShot(true);
     m_timer.setInterval(Pause);
     connect(&m_timer, &QTimer::timeout, this, &ReportPane::layOut);
     window.installEventFilter(this);
+    installEventFilter(this);
     window.follow([this] { follow(); });
 }
 
@@ -124,7 +127,7 @@ bool ReportPane::dock() {
         m_row.addWidget(this);
         m_window.activateWindow();
     }
-    m_ownKey->setEnabled(false);
+    m_ownKeys->setEnabled(false);
     m_rail.giveWay(besideRail < least);
     setFixedWidth(std::min(qRound(MostWidth * font), besideRail < least ? alone : besideRail));
     show();
@@ -145,10 +148,11 @@ void ReportPane::floatFree() {
         setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     }
-    m_ownKey->setEnabled(true);
+    m_ownKeys->setEnabled(true);
     // At the right edge of the display, where it covers least.
     const QRect room = windowplace::room(m_window);
-    QRect place(QPoint(), OwnWindow.boundedTo(room.size()));
+    const QSize most(qRound(room.width() * MostOfDisplay), room.height());
+    QRect place(QPoint(), windowplace::atFont(OwnWindow).boundedTo(most));
     place.moveTopRight(room.topRight());
     setGeometry(place);
     show();
@@ -165,7 +169,8 @@ void ReportPane::showEvent(QShowEvent* event) {
 }
 
 bool ReportPane::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize && m_host.reportBeside && !(dock() || isWindow()))
+    if (watched == &m_window && event->type() == QEvent::Resize && m_host.reportBeside &&
+        !(dock() || isWindow()))
         fold();
     // Another program may have written meanwhile.
     if (event->type() == QEvent::WindowActivate)

@@ -78,7 +78,7 @@ class ReportPane : public QWidget {
     QLabel* m_fit;
     ReportView* m_view;
     QPushButton* m_opener;
-    QShortcut* m_ownKey;
+    QShortcut* m_ownKeys; ///< while it is a window
     QTimer m_timer;
     std::unique_ptr<dokumente::Zeugnisblatt> m_sheet; ///< null if the files cannot be read
     bool m_isStale = true;                            ///< the files are to be read again
