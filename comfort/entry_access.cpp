@@ -100,6 +100,7 @@ const Text& Eingabeschirm::TextVon(int seite, int kind) const {
 
 std::vector<Text> Eingabeschirm::TexteVon(int kind) const {
     std::vector<Text> texte;
+    texte.reserve(Seiten.size());
     for (int seite = 0; seite < static_cast<int>(Seiten.size()); ++seite)
         texte.push_back(TextVon(seite, kind));
     return texte;
