@@ -29,6 +29,8 @@ QHBoxLayout* putAtTheLeft(QWidget& rail, QWidget& window) {
     row->setContentsMargins(margins);
     row->setSpacing(margins.left());
     row->addWidget(&rail);
+    // What stands beside it may take all that it does not need.
+    rest->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     row->addWidget(rest, 1);
     // A widget that moves to another parent loses the keyboard.
     if (first != nullptr)

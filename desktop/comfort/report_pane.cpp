@@ -30,6 +30,7 @@ constexpr double MostOfDisplay = 0.45; // of its width
 // What the rest of the window cannot do without, with the usual font.
 constexpr int LeastInput = 1010;
 constexpr int LeastInputWithRail = 1200;
+constexpr int TakesAll = 1000; // of the row, up to its greatest width
 
 } // namespace
 
@@ -52,7 +53,9 @@ ReportPane::ReportPane(ScreenWindow& window, WindowHost& host, const Eingabeschi
     column->setSpacing(4);
     column->addWidget(head());
     column->addWidget(m_view, 1);
-    m_row.addWidget(this);
+    // So that it does not keep the window from getting so narrow that it folds.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+    m_row.addWidget(this, TakesAll);
     hide();
 
     m_opener->setObjectName(QStringLiteral("link"));
@@ -124,12 +127,12 @@ bool ReportPane::dock() {
         return false;
     if (isWindow()) {
         setParent(&m_window, Qt::Widget);
-        m_row.addWidget(this);
+        m_row.addWidget(this, TakesAll);
         m_window.activateWindow();
     }
     m_ownKeys->setEnabled(false);
     m_rail.giveWay(besideRail < least);
-    setFixedWidth(std::min(qRound(MostWidth * font), besideRail < least ? alone : besideRail));
+    setMaximumWidth(std::min(qRound(MostWidth * font), besideRail < least ? alone : besideRail));
     show();
     return true;
 }
@@ -145,7 +148,6 @@ void ReportPane::floatFree() {
     if (!isWindow()) {
         m_row.removeWidget(this);
         setParent(&m_window, Qt::Window);
-        setMinimumSize(0, 0);
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     }
     m_ownKeys->setEnabled(true);

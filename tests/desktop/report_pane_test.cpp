@@ -64,7 +64,9 @@ TEST_F(ReportPaneTest, ShowsEachChangeAndLeadsToTheSectionThatIsPressed) {
 
 TEST_F(ReportPaneTest, FoldsWhereThereIsNoRoomAndThenOpensByItself) {
     pressF9();
+    EXPECT_GT(pane().width(), 400);
     resize(1100);
+    EXPECT_EQ(open.window().width(), 1100) << "the pane did not hold it";
     EXPECT_FALSE(pane().isVisible());
     resize(1500);
     EXPECT_TRUE(pane().isVisible());
