@@ -105,7 +105,7 @@ class Choice : public Pressed {
         return state;
     }
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
-        const QString told = Pressed::text(kind);
+        QString told = Pressed::text(kind);
         if (kind != QAccessible::Description || !row().isFormer())
             return told;
         return told.isEmpty() ? tr("war gewählt") : told + QStringLiteral(", ") + tr("war gewählt");
