@@ -102,6 +102,7 @@ void AboutWindow::choose() {
         tr("%1/Diagnose %2.txt").arg(documents, QDate::currentDate().toString(Qt::ISODate));
     const QString file = QFileDialog::getSaveFileName(this, tr("Diagnose speichern"), name,
                                                       tr("Textdateien (*.txt)"));
+    activateWindow();
     if (!file.isEmpty())
         saveTo(file);
 }

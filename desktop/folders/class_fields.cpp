@@ -39,7 +39,7 @@ ClassFields::ClassFields(QWidget* parent)
     m_year->setPlaceholderText(tr("zum Beispiel 2026/2027"));
 }
 
-void ClassFields::show(const Klassenangaben& whose) {
+void ClassFields::fill(const Klassenangaben& whose) {
     m_class->setText(qString(whose.Klasse));
     m_year->setText(qString(whose.Schule.Schuljahr));
     (IstZahl(whose.Schule.Halbjahr, 1) ? m_first : m_second)->setChecked(true);
@@ -90,8 +90,7 @@ QString FolderField::obstacle() const {
 
 // A folder that is chosen holds the new one, unless it is empty.
 void FolderField::choose() {
-    const QString chosen = QFileDialog::getExistingDirectory(this, tr("In diesen Ordner"),
-                                                             qPath(folder().parent_path()));
+    const QString chosen = askForFolder(*this, tr("In diesen Ordner"), folder().parent_path());
     if (chosen.isEmpty())
         return;
     const fs::path name = folder().filename();
@@ -132,6 +131,12 @@ QFormLayout* newForm(QWidget* page) {
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     form->setVerticalSpacing(8);
     return form;
+}
+
+QString askForFolder(QWidget& owner, const QString& title, const fs::path& start) {
+    const QString chosen = QFileDialog::getExistingDirectory(&owner, title, qPath(start));
+    owner.window()->activateWindow();
+    return chosen;
 }
 
 void keepWhole(QLineEdit& line) {

@@ -20,7 +20,7 @@ class ClassFields : public QWidget {
   public:
     explicit ClassFields(QWidget* parent);
 
-    void show(const Klassenangaben& whose);
+    void fill(const Klassenangaben& whose);
     /// Puts in what the fields say, and leaves the rest alone.
     void read(Klassenangaben& whose) const;
 
@@ -67,6 +67,10 @@ Klassenangaben likelyClass();
 
 /// A form whose labels stand above their fields where the window is narrow.
 QFormLayout* newForm(QWidget* page);
+
+/// Asks for a folder that is there; empty if none is chosen. Afterwards the keyboard is back where
+/// it was, also where there are several windows.
+QString askForFolder(QWidget& owner, const QString& title, const std::filesystem::path& start = {});
 
 /// Keeps the height that large type needs, which rows of a form forget.
 void keepWhole(QLineEdit& line);

@@ -110,6 +110,11 @@ void ClassMenu::showNewModules() {
     countNewModules();
 }
 
-void ClassMenu::about() { AboutWindow(m_folder, m_host.dialogParent()).exec(); }
+void ClassMenu::about() {
+    QWidget* owner = m_host.dialogParent();
+    AboutWindow(m_folder, owner).exec();
+    if (owner != nullptr)
+        owner->activateWindow();
+}
 
 } // namespace zeugnis

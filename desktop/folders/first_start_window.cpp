@@ -14,7 +14,6 @@
 #include "toolkit/window_place.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -119,7 +118,10 @@ QBoxLayout* FirstStartWindow::lastRow() {
     auto* row = new QHBoxLayout;
     auto* about = new QPushButton(tr("Ü&ber das Programm …"), this);
     about->setAutoDefault(false);
-    connect(about, &QPushButton::clicked, this, [this] { AboutWindow({}, this).exec(); });
+    connect(about, &QPushButton::clicked, this, [this] {
+        AboutWindow({}, this).exec();
+        activateWindow();
+    });
     row->addWidget(about);
     row->addStretch();
     auto* end = new QPushButton(tr("B&eenden"), this);
@@ -155,20 +157,21 @@ void FirstStartWindow::showRecent() {
 
 void FirstStartWindow::openChosen() {
     if (const QListWidgetItem* item = m_recent->currentItem())
-        open(pathFromText(fromQString(item->data(FolderRole).toString())));
+        openClass(pathFromText(fromQString(item->data(FolderRole).toString())));
 }
 
 void FirstStartWindow::chooseFolder() {
-    const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("Ordner einer Klasse"), qPath(classesFolder()));
+    const QString folder = askForFolder(*this, tr("Ordner einer Klasse"), classesFolder());
     if (!folder.isEmpty())
-        open(pathFromText(fromQString(folder)));
+        openClass(pathFromText(fromQString(folder)));
 }
 
 void FirstStartWindow::newClass() {
     NewClassWindow window(*m_delivered, this);
-    if (window.exec() == QDialog::Accepted)
-        open(window.folder());
+    const bool done = window.exec() == QDialog::Accepted;
+    activateWindow();
+    if (done)
+        openClass(window.folder());
 }
 
 void FirstStartWindow::openSample() {
@@ -180,17 +183,19 @@ void FirstStartWindow::openSample() {
         if (!obstacle.empty())
             return tell(qString(obstacle));
     }
-    open(folder);
+    openClass(folder);
 }
 
 void FirstStartWindow::takeAlong() {
     TakeAlongWindow window(this);
-    if (window.exec() == QDialog::Accepted)
-        open(window.folder());
+    const bool done = window.exec() == QDialog::Accepted;
+    activateWindow();
+    if (done)
+        openClass(window.folder());
 }
 
 // A folder above the files of a class, and a file in it, is meant as the class.
-void FirstStartWindow::open(const fs::path& folder) {
+void FirstStartWindow::openClass(const fs::path& folder) {
     const std::optional<fs::path> found = KlassenordnerZu(folder);
     if (!found)
         return tell(tr("In „%1“ liegt keine Klasse: Der Ordner „Daten“ mit der Klassenliste fehlt. "

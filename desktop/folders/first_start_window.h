@@ -36,7 +36,7 @@ class FirstStartWindow : public QDialog {
     void newClass();
     void openSample();
     void takeAlong();
-    void open(const std::filesystem::path& folder);
+    void openClass(const std::filesystem::path& folder);
     void tell(const QString& sentence);
 
     std::optional<std::filesystem::path> m_delivered;

@@ -58,7 +58,7 @@ MovingUpWindow::MovingUpWindow(std::filesystem::path folder, std::filesystem::pa
     column->addLayout(row);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(make, &QPushButton::clicked, this, &MovingUpWindow::make);
-    m_class->show(m_whose);
+    m_class->fill(m_whose);
     connect(m_class, &ClassFields::changed, this, &MovingUpWindow::suggest);
     suggest();
     m_class->setFocus();

@@ -101,7 +101,7 @@ NewClassWindow::Step NewClassWindow::school() {
 
 NewClassWindow::Step NewClassWindow::schoolClass() {
     m_class = new ClassFields(this);
-    m_class->show(likelyClass());
+    m_class->fill(likelyClass());
     return {.title = tr("Klasse und Halbjahr"),
             .sentence = tr("Die erste Ziffer der Klasse ist der Schuljahrgang. In Klasse 1 gibt es "
                            "nur am Ende des 2. Halbjahrs ein Zeugnis."),
@@ -112,7 +112,7 @@ NewClassWindow::Step NewClassWindow::schoolClass() {
                     const Klassenangaben now = whose();
                     return qString(HindernisFuer(now.Klasse, now.Schule));
                 },
-            .clear = [this] { m_class->show(likelyClass()); }};
+            .clear = [this] { m_class->fill(likelyClass()); }};
 }
 
 NewClassWindow::Step NewClassWindow::teacher() {
@@ -190,7 +190,9 @@ NewClassWindow::Step NewClassWindow::children() {
 
 void NewClassWindow::readList() {
     ClassListWindow window(0, this);
-    if (window.exec() != QDialog::Accepted)
+    const bool read = window.exec() == QDialog::Accepted;
+    activateWindow();
+    if (!read)
         return;
     m_list = window.children();
     m_listTold->setText(tr("%1 Kinder sind eingelesen.").arg(m_list.size()));

@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -69,8 +68,7 @@ TakeAlongWindow::TakeAlongWindow(QWidget* owner)
 std::filesystem::path TakeAlongWindow::folder() const { return m_to->folder(); }
 
 void TakeAlongWindow::choose() {
-    const QString chosen =
-        QFileDialog::getExistingDirectory(this, tr("Ordner der Klasse auf dem Stick"));
+    const QString chosen = askForFolder(*this, tr("Ordner der Klasse auf dem Stick"));
     if (!chosen.isEmpty())
         setSource(pathFromText(fromQString(chosen)));
 }
