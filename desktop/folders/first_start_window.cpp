@@ -6,6 +6,7 @@
 #include "desktop/folders/new_class_window.h"
 #include "desktop/folders/recent_classes.h"
 #include "desktop/folders/take_along_window.h"
+#include "desktop/rescue/choice_box.h"
 #include "desktop/theme.h"
 #include "desktop/tinted_button.h"
 #include "folders/class_folder.h"
@@ -156,8 +157,22 @@ void FirstStartWindow::showRecent() {
 }
 
 void FirstStartWindow::openChosen() {
-    if (const QListWidgetItem* item = m_recent->currentItem())
-        openClass(pathFromText(fromQString(item->data(FolderRole).toString())));
+    const QListWidgetItem* item = m_recent->currentItem();
+    if (item == nullptr)
+        return;
+    const fs::path folder = pathFromText(fromQString(item->data(FolderRole).toString()));
+    if (IstKlassenordner(folder))
+        return openClass(folder);
+    if (askChoice(
+            this,
+            tr("Diese Klasse ist zurzeit nicht erreichbar:\n\n%1\n\nLiegt sie auf einem Stick "
+               "oder einem Netzlaufwerk, verbinden Sie es und versuchen Sie es noch einmal. "
+               "Haben Sie den Ordner verschoben, öffnen Sie ihn mit „Anderen Ordner wählen“.")
+                .arg(qPath(folder)),
+            {tr("Aus der &Liste nehmen"), tr("&Zurück")}, 1) != 0)
+        return;
+    recentclasses::forget(folder);
+    showRecent();
 }
 
 void FirstStartWindow::chooseFolder() {

@@ -136,7 +136,7 @@ TEST_F(ClassFolders, WhatCannotBeOpenedIsToldAndTheWindowStays) {
     safety::FolderLock other(place(u"offen"), {u"Rechner", u"kollegin", safety::now(), 1});
     ASSERT_EQ(other.take().outcome, safety::FolderLock::Outcome::Ours);
     const std::tuple<TextView, QString, QString> cases[] = {
-        {u"leer", QStringLiteral("OK"), QStringLiteral("liegt keine Klasse")},
+        {u"leer", QStringLiteral("Aus der Liste"), QStringLiteral("nicht erreichbar")},
         {u"offen", QStringLiteral("Zurück"), QStringLiteral("kollegin")},
         {u"geschützt", QStringLiteral("Zurück"), QStringLiteral("nichts schreiben")}};
     for (const auto& [folder, button, sentence] : cases) {
@@ -147,6 +147,7 @@ TEST_F(ClassFolders, WhatCannotBeOpenedIsToldAndTheWindowStays) {
         EXPECT_EQ(window.result(), QDialog::Rejected);
         EXPECT_TRUE(told.contains(sentence)) << told.toStdString();
     }
+    EXPECT_EQ(recentclasses::list(), (std::vector<fs::path>{place(u"geschützt"), place(u"offen")}));
 }
 
 TEST_F(ClassFolders, AClassOnAStickIsCopiedWithoutTheLockOfWhoHasItOpen) {
