@@ -134,7 +134,7 @@ QFormLayout* newForm(QWidget* page) {
 }
 
 QString askForFolder(QWidget& owner, const QString& title, const fs::path& start) {
-    const QString chosen = QFileDialog::getExistingDirectory(&owner, title, qPath(start));
+    QString chosen = QFileDialog::getExistingDirectory(&owner, title, qPath(start));
     owner.window()->activateWindow();
     return chosen;
 }
