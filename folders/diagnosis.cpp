@@ -139,7 +139,7 @@ void schaedenNennen(const fs::path& ordner, std::vector<Text>& zeilen) {
                          (befund.good ? u"; ein guter Stand ist da" : u""));
     }
     if (befunde.empty())
-        zeilen.push_back(u"  keine");
+        zeilen.emplace_back(u"  keine");
 }
 
 } // namespace
@@ -182,13 +182,13 @@ Text Diagnose(const fs::path& ordner, std::span<const std::pair<Text, Text>> sys
                              u"Namen und Texte von Kindern stehen hier nicht.", u"",
                              u"Version: " + Text(Programmversion())};
     for (const auto& [was, wert] : system)
-        zeilen.push_back(was + u": " + wert);
+        zeilen.emplace_back(was).append(u": ").append(wert);
     if (const auto angaben = KlassenangabenLesen(ordner))
         zeilen.push_back(u"Klasse: Jahrgang " + angaben->Klasse.substr(0, 1) + u", Halbjahr " +
                          angaben->Schule.Halbjahr.substr(0, 1) + u", Kinder: " +
                          textFromNumber(angaben->Kinder));
     else
-        zeilen.push_back(u"Klasse: nicht lesbar");
+        zeilen.emplace_back(u"Klasse: nicht lesbar");
     const safety::States staende(ordner);
     zeilen.push_back(u"Frühere Stände: " + dieZahl(staende.list().size()) + u" mit " +
                      dieZahl(staende.size()) + u" Bytes");
@@ -201,10 +201,10 @@ Text Diagnose(const fs::path& ordner, std::span<const std::pair<Text, Text>> sys
     for (const Text& einer : fehler)
         zeilen.push_back(u"  " + einer);
     if (fehler.empty())
-        zeilen.push_back(u"  keine");
+        zeilen.emplace_back(u"  keine");
     Text alles;
     for (const Text& zeile : zeilen)
-        alles += zeile + u"\r\n";
+        alles.append(zeile).append(u"\r\n");
     return alles;
 }
 
