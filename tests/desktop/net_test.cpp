@@ -170,11 +170,15 @@ TEST_F(NetTest, AFullClassGrowsOnlyIfThatIsSaidTwice) {
     for (int i = 1; i <= SchuelerHoechstens; ++i)
         names += textFromNumber(i) + u",\"3a\",\"Ahlers\",\"Tom\",\"m\",\"01.02.2018\",\"\",\"\"," +
                  u"\"\",\"\",\"Ort\"\r\n";
-    installation.write(u"Daten/Namen.Txt", names);
+    namespace fs = std::filesystem;
+    fs::copy(fs::path(ZEUGNIS_SOURCE_FOLDER) / "install", installation.path(),
+             fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     Running running(installation);
+    installation.write(u"Daten/Namen.Txt", names);
     running.show(bildschirme::GsBasis);
     auto& screen = running.screen<GsBasis>(bildschirme::GsBasis);
-    running.press(screen.Command5);
+    answer({QStringLiteral("Ja")});
+    running.host.run([&] { user::click(screen.Command5); });
     answer({QStringLiteral("Nicht")});
     running.press(screen.Command4(2));
     answer({QStringLiteral("Trotzdem"), QStringLiteral("Nicht")});
