@@ -51,7 +51,7 @@ void ClassMenu::open(QWidget& button) {
     up->setEnabled(m_delivered.has_value());
     modules->setEnabled(m_newModules > 0);
     menu.addSeparator();
-    menu.addAction(tr("Ü&ber das Programm …"), this, &ClassMenu::about);
+    menu.addAction(tr("Über das &Programm …"), this, &ClassMenu::about);
     menu.exec(button.mapToGlobal(QPoint(0, -menu.sizeHint().height())));
 }
 

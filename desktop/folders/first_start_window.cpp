@@ -117,7 +117,7 @@ QBoxLayout* FirstStartWindow::otherWays() {
 
 QBoxLayout* FirstStartWindow::lastRow() {
     auto* row = new QHBoxLayout;
-    auto* about = new QPushButton(tr("Ü&ber das Programm …"), this);
+    auto* about = new QPushButton(tr("Über das &Programm …"), this);
     about->setAutoDefault(false);
     connect(about, &QPushButton::clicked, this, [this] {
         AboutWindow({}, this).exec();

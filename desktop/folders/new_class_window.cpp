@@ -84,7 +84,7 @@ QWidget* NewClassWindow::line(QWidget* page, const QString& label, QLineEdit*& f
 NewClassWindow::Step NewClassWindow::school() {
     auto* page = new QWidget(this);
     line(page, tr("&Name der Schule:"), m_schoolName, tr("zum Beispiel Astrid-Lindgren-Schule"));
-    line(page, tr("&Zusatz:"), m_schoolLine, tr("zum Beispiel Grundschule"));
+    line(page, tr("Zusa&tz:"), m_schoolLine, tr("zum Beispiel Grundschule"));
     line(page, tr("An&schrift:"), m_address);
     line(page, tr("&Ort der Ausgabe:"), m_town);
     return {.title = tr("Ihre Schule"),
@@ -118,7 +118,7 @@ NewClassWindow::Step NewClassWindow::schoolClass() {
 NewClassWindow::Step NewClassWindow::teacher() {
     auto* page = new QWidget(this);
     line(page, tr("&Klassenleitung:"), m_teacher, tr("Vor- und Nachname"));
-    line(page, tr("Zeugnis&konferenz am:"), m_conference, tr("TT.MM.JJJJ"));
+    line(page, tr("Zeugniskonf&erenz am:"), m_conference, tr("TT.MM.JJJJ"));
     line(page, tr("A&usgabe am:"), m_issued, tr("TT.MM.JJJJ"));
     return {.title = tr("Lehrkraft und Termine"),
             .sentence = tr("Was Sie noch nicht wissen, lassen Sie frei."),

@@ -111,6 +111,29 @@ TEST_F(ClassFolders, ANewClassLeadsFromTheSchoolToTheFirstChild) {
     EXPECT_EQ(school.find(u"wird"), Text::npos);
 }
 
+TEST_F(ClassFolders, EachKeyLeadsToOnePlace) {
+    const auto check = [](const QWidget& window) {
+        QStringList keys;
+        for (const auto* button : window.findChildren<QAbstractButton*>())
+            if (button->isVisibleTo(&window))
+                keys << button->shortcut().toString();
+        for (const auto* label : window.findChildren<QLabel*>())
+            if (label->isVisibleTo(&window) && label->buddy() != nullptr)
+                keys << QKeySequence::mnemonic(label->text()).toString();
+        keys.removeAll(QString());
+        EXPECT_EQ(keys.removeDuplicates(), 0) << said(window).toStdString();
+    };
+    check(FirstStartWindow(Vorlage, {}));
+    check(TakeAlongWindow(nullptr));
+    check(MovingUpWindow(Vorlage, Vorlage, nullptr));
+    NewClassWindow steps(Vorlage, nullptr);
+    for (int step = 0; step < 5; ++step) {
+        check(steps);
+        if (step < 4)
+            press(steps, QStringLiteral("Weiter"));
+    }
+}
+
 TEST_F(ClassFolders, AClassWithoutAnyEntryCanBeOpened) {
     FirstStartWindow first(Vorlage, {});
     QTimer::singleShot(0, [&] {
