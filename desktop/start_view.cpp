@@ -99,7 +99,6 @@ QBoxLayout* StartView::mainArea() {
     layout->addLayout(head);
 
     layout->addWidget(works(), 1);
-    layout->addWidget(newModules(), 0, Qt::AlignLeft);
     auto* last = new QHBoxLayout;
     last->addWidget(bind().button(m_start.Command2, u'W', Role::Quiet));
     last->addWidget(bind().button(m_start.Command3, u'k', Role::Normal));
@@ -128,7 +127,7 @@ QWidget* StartView::formerStates() {
 // Neither: it belongs to the folder of the class.
 QWidget* StartView::classMenu() {
     auto* button = new TintedButton(TintedButton::Role::Quiet, this);
-    button->setText(tr("Klasse u&nd Programm …"));
+    button->setText(tr("Klasse u&nd Programm\u00a0…"));
     button->setToolTip(tr("Andere Klasse, neues Schuljahr, neue Bausteine, Version und Diagnose"));
     connect(button, &QAbstractButton::clicked, this,
             [this, button] { host().beside.openClassMenu(*button); });
@@ -168,6 +167,7 @@ QWidget* StartView::works() {
     column->addWidget(bind().button(m_start.Command7, u'L', Role::Main));
     column->addSpacing(3);
     column->addWidget(new ClassSummaryLine(m_start, *this, host()));
+    column->addWidget(newModules(), 0, Qt::AlignLeft);
     column->addStretch();
     area->add(*column);
     return area;
