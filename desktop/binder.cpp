@@ -107,18 +107,20 @@ void Binder::add(Control& control, QWidget& widget, std::function<void()> refres
     m_widgets[&control] = &widget;
     m_controls[&widget] = &control;
     widget.installEventFilter(this);
-    m_refreshes.emplace_back([this, &control, &widget, show = std::move(refresh)] {
+    m_refreshes.emplace_back([this, &control, &widget, show = std::move(refresh), wasHeld = false,
+                              tip = Text()]() mutable {
         show();
         const auto held = m_held.find(&control);
         const bool isHeld = held != m_held.end() && held->second();
-        widget.setProperty("heldBack", isHeld);
+        if (std::exchange(wasHeld, isHeld) != isHeld)
+            widget.setProperty("heldBack", isHeld);
         widget.setEnabled(control.Enabled && !isHeld);
         // A widget without a parent would become a window of its own.
         if (widget.parentWidget() != nullptr)
             widget.setVisible(control.Visible);
-        if (!control.ToolTip.empty() || widget.property("toolTipIsControls").toBool()) {
-            widget.setToolTip(qString(control.ToolTip));
-            widget.setProperty("toolTipIsControls", true);
+        if (tip != control.ToolTip) {
+            tip = control.ToolTip;
+            widget.setToolTip(qString(tip));
         }
     });
 }

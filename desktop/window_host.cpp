@@ -139,7 +139,13 @@ void WindowHost::focusArrived(Control& control, Qt::FocusReason reason) {
     case Qt::TabFocusReason:
     case Qt::BacktabFocusReason:
     case Qt::ShortcutFocusReason:
-        run([&] { user::focus(control); });
+        // Without a routine at the control that is left nothing else changes.
+        if (m_depth == 0 && !m_failed && (focus == nullptr || !focus->onLostFocus)) {
+            if (!m_program.ended() && user::focus(control))
+                m_followed = &control;
+        } else {
+            run([&] { user::focus(control); });
+        }
         break;
     case Qt::ActiveWindowFocusReason:
         if (focus != nullptr && &focus->screen() != &control.screen())
