@@ -98,7 +98,11 @@ std::vector<Text> Auswahlgedaechtnis::Fruehere() const {
         return {};
     std::vector<Text> zeilen = einer->Geleert.empty() ? einer->Zeilen : einer->Geleert;
     const std::vector<Text> jetzt = GewaehlteZeilen(m_schirm);
-    std::erase_if(zeilen, [&](const Text& zeile) { return enthaelt(jetzt, zeile); });
+    // At a locked text the screen still counts them, though it shows them no more.
+    std::erase_if(zeilen, [&](const Text& zeile) {
+        const Control* control = m_schirm.Bildschirm->find(zeilenname(zeile));
+        return enthaelt(jetzt, zeile) && control != nullptr && control->reachable();
+    });
     return zeilen;
 }
 

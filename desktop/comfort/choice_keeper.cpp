@@ -65,8 +65,9 @@ void ChoiceKeeper::follow() {
             widget->setFormerBadge(lineOf(former, button->fullName()));
     for (const Control* control : m_entry.Bildschirm->controls())
         if (auto* row = qobject_cast<ChoiceRow*>(m_window.widgetOf(*control)))
-            row->setFormer(std::find(former.begin(), former.end(), prefix + control->fullName()) !=
-                           former.end());
+            row->setFormer(!row->isChecked() &&
+                           std::find(former.begin(), former.end(), prefix + control->fullName()) !=
+                               former.end());
     if (const bool can = m_memory.KannWiederholen(); can == m_link->isHidden()) {
         m_link->setVisible(can);
         if (can)

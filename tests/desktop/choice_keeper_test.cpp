@@ -15,6 +15,8 @@ TEST(ChoiceKeeper, ShowsWhatALockedTextWasMadeOfAndRepeatsItByOneKey) {
     for (const TextView name : {u"2", u"Command1", u"Option1(3)", u"Command3(1)", u"Option1(6)"})
         open.click(name);
     const Text text = screen.Text1(0).text();
+    open.host.run([&] { user::click(screen.Text1(0)); });
+    EXPECT_TRUE(dynamic_cast<ChoiceRow&>(open.widget(u"Option1(6)")).isFormer());
     open.host.run([&] {
         user::pick(screen.Combo1, 0);
         user::pick(screen.Combo1, 1);
