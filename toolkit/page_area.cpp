@@ -26,6 +26,9 @@ PageArea::PageArea(QWidget* parent) : QScrollArea(parent) {
             [this](QWidget*, QWidget* focused) { showFocused(focused); });
 }
 
+// What it holds goes after it, and the keyboard leaves that.
+PageArea::~PageArea() { qApp->disconnect(this); }
+
 // Under the mouse nothing may move: the release would miss what was pressed.
 void PageArea::showFocused(QWidget* focused) {
     if (focused != nullptr && QGuiApplication::mouseButtons() == Qt::NoButton &&

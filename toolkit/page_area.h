@@ -14,6 +14,7 @@ class PageArea : public QScrollArea {
 
   public:
     explicit PageArea(QWidget* parent = nullptr);
+    ~PageArea() override;
 
     void add(QWidget& page, Qt::Alignment alignment = {});
     void add(QLayout& page);
