@@ -27,7 +27,7 @@ class SavedStateTest : public RescueTest {
     }
 
     void wait() { clock += std::chrono::hours(1); }
-    static long hour(safety::Moment moment) {
+    static long long hour(safety::Moment moment) {
         return moment.time_since_epoch() / std::chrono::hours(1);
     }
 
