@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -17,6 +18,10 @@ struct Content {
 bool meansFull(int error);
 
 Content read(const std::filesystem::path& path);
+
+/// When the file was last written, in the machine's own finest steps; 0 if there is none. Two
+/// values tell whether it was written in between, and nothing else.
+std::int64_t writtenAt(const std::filesystem::path& path);
 
 struct Opened {
     int handle = -1;

@@ -4,6 +4,7 @@
 #include "files/file_catalogue.h"
 #include "files/section_stores.h"
 #include "masterdata/master_data_screen.h"
+#include "platform/raw_file.h"
 #include "rescue/held_texts.h"
 #include "safety/layouts.h"
 #include "safety/paths.h"
@@ -120,9 +121,8 @@ SavedState::Written SavedState::writtenAt(const std::vector<Typed>& held) const 
     Written written;
     for (const Typed& one : held) {
         const auto [time, isNew] = written.try_emplace(one.file);
-        std::error_code failed;
         if (const auto file = isNew ? paths.fileOf(one.file) : std::nullopt)
-            time->second = std::filesystem::last_write_time(*file, failed);
+            time->second = raw::writtenAt(*file);
     }
     return written;
 }

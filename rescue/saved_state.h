@@ -2,6 +2,7 @@
 
 #include "safety/typed.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -31,7 +32,7 @@ class SavedState {
     [[nodiscard]] std::optional<safety::Moment> savedAt() const { return m_saved; }
 
   private:
-    using Written = std::map<std::string, std::filesystem::file_time_type>;
+    using Written = std::map<std::string, std::int64_t>;
 
     [[nodiscard]] Written writtenAt(const std::vector<safety::Typed>& held) const;
     [[nodiscard]] bool isInFiles(const std::vector<safety::Typed>& held) const;

@@ -37,6 +37,14 @@ bool isPipe(int handle) {
 
 } // namespace
 
+std::int64_t writtenAt(const std::filesystem::path& path) {
+    constexpr std::int64_t Nanoseconds = 1'000'000'000;
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0
+               ? status.st_mtim.tv_sec * Nanoseconds + status.st_mtim.tv_nsec
+               : 0;
+}
+
 Content read(const std::filesystem::path& path) {
     Content content;
     // A pipe would keep whoever opens it waiting for somebody to write.

@@ -86,6 +86,16 @@ Opened open(const std::filesystem::path& path, DWORD access, DWORD disposition, 
 
 } // namespace
 
+std::int64_t writtenAt(const std::filesystem::path& path) {
+    // The standard library's goes by whole seconds.
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) == 0)
+        return 0;
+    constexpr int HighBits = 32;
+    return (static_cast<std::int64_t>(data.ftLastWriteTime.dwHighDateTime) << HighBits) |
+           static_cast<std::int64_t>(data.ftLastWriteTime.dwLowDateTime);
+}
+
 Content read(const std::filesystem::path& path) {
     const Opened opened = open(path, GENERIC_READ, OPEN_EXISTING, _O_RDONLY);
     if (opened.error != 0)

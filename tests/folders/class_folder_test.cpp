@@ -23,7 +23,7 @@ std::map<Text, Text> contents(const TemporaryFolder& root, TextView folder) {
     const fs::path start = root.path() / pathFromText(folder);
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(start))
         if (entry.is_regular_file()) {
-            const Text name = textFromPath(entry.path().lexically_relative(start));
+            const Text name = entry.path().lexically_relative(start).generic_u16string();
             files[name] = root.read(Text(folder) + u"/" + name);
         }
     return files;
