@@ -78,10 +78,13 @@ class Examination {
         const fs::path list =
             resolved(m_paths, Text(dateien::Daten) + u"\\" + Text(dateien::Namen));
         const std::string name = m_paths.nameOf(list).value_or(std::string());
-        const raw::Content names = raw::read(list);
+        std::error_code failed;
+        const bool tooLarge = fs::file_size(list, failed) > LargestFile && !failed;
+        const raw::Content names = tooLarge ? raw::Content() : raw::read(list);
         m_size = classSizeOf(names.bytes);
         // A damaged list is no measure for the others.
-        if (const auto kept = m_latest.of(name); kept && flawOf(name, names.bytes, m_size))
+        if (const auto kept = m_latest.of(name);
+            kept && (tooLarge || flawOf(name, names.bytes, m_size)))
             m_size = classSizeOf(*kept);
     }
 

@@ -109,6 +109,17 @@ TEST_F(DamageTest, IsNamedWithFileRecordAndField) {
     EXPECT_EQ(only().kind, Damage::Missing);
 }
 
+TEST(DamageOfTheList, IsNoMeasureForTheStores) {
+    const TestInstallation fresh;
+    Text list;
+    for (int i = 0; i < 100'000; ++i)
+        list += u"1,\"3a\",\"Ahlers\",\"Tom\",\"m\",\"01.02.2018\",\"\",\"\",\"\",\"\",\"Ort\"\r\n";
+    fresh.write(u"Daten/Namen.Txt", list);
+    const std::vector<Finding> found = examine(fresh.path());
+    ASSERT_THAT(found, SizeIs(1));
+    EXPECT_EQ(found.front().file, "Daten/Namen.Txt");
+}
+
 TEST_F(DamageTest, IsSeenWhateverTheCaseOfTheNames) {
     fs::rename(folder.path() / "Daten/Namen.Txt", folder.path() / "Daten/NAMEN.TXT");
     fs::rename(folder.path() / fs::path(Store), folder.path() / "Daten/avsvspeicher.TXT");
