@@ -8,35 +8,9 @@ EvenRows::EvenRows(int spacing, double leastShare) : m_leastShare(leastShare) {
     setSpacing(spacing);
 }
 
-EvenRows::~EvenRows() {
-    // A layout takes itself out of the one that it is in when it goes.
-    while (QLayoutItem* item = EvenRows::takeAt(0))
-        delete item;
-}
-
-void EvenRows::add(QLayout& part) {
-    addChildLayout(&part);
-    addItem(&part);
-}
-
-void EvenRows::addItem(QLayoutItem* item) { m_items.push_back(item); }
-
-int EvenRows::count() const { return static_cast<int>(m_items.size()); }
-
-QLayoutItem* EvenRows::itemAt(int index) const {
-    return index >= 0 && index < count() ? m_items[static_cast<size_t>(index)] : nullptr;
-}
-
-QLayoutItem* EvenRows::takeAt(int index) {
-    QLayoutItem* item = itemAt(index);
-    if (item != nullptr)
-        m_items.erase(m_items.begin() + index);
-    return item;
-}
-
 int EvenRows::widest(QSize (QLayoutItem::*size)() const) const {
     int width = 0;
-    for (const QLayoutItem* item : m_items)
+    for (const QLayoutItem* item : items())
         width = std::max(width, (item->*size)().width());
     return width;
 }
@@ -60,10 +34,10 @@ std::vector<EvenRows::Row> EvenRows::rowsWithin(int width) const {
     const auto columns = static_cast<size_t>(columnsWithin(width));
     const int each = columnWidth(width);
     std::vector<Row> rows;
-    for (size_t i = 0; i < m_items.size(); ++i) {
+    for (size_t i = 0; i < items().size(); ++i) {
         if (i % columns == 0)
             rows.push_back({{}, 0});
-        QLayoutItem* item = m_items[i];
+        QLayoutItem* item = items()[i];
         const int height =
             item->hasHeightForWidth() ? item->heightForWidth(each) : item->sizeHint().height();
         rows.back().items.push_back(item);
@@ -82,13 +56,6 @@ int EvenRows::heightForWidth(int width) const {
 QSize EvenRows::sizeHint() const {
     const int width = count() * (widest(&QLayoutItem::sizeHint) + spacing()) - spacing();
     return {width, heightForWidth(width)};
-}
-
-QSize EvenRows::minimumSize() const {
-    QSize least;
-    for (const QLayoutItem* item : m_items)
-        least = least.expandedTo(item->minimumSize());
-    return least;
 }
 
 void EvenRows::setGeometry(const QRect& rect) {

@@ -11,36 +11,10 @@ FlowRow::FlowRow(int spacing) {
     setSpacing(spacing);
 }
 
-FlowRow::~FlowRow() {
-    // A layout takes itself out of the one that it is in when it goes.
-    while (QLayoutItem* item = FlowRow::takeAt(0))
-        delete item;
-}
-
-void FlowRow::add(QLayout& part) {
-    addChildLayout(&part);
-    addItem(&part);
-}
-
 void FlowRow::insertWidget(int index, QWidget& widget) {
     addChildWidget(&widget);
-    m_items.insert(m_items.begin() + index, new QWidgetItem(&widget));
+    insertItem(index, *new QWidgetItem(&widget));
     invalidate();
-}
-
-void FlowRow::addItem(QLayoutItem* item) { m_items.push_back(item); }
-
-int FlowRow::count() const { return static_cast<int>(m_items.size()); }
-
-QLayoutItem* FlowRow::itemAt(int index) const {
-    return index >= 0 && index < count() ? m_items[static_cast<size_t>(index)] : nullptr;
-}
-
-QLayoutItem* FlowRow::takeAt(int index) {
-    QLayoutItem* item = itemAt(index);
-    if (item != nullptr)
-        m_items.erase(m_items.begin() + index);
-    return item;
 }
 
 int FlowRow::gapBefore(size_t index) const {
@@ -50,10 +24,10 @@ int FlowRow::gapBefore(size_t index) const {
 
 std::vector<FlowRow::Row> FlowRow::rowsWithin(int width) const {
     std::vector<Row> rows;
-    for (size_t i = 0; i < m_items.size(); ++i) {
-        if (m_items[i]->isEmpty())
+    for (size_t i = 0; i < items().size(); ++i) {
+        if (items()[i]->isEmpty())
             continue;
-        const QSize size = m_items[i]->sizeHint();
+        const QSize size = items()[i]->sizeHint();
         const int all = rows.empty() ? 0 : rows.back().size.width() + gapBefore(i) + size.width();
         if (rows.empty() || all > width) {
             rows.push_back({i, i + 1, size});
@@ -74,17 +48,10 @@ int FlowRow::heightForWidth(int width) const {
 
 QSize FlowRow::sizeHint() const {
     int width = 0;
-    for (size_t i = 0; i < m_items.size(); ++i)
-        if (!m_items[i]->isEmpty())
-            width += m_items[i]->sizeHint().width() + (width > 0 ? gapBefore(i) : 0);
+    for (size_t i = 0; i < items().size(); ++i)
+        if (!items()[i]->isEmpty())
+            width += items()[i]->sizeHint().width() + (width > 0 ? gapBefore(i) : 0);
     return {width, heightForWidth(width)};
-}
-
-QSize FlowRow::minimumSize() const {
-    QSize least;
-    for (const QLayoutItem* item : m_items)
-        least = least.expandedTo(item->minimumSize());
-    return least;
 }
 
 void FlowRow::setGeometry(const QRect& rect) {
@@ -95,14 +62,14 @@ void FlowRow::setGeometry(const QRect& rect) {
         const bool isLast = &row == &rows.back();
         int x = rect.left();
         for (size_t i = row.first; i < row.end; ++i) {
-            if (m_items[i]->isEmpty())
+            if (items()[i]->isEmpty())
                 continue;
             const bool atRight = m_firstAtRight < 0 ? isLast && i + 1 == row.end
                                                     : static_cast<int>(i) >= m_firstAtRight;
-            const QSize size = m_items[i]->sizeHint().boundedTo({rect.width(), row.size.height()});
+            const QSize size = items()[i]->sizeHint().boundedTo({rect.width(), row.size.height()});
             const int indent = atRight ? std::max(0, rect.width() - row.size.width()) : 0;
             x += i == row.first ? 0 : gapBefore(i);
-            m_items[i]->setGeometry(
+            items()[i]->setGeometry(
                 {{x + indent, y + (row.size.height() - size.height()) / 2}, size});
             x += size.width();
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QLayout>
+#include "toolkit/item_layout.h"
 
 #include <map>
 #include <vector>
@@ -9,28 +9,19 @@ namespace zeugnis {
 
 /// A row of buttons that goes on in further rows where it is too long. The last item stands at the
 /// right end, or all from a certain one on.
-class FlowRow : public QLayout {
+class FlowRow : public ItemLayout {
     Q_OBJECT
 
   public:
     explicit FlowRow(int spacing);
-    ~FlowRow() override;
 
-    void add(QLayout& part);
     void insertWidget(int index, QWidget& widget);
     void alignRightFrom(int index) { m_firstAtRight = index; }
     /// Sets the item that comes next apart from the one before.
     void setSpaceBefore(int index, int space) { m_spaceBefore[index] = space; }
 
-    void addItem(QLayoutItem* item) override;
-    [[nodiscard]] int count() const override;
-    [[nodiscard]] QLayoutItem* itemAt(int index) const override;
-    QLayoutItem* takeAt(int index) override;
-    [[nodiscard]] Qt::Orientations expandingDirections() const override { return Qt::Horizontal; }
-    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int width) const override;
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSize() const override;
     void setGeometry(const QRect& rect) override;
 
   private:
@@ -42,7 +33,6 @@ class FlowRow : public QLayout {
     [[nodiscard]] int gapBefore(size_t index) const;
     [[nodiscard]] std::vector<Row> rowsWithin(int width) const;
 
-    std::vector<QLayoutItem*> m_items;
     int m_firstAtRight = -1;
     std::map<int, int> m_spaceBefore;
 };

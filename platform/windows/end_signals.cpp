@@ -2,7 +2,7 @@
 
 namespace zeugnis {
 
-// The end of the session is told to each window here, and Qt passes it on.
+// Here each window is told that the desktop shuts down, and Qt passes it on.
 int watchEndSignals() { return -1; }
 
 void unwatchEndSignals() {}

@@ -1,5 +1,7 @@
 #include "tests/layout/large_display.h"
 
+#include "tests/window_driver/offscreen_display.h"
+
 #include <QApplication>
 #include <QDir>
 
@@ -16,13 +18,7 @@ char* arguments[] = {programName, nullptr};
 LargeDisplay::LargeDisplay() : m_display(QDir::tempPath() + QStringLiteral("/display-XXXXXX")) {
     // Without a display there is much that a window asks for in vain.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    constexpr const char* Display = R"({ "windowFrameMargins": false, "screens": [
-        { "name": "display", "x": 0, "y": 0, "width": 2560, "height": 1600,
-          "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1 } ] })";
-    if (m_display.open())
-        m_display.write(Display);
-    m_display.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + m_display.fileName().toUtf8());
+    useOffscreenDisplay(m_display, {2560, 1600});
     m_application = std::make_unique<QApplication>(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
 }

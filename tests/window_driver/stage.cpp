@@ -1,6 +1,7 @@
 #include "tests/window_driver/stage.h"
 
 #include "desktop/theme.h"
+#include "tests/window_driver/offscreen_display.h"
 
 #include <QApplication>
 #include <QDir>
@@ -31,13 +32,7 @@ void leaveOutPlatformNotes(QtMsgType /*type*/, const QMessageLogContext& context
 Stage::Stage() : m_display(QDir::tempPath() + QStringLiteral("/display-XXXXXX")) {
     qInstallMessageHandler(leaveOutPlatformNotes);
     // As large as the smallest display that teachers have.
-    constexpr const char* Display = R"({ "windowFrameMargins": false, "screens": [
-        { "name": "display", "x": 0, "y": 0, "width": 1280, "height": 800,
-          "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1 } ] })";
-    if (m_display.open())
-        m_display.write(Display);
-    m_display.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + m_display.fileName().toUtf8());
+    test::useOffscreenDisplay(m_display, {1280, 800});
     m_application = std::make_unique<QApplication>(argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setCursorFlashTime(0);
