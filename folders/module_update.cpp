@@ -85,6 +85,14 @@ Arbeitsverzeichnis in(const Arbeitsverzeichnis& start, TextView folder) {
     return inside;
 }
 
+void replaceText(Text& content, const safety::Field& field, TextView text) {
+    const size_t quote = field.quoted ? 1 : 0;
+    Text written(quote, u'"');
+    written += text;
+    written.append(quote, u'"');
+    content.replace(field.begin, field.end - field.begin, written);
+}
+
 } // namespace
 
 std::vector<Modultext> NeueModultexte(const Arbeitsverzeichnis& klasse,
@@ -105,12 +113,10 @@ void ModultexteUebernehmen(const Arbeitsverzeichnis& klasse, const Arbeitsverzei
     for (const Module& module : modulesOf(eigene, neue)) {
         Text content = contentOf(eigene, module.name);
         // From the end, so that the places in front stay.
-        for (auto text = gewaehlt.rbegin(); text != gewaehlt.rend(); ++text)
-            if (text->Datei == module.name) {
-                const safety::Field& field = module.own.at(text->Satz).fields.at(text->Feld);
-                const Text quote = field.quoted ? u"\"" : u"";
-                content.replace(field.begin, field.end - field.begin, quote + text->Neu + quote);
-            }
+        std::for_each(gewaehlt.rbegin(), gewaehlt.rend(), [&](const Modultext& text) {
+            if (text.Datei == module.name)
+                replaceText(content, module.own.at(text.Satz).fields.at(text.Feld), text.Neu);
+        });
         writeWholeFile(eigene, module.name, encodeWindows1252(content));
         writeWholeFile(eigene, inStandard(module.name),
                        readWholeFile(neue, inStandard(module.name)));

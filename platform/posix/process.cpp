@@ -111,9 +111,11 @@ void useBinaryStreams() {
 std::unique_ptr<ProcessFamily> ProcessFamily::start(const std::filesystem::path& program,
                                                     const std::vector<Text>& arguments) {
     std::vector<std::string> words = {program.native()};
+    words.reserve(1 + arguments.size());
     for (const Text& argument : arguments)
         words.push_back(utf8FromText(argument));
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);

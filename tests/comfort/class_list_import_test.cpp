@@ -12,10 +12,13 @@ namespace {
 std::string told(const std::vector<Listenzeile>& lines) {
     std::string all;
     for (const auto& [number, child, reason] : lines) {
-        Text line = textFromNumber(number) + u" " + child.Nachname + u"|" + child.Vorname + u"|" +
-                    child.Geschlecht + u"|" + child.Geburtsdatum + u"|" + child.Geburtsort + u"|" +
-                    enumerated(child.AG);
-        all += utf8FromText(line + (reason.empty() ? u"" : u": " + reason) + u"\n");
+        Text line = textFromNumber(number);
+        for (const Text& part :
+             {u" " + child.Nachname, u"|" + child.Vorname, u"|" + child.Geschlecht,
+              u"|" + child.Geburtsdatum, u"|" + child.Geburtsort, u"|" + enumerated(child.AG),
+              reason.empty() ? Text() : u": " + reason, Text(u"\n")})
+            line += part;
+        all += utf8FromText(line);
     }
     return all;
 }

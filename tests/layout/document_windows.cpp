@@ -59,7 +59,7 @@ Window reports(Arbeitsverzeichnis& folder) {
 }
 
 Window layoutOfReports(Arbeitsverzeichnis& folder) {
-    const std::filesystem::path pdf =
+    std::filesystem::path pdf =
         written(folder, {.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"})
             .Pdf;
     return std::make_unique<LayoutDialog>(ZeugnisaufbauLesen(folder), Kopfbilder(folder),
