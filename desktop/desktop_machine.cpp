@@ -6,8 +6,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QLineEdit>
+#include <QPixmap>
 
 namespace zeugnis {
 
@@ -46,8 +46,9 @@ Text DesktopClipboard::text() {
 }
 
 bool DesktopPictures::canShow(const std::filesystem::path& file) {
-    QImageReader reader(qPath(file), "jpeg");
-    return !reader.read().isNull();
+    // Kept among the pictures last shown, so that the window that shows it need not decode it
+    // again.
+    return !QPixmap(qPath(file), "jpeg").isNull();
 }
 
 } // namespace zeugnis

@@ -98,6 +98,8 @@ bool ScreenWindow::showFocus(const Control& control) {
     return true;
 }
 
+void ScreenWindow::paintEvent(QPaintEvent*) { m_host.painted(); }
+
 void ScreenWindow::detach() {
     m_screen = nullptr;
     m_binder.detach();

@@ -43,6 +43,7 @@ class ScreenWindow : public QWidget {
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     /// Puts the window where it comes up, as long as it has no place of its own.
     virtual void place();
     [[nodiscard]] virtual bool isPlaced() const { return testAttribute(Qt::WA_Moved); }

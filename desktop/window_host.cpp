@@ -98,6 +98,13 @@ void WindowHost::openWindows() {
     }
 }
 
+void WindowHost::painted() {
+    if (std::exchange(m_hasPainted, true))
+        return;
+    // Behind what the window system is still owed.
+    QMetaObject::invokeMethod(this, &WindowHost::firstPainted, Qt::QueuedConnection);
+}
+
 void WindowHost::cameToFront(const Screen& screen) {
     std::erase(m_order, &screen);
     m_order.push_back(&screen);

@@ -84,6 +84,8 @@ class WindowHost : public QObject {
     [[nodiscard]] bool mayAct(Control& control) {
         return m_depth > 0 || !beside.mayAct || beside.mayAct(control);
     }
+    void painted();
+    [[nodiscard]] bool hasPainted() const { return m_hasPainted; }
     /// No action is under way.
     [[nodiscard]] bool isIdle() const { return m_depth == 0; }
 
@@ -98,6 +100,8 @@ class WindowHost : public QObject {
     bool reportBeside = false;
 
   signals:
+    /// The first window stands on the display: what the eye does not wait for may begin.
+    void firstPainted();
     /// A run-time failure is about to be shown.
     void failed(const zeugnis::Laufzeitfehler& failure);
 
@@ -114,6 +118,7 @@ class WindowHost : public QObject {
     std::map<const Screen*, QPointer<ScreenWindow>> m_windows;
     std::map<Text, WindowPlace> m_places;
     int m_depth = 0;
+    bool m_hasPainted = false;
     /// The screens whose windows are or were shown, the one in front last.
     std::vector<const Screen*> m_order;
     /// The focus as the windows have followed it.

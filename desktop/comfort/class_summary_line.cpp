@@ -50,12 +50,13 @@ ClassSummaryLine::ClassSummaryLine(GsStart& screen, ScreenWindow& window, Window
             m_host.run([this] { user::click(m_screen.Command5); });
     });
     window.installEventFilter(this);
+    connect(&host, &WindowHost::firstPainted, this, &ClassSummaryLine::read);
     window.follow([this] { setVisible(m_isKnown && m_screen.Command2.Visible); });
     hide();
 }
 
 bool ClassSummaryLine::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate && m_host.hasPainted())
         read();
     return QWidget::eventFilter(watched, event);
 }

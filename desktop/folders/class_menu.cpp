@@ -16,7 +16,6 @@
 #include <QDir>
 #include <QMenu>
 #include <QProcess>
-#include <QTimer>
 
 namespace zeugnis {
 namespace {
@@ -34,8 +33,7 @@ ClassMenu::ClassMenu(WindowHost& host, std::filesystem::path folder,
     host.beside.openClassMenu = [this](QWidget& button) { open(button); };
     host.beside.newModules = [this] { return m_newModules; };
     host.beside.showNewModules = [this] { showNewModules(); };
-    // When the start page stands.
-    QTimer::singleShot(0, this, &ClassMenu::countNewModules);
+    connect(&host, &WindowHost::firstPainted, this, &ClassMenu::countNewModules);
 }
 
 void ClassMenu::open(QWidget& button) {
