@@ -106,10 +106,9 @@ QRect TintedButton::textArea(const QRect& area) const {
 QSize TintedButton::sizeHint() const {
     if (m_role == Role::Round)
         return {leastHeight() + 2, leastHeight() + 2};
-    const QRect bounds =
-        fontMetrics().boundingRect(QRect(0, 0, WidestLine, 1000), textFlags(), text());
-    return {bounds.width() + 2 * sidePadding() + 4,
-            std::max(leastHeight(), bounds.height() + 2 * TopPadding)};
+    const QSize size = widestText();
+    return {size.width() + 2 * sidePadding() + 4,
+            std::max(leastHeight(), size.height() + 2 * TopPadding)};
 }
 
 QSize TintedButton::minimumSizeHint() const {
@@ -120,9 +119,23 @@ QSize TintedButton::minimumSizeHint() const {
 }
 
 int TintedButton::heightForWidth(int width) const {
-    const QRect bounds = fontMetrics().boundingRect(QRect(0, 0, width - 2 * sidePadding(), 1000),
-                                                    textFlags(), text());
-    return std::max(leastHeight(), bounds.height() + 2 * TopPadding);
+    const int room = width - 2 * sidePadding();
+    const QSize widest = widestText();
+    const bool isOneLine = widest.height() < 2 * fontMetrics().height();
+    const bool breaksAlike = widest.width() <= room && (isOneLine || room <= WidestLine);
+    const QSize size = breaksAlike ? widest : textSize(room);
+    return std::max(leastHeight(), size.height() + 2 * TopPadding);
+}
+
+QSize TintedButton::textSize(int width) const {
+    return fontMetrics().boundingRect(QRect(0, 0, width, 1000), textFlags(), text()).size();
+}
+
+// The layouts ask again and again, a dozen times for each picture.
+QSize TintedButton::widestText() const {
+    if (m_widest.text != text() || m_widest.font != font() || m_widest.size.isEmpty())
+        m_widest = {text(), font(), textSize(WidestLine)};
+    return m_widest.size;
 }
 
 // Enter presses the button that has the focus, in a window as in a dialog.

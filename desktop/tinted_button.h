@@ -49,6 +49,9 @@ class TintedButton : public QPushButton {
     [[nodiscard]] int textFlags() const;
     [[nodiscard]] int leastHeight() const;
     [[nodiscard]] int sidePadding() const;
+    [[nodiscard]] QSize textSize(int width) const;
+    /// On as few lines as a button may have.
+    [[nodiscard]] QSize widestText() const;
     [[nodiscard]] QRect textArea(const QRect& area) const;
     void paintBadge(QPainter& painter) const;
 
@@ -58,6 +61,12 @@ class TintedButton : public QPushButton {
     std::optional<QString> m_badge;
     QString m_formerBadge;
     Content m_content = Content::Unknown;
+    struct Measured {
+        QString text;
+        QFont font;
+        QSize size;
+    };
+    mutable Measured m_widest;
 };
 
 } // namespace zeugnis
