@@ -2,7 +2,6 @@
 
 #include "toolkit/qt_text.h"
 
-#include <QDate>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -43,6 +42,24 @@ void ClassFields::fill(const Klassenangaben& whose) {
     m_class->setText(qString(whose.Klasse));
     m_year->setText(qString(whose.Schule.Schuljahr));
     (IstZahl(whose.Schule.Halbjahr, 1) ? m_first : m_second)->setChecked(true);
+}
+
+void ClassFields::guessHalf(QDate today) {
+    constexpr int August = 8;
+    constexpr int January = 1;
+    const auto guess = [this, today] {
+        if (m_halfChosen)
+            return;
+        // Year 1 has no report in winter.
+        const bool inWinter = today.month() >= August || today.month() == January;
+        const QString name = m_class->text().trimmed();
+        const bool isFirst = inWinter && !name.isEmpty() && !name.startsWith(u'1');
+        (isFirst ? m_first : m_second)->setChecked(true);
+    };
+    for (const QRadioButton* half : {m_first, m_second})
+        connect(half, &QRadioButton::clicked, this, [this] { m_halfChosen = true; });
+    connect(m_class, &QLineEdit::textChanged, this, guess);
+    guess();
 }
 
 void ClassFields::read(Klassenangaben& whose) const {

@@ -2,6 +2,7 @@
 
 #include "folders/class_folder.h"
 
+#include <QDate>
 #include <QWidget>
 
 #include <filesystem>
@@ -21,6 +22,8 @@ class ClassFields : public QWidget {
     explicit ClassFields(QWidget* parent);
 
     void fill(const Klassenangaben& whose);
+    /// As long as nobody has chosen a half-year, the one whose report comes next on that day.
+    void guessHalf(QDate today);
     /// Puts in what the fields say, and leaves the rest alone.
     void read(Klassenangaben& whose) const;
 
@@ -32,6 +35,7 @@ class ClassFields : public QWidget {
     QLineEdit* m_year;
     QRadioButton* m_first;
     QRadioButton* m_second;
+    bool m_halfChosen = false;
 };
 
 /// The place of a new folder: a name to write, or to choose on the disk.

@@ -102,6 +102,7 @@ NewClassWindow::Step NewClassWindow::school() {
 NewClassWindow::Step NewClassWindow::schoolClass() {
     m_class = new ClassFields(this);
     m_class->fill(likelyClass());
+    m_class->guessHalf(QDate::currentDate());
     return {.title = tr("Klasse und Halbjahr"),
             .sentence = tr("Die erste Ziffer der Klasse ist der Schuljahrgang. In Klasse 1 gibt es "
                            "nur am Ende des 2. Halbjahrs ein Zeugnis."),
@@ -247,7 +248,8 @@ void NewClassWindow::showStep(size_t step) {
     m_back->setEnabled(step > 0);
     m_next->setText(step + 1 < m_steps.size() ? tr("&Weiter") : tr("Klasse anl&egen"));
     m_next->setMinimumWidth(m_next->sizeHint().width());
-    now.first->setFocus();
+    // A text that stands there is replaced by what is typed, as behind Tab; a folder is changed.
+    now.first->setFocus(now.first == m_folder ? Qt::OtherFocusReason : Qt::TabFocusReason);
     spoken::announce(*m_head, m_head->text() + QStringLiteral(". ") + now.sentence);
 }
 

@@ -87,6 +87,7 @@ TEST_F(ClassFolders, ANewClassLeadsFromTheSchoolToTheFirstChild) {
     EXPECT_TRUE(said(window).contains(QStringLiteral("Schuljahrgang, 1 bis 4"))) << "stays";
     write(window, QStringLiteral("Klasse:"), QStringLiteral("3b"));
     write(window, QStringLiteral("Schuljahr:"), QStringLiteral("2026/2027"));
+    window.findChildren<QRadioButton*>().at(1)->click();
     press(window, QStringLiteral("Weiter"));
     write(window, QStringLiteral("Klassenleitung:"), QStringLiteral("wird übersprungen"));
     press(window, QStringLiteral("Überspringen"));
@@ -109,6 +110,25 @@ TEST_F(ClassFolders, ANewClassLeadsFromTheSchoolToTheFirstChild) {
     const Text school = root.read(textFromPath(daten / "Basisdaten.txt"));
     EXPECT_TRUE(school.starts_with(u"\"Schule „Am Lan“\"")) << utf8FromText(school);
     EXPECT_EQ(school.find(u"wird"), Text::npos);
+}
+
+TEST_F(ClassFolders, TheHalfYearFollowsClassAndDayUntilOneIsChosen) {
+    const std::tuple<QDate, QString, TextView> cases[] = {
+        {{2026, 11, 23}, QStringLiteral("3a"), u"1"}, {{2027, 1, 20}, QStringLiteral("2a"), u"1"},
+        {{2027, 2, 1}, QStringLiteral("3a"), u"2"},   {{2026, 8, 1}, QStringLiteral("4c"), u"1"},
+        {{2026, 11, 23}, QStringLiteral("1a"), u"2"}, {{2026, 7, 31}, QStringLiteral("4c"), u"2"}};
+    for (const auto& [day, name, half] : cases) {
+        ClassFields fields(nullptr);
+        fields.guessHalf(day);
+        fields.findChildren<QLineEdit*>().front()->setText(name);
+        Klassenangaben now;
+        fields.read(now);
+        EXPECT_EQ(now.Schule.Halbjahr, half) << name.toStdString();
+        fields.findChildren<QRadioButton*>().at(half == u"1" ? 1 : 0)->click();
+        fields.findChildren<QLineEdit*>().front()->setText(QStringLiteral("3z"));
+        fields.read(now);
+        EXPECT_NE(now.Schule.Halbjahr, half) << "chosen by hand";
+    }
 }
 
 TEST_F(ClassFolders, EachKeyLeadsToOnePlace) {
