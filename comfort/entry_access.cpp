@@ -106,11 +106,11 @@ std::vector<Text> Eingabeschirm::TexteVon(int kind) const {
     return texte;
 }
 
-bool Eingabeschirm::Vollstaendig(int kind) const {
+int Eingabeschirm::SeiteOhneText(int kind) const {
     for (int seite = 0; seite < static_cast<int>(Seiten.size()); ++seite)
         if (TextVon(seite, kind).empty())
-            return false;
-    return true;
+            return seite;
+    return -1;
 }
 
 std::optional<Eingabeschirm> EingabeschirmAus(Screen& screen) {

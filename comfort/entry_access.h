@@ -39,8 +39,8 @@ struct Eingabeschirm {
     [[nodiscard]] const Text& TextVon(int seite, int kind) const;
     /// Those of all pages.
     [[nodiscard]] std::vector<Text> TexteVon(int kind) const;
-    /// Whether the child has a text on every page.
-    [[nodiscard]] bool Vollstaendig(int kind) const;
+    /// The first page on which the child has no text; -1 if it has one on every page.
+    [[nodiscard]] int SeiteOhneText(int kind) const;
 };
 
 /// None for any other screen.

@@ -108,8 +108,9 @@ bool Eingabefluss::KindOhneText() {
     const int anzahl = m_schirm.Liste->Schuelerzahl;
     for (int schritt = 1; schritt <= anzahl; ++schritt) {
         const int kind = (m_schirm.Kinder->listIndex() + schritt) % anzahl;
-        if (!m_schirm.Vollstaendig(kind))
-            return kind != m_schirm.Kinder->listIndex() && user::pick(*m_schirm.Kinder, kind);
+        if (const int seite = m_schirm.SeiteOhneText(kind); seite >= 0)
+            return (kind != m_schirm.Kinder->listIndex() || seite != m_schirm.Seite()) &&
+                   Hinfuehren(kind, seite);
     }
     return false;
 }

@@ -25,7 +25,8 @@ class Eingabefluss {
     /// is the current one.
     bool Ziffer(int ziffer);
     bool KindWechseln(Richtung richtung);
-    /// The next child, from the current one on and around, that lacks a text.
+    /// The next child, from the current one on and around, that lacks a text, on the first page
+    /// that is empty.
     bool KindOhneText();
 
     /// To a child and a page, from wherever the screen is.

@@ -60,6 +60,8 @@ void EntryCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }
 void EntryCombo::keyPressEvent(QKeyEvent* event) {
     if (!isLetter(*event))
         return QComboBox::keyPressEvent(event);
+    if (findText(event->text(), Qt::MatchStartsWith) < 0)
+        return event->ignore();
     showPopup();
     view()->keyboardSearch({}); // begins anew
     view()->keyboardSearch(event->text());

@@ -6,7 +6,7 @@ namespace zeugnis {
 
 /// A list to open and pick from. A name that does not fit ends in an ellipsis, and the tool tip
 /// tells it whole. Nothing is picked on the way: the wheel scrolls what lies around
-/// it, and a letter opens it at that letter.
+/// it, and a letter opens it at that letter. One that no entry begins with is left to the window.
 class EntryCombo : public QComboBox {
     Q_OBJECT
 

@@ -4,6 +4,7 @@
 #include "files/file_catalogue.h"
 #include "toolkit/qt_text.h"
 
+#include <QGuiApplication>
 #include <QImageReader>
 #include <QListWidgetItem>
 #include <QPainter>
@@ -19,18 +20,19 @@ constexpr int MarkSize = 9;
 constexpr int Gap = 5;
 
 // Empty is a ring, a text is a full circle, a hint a full triangle: told without colours too.
-void paintMark(QPainter& painter, const QRectF& place, Seitenstand state) {
-    painter.setPen(QPen(theme::colours().InkResting, 1.4));
+void paintMark(QPainter& painter, const QRectF& place, Seitenstand state, QColor only = {}) {
+    const auto inked = [only](const QColor& usual) { return only.isValid() ? only : usual; };
+    painter.setPen(QPen(inked(theme::colours().InkResting), 1.4));
     painter.setBrush(Qt::NoBrush);
     if (state == Seitenstand::MitHinweis) {
-        painter.setBrush(theme::colours().Danger);
+        painter.setBrush(inked(theme::colours().Danger));
         painter.setPen(Qt::NoPen);
         painter.drawPolygon(QPolygonF(
             {place.bottomLeft(), place.bottomRight(), {place.center().x(), place.top()}}));
         return;
     }
     if (state == Seitenstand::MitText)
-        painter.setBrush(theme::colours().Accent);
+        painter.setBrush(inked(theme::colours().Accent));
     painter.drawEllipse(place.adjusted(0.7, 0.7, -0.7, -0.7));
 }
 
@@ -57,12 +59,19 @@ void RailRow::set(QListWidgetItem& item, const Kinderstand& state, const Text& p
 }
 
 QIcon RailRow::sign(const Kinderstand& state) {
-    QPixmap pixmap(2 * MarkSize, 2 * MarkSize);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintMark(painter, QRectF(2, 2, 2 * MarkSize - 4, 2 * MarkSize - 4), together(state));
-    return QIcon(pixmap);
+    QIcon sign;
+    const auto add = [&](QIcon::Mode mode, const QColor& only) {
+        QPixmap pixmap(2 * MarkSize, 2 * MarkSize);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paintMark(painter, QRectF(2, 2, 2 * MarkSize - 4, 2 * MarkSize - 4), together(state), only);
+        sign.addPixmap(pixmap, mode);
+    };
+    add(QIcon::Normal, {});
+    // The entry under the mouse has a dark ground.
+    add(QIcon::Selected, QGuiApplication::palette().color(QPalette::HighlightedText));
+    return sign;
 }
 
 QSize RailRow::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {

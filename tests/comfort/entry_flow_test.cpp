@@ -45,8 +45,10 @@ TEST(EntryFlow, WritesWorkAndSocialBehaviourInTwentyEightKeys) {
 
     Klassenuebersicht overview(*EingabeschirmAus(screen));
     EXPECT_EQ(Klassenuebersicht::Satz(overview.Staende()), u"1 von 3 hat beide Texte");
+    user::click(screen.Command2);
     EXPECT_TRUE(flow.KindOhneText());
     EXPECT_EQ(screen.Combo1.listIndex(), 1);
+    EXPECT_EQ(screen.Bereich, Abschnitt::AV) << "not where the child before was left";
     EXPECT_TRUE(flow.KindOhneText());
     EXPECT_TRUE(flow.KindOhneText()) << "round to the second one, past who is finished";
     EXPECT_EQ(screen.Combo1.listIndex(), 1);
