@@ -64,6 +64,11 @@ std::vector<Run> laeufeAus(TextView text) {
     return laeufe;
 }
 
+void verkleinern(Image& bild, int prozent) {
+    bild.width = bild.width * prozent / 100;
+    bild.height = bild.height * prozent / 100;
+}
+
 class Leser {
   public:
     explicit Leser(const Bildquelle& bilder) : m_bilder(bilder) {}
@@ -102,16 +107,22 @@ class Leser {
         m_neueSeite = true;
     }
 
-    // "[Bild: name.png | description]"
+    // "[Bild: name.png | description]", or with a width behind it: "| 80 %]"
     void bild(TextView zeile) {
         abschliessen();
-        const TextView angaben =
-            zeile.substr(Bildanfang.size(), zeile.rfind(u']') - Bildanfang.size());
-        const size_t strich = angaben.find(u'|');
-        const Text beschreibung =
-            strich == TextView::npos ? Text() : trimmed(angaben.substr(strich + 1));
-        m_bloecke.emplace_back(
-            BildAusPng(m_bilder(trimmed(angaben.substr(0, strich))), beschreibung));
+        std::array<Text, 3> angaben;
+        TextView rest = zeile.substr(Bildanfang.size(), zeile.rfind(u']') - Bildanfang.size());
+        for (Text& angabe : angaben) {
+            const size_t strich = rest.find(u'|');
+            angabe = trimmed(rest.substr(0, strich));
+            rest.remove_prefix(strich == TextView::npos ? rest.size() : strich + 1);
+        }
+        const auto& [name, beschreibung, breite] = angaben;
+        Image bild = BildAusPng(m_bilder(name), beschreibung);
+        if (!breite.empty())
+            verkleinern(bild, numberFromText(breite.substr(0, breite.find(u'%')),
+                                             u"Die Breite des Bildes „" + name + u"“"));
+        m_bloecke.emplace_back(std::move(bild));
     }
 
     void textzeile(TextView zeile) {
