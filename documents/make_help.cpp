@@ -1,5 +1,7 @@
 #include "documents/app/document_files.h"
 #include "documents/content/help_markup.h"
+#include "documents/pdf/page_fit.h"
+#include "documents/pdf/pdf_writer.h"
 #include "platform/failure.h"
 #include "platform/path_text.h"
 #include "platform/process.h"
@@ -13,11 +15,21 @@ namespace {
 
 using namespace zeugnis;
 
+// Who prints it would get a sheet for a line or two.
+void aufLetzteSeiteAchten(const dokumente::Document& hilfe, const Text& name) {
+    const dokumente::LaidSection seiten =
+        dokumente::layOut(dokumente::fittedToPages(hilfe)).sections.front();
+    if (seiten.pages > 1 && seiten.places.back().y < dokumente::page::TextHeight / 4)
+        std::cerr << utf8FromText(name) << ": the last page is nearly empty; tighten the text\n";
+}
+
 void hilfeSchreiben(const Arbeitsverzeichnis& quelle, const Arbeitsverzeichnis& ziel,
                     const Text& name) {
     const Text markup = textFromUtf8(readWholeFile(quelle, name + u".txt"));
     const auto bilder = [&](const Text& bild) { return readWholeFile(quelle, bild); };
-    dokumente::DokumentSchreiben(ziel, dokumente::HilfeAusMarkup(markup, bilder), name);
+    const dokumente::Document hilfe = dokumente::HilfeAusMarkup(markup, bilder);
+    aufLetzteSeiteAchten(hilfe, name);
+    dokumente::DokumentSchreiben(ziel, hilfe, name);
 }
 
 } // namespace
