@@ -109,8 +109,7 @@ bool Eingabefluss::KindOhneText() {
     for (int schritt = 1; schritt <= anzahl; ++schritt) {
         const int kind = (m_schirm.Kinder->listIndex() + schritt) % anzahl;
         if (const int seite = m_schirm.SeiteOhneText(kind); seite >= 0)
-            return (kind != m_schirm.Kinder->listIndex() || seite != m_schirm.Seite()) &&
-                   Hinfuehren(kind, seite);
+            return Hinfuehren(kind, seite);
     }
     return false;
 }

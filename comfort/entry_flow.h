@@ -26,7 +26,7 @@ class Eingabefluss {
     bool Ziffer(int ziffer);
     bool KindWechseln(Richtung richtung);
     /// The next child, from the current one on and around, that lacks a text, on the first page
-    /// that is empty.
+    /// that is empty. False if none lacks any.
     bool KindOhneText();
 
     /// To a child and a page, from wherever the screen is.

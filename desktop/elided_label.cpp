@@ -10,8 +10,21 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::P
 
 QSize ElidedLabel::minimumSizeHint() const { return {1, QLabel::minimumSizeHint().height()}; }
 
+void ElidedLabel::setTexts(const QString& text, const QStringList& shorter) {
+    m_shorter = shorter;
+    setText(text);
+    update();
+}
+
 QString ElidedLabel::elidedText() const {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    const int room = contentsRect().width();
+    QString shown = text();
+    for (const QString& next : m_shorter) {
+        if (fontMetrics().horizontalAdvance(shown) <= room)
+            break;
+        shown = next;
+    }
+    return fontMetrics().elidedText(shown, Qt::ElideRight, room);
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {

@@ -11,6 +11,9 @@ class ElidedLabel : public QLabel {
   public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
+    /// A text, and what stands for it where it does not fit, the longest first.
+    void setTexts(const QString& text, const QStringList& shorter);
+
     [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
@@ -19,6 +22,8 @@ class ElidedLabel : public QLabel {
 
   private:
     [[nodiscard]] QString elidedText() const;
+
+    QStringList m_shorter;
 };
 
 } // namespace zeugnis

@@ -3,6 +3,7 @@
 
 #include "controls/list_controls.h"
 #include "desktop/screen_window.h"
+#include "desktop/spoken.h"
 #include "desktop/text_editor.h"
 #include "desktop/theme.h"
 #include "desktop/window_host.h"
@@ -10,18 +11,19 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QShortcut>
+#include <QTimer>
 
 namespace zeugnis {
 
 EntryKeys::EntryKeys(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry)
-    : QObject(&window), m_window(window), m_host(host), m_entry(entry), m_flow(entry) {
-    const bool categories = !entry.Kategorien.empty();
-    m_hint = new ElidedLabel(&window);
-    m_hint->setText(categories ? tr("Bild↓ nächste Kategorie · 0 bis 9 Zeile · Alt+→ nächstes "
-                                    "Kind · F8 nächstes Kind, dem ein Text fehlt")
-                               : tr("Bild↓ nächste Auswahl · 1 bis 9 Zeile · Strg+Bild↓ nächste "
-                                    "Seite · Alt+→ nächstes Kind · F8 nächstes Kind, dem ein "
-                                    "Text fehlt"));
+    : QObject(&window),
+      m_window(window),
+      m_host(host),
+      m_entry(entry),
+      m_flow(entry),
+      m_hint(new ElidedLabel(&window)),
+      m_categories(!entry.Kategorien.empty()) {
+    tellKeys();
     m_hint->setFont(theme::scaledFont(0.82));
     m_hint->setForegroundRole(QPalette::PlaceholderText);
 
@@ -33,12 +35,43 @@ EntryKeys::EntryKeys(ScreenWindow& window, WindowHost& host, const Eingabeschirm
     onKey(Qt::ALT | Qt::Key_Right, [this] { return mayLeaveChild() && m_flow.KindWechseln(Vor); });
     onKey(Qt::ALT | Qt::Key_Left,
           [this] { return mayLeaveChild() && m_flow.KindWechseln(Zurueck); });
-    onKey(Qt::Key_F8, [this] { return mayLeaveChild() && m_flow.KindOhneText(); });
+    onKey(Qt::Key_F8, [this] {
+        if (!mayLeaveChild())
+            return false;
+        if (m_flow.KindOhneText())
+            return true;
+        tell(tr("Hier fehlt keinem Kind mehr ein Text."));
+        return false;
+    });
     window.installEventFilter(this);
 }
 
 // The same question as before a pick in the list.
 bool EntryKeys::mayLeaveChild() const { return m_host.mayAct(*m_entry.Kinder); }
+
+QLabel* EntryKeys::hint() const { return m_hint; }
+
+void EntryKeys::tellKeys() {
+    if (m_categories)
+        m_hint->setTexts(tr("Bild↓ nächste Kategorie · 0 bis 9 Zeile · Alt+→ nächstes Kind · F8 "
+                            "nächstes Kind, dem ein Text fehlt"),
+                         {tr("Bild↓ Kategorie · 0–9 Zeile · Alt+→ Kind · F8 Kind ohne Text"),
+                          tr("Bild↓ · 0–9 · Alt+→ · F8")});
+    else
+        m_hint->setTexts(tr("Bild↓ nächste Auswahl · 1 bis 9 Zeile · Strg+Bild↓ nächste Seite · "
+                            "Alt+→ nächstes Kind · F8 nächstes Kind, dem ein Text fehlt"),
+                         {tr("Bild↓ Auswahl · 1–9 Zeile · Strg+Bild↓ Seite · Alt+→ Kind · F8 Kind "
+                             "ohne Text"),
+                          tr("Bild↓ · 1–9 · Strg+Bild↓ · Alt+→ · F8")});
+}
+
+// Where the keys are told, until it was read.
+void EntryKeys::tell(const QString& sentence) {
+    constexpr int Reading = 5000;
+    m_hint->setTexts(sentence, {});
+    spoken::announce(*m_hint, sentence);
+    QTimer::singleShot(Reading, m_hint, [this] { tellKeys(); });
+}
 
 void EntryKeys::onKey(const QKeySequence& key, std::function<bool()> step) {
     auto* shortcut = new QShortcut(key, &m_window);

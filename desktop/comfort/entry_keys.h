@@ -11,6 +11,7 @@ class QLabel;
 
 namespace zeugnis {
 
+class ElidedLabel;
 class ScreenWindow;
 class WindowHost;
 
@@ -23,7 +24,7 @@ class EntryKeys : public QObject {
     EntryKeys(ScreenWindow& window, WindowHost& host, const Eingabeschirm& entry);
 
     /// The faint line that tells the keys.
-    [[nodiscard]] QLabel* hint() const { return m_hint; }
+    [[nodiscard]] QLabel* hint() const;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -32,13 +33,16 @@ class EntryKeys : public QObject {
     void onKey(const QKeySequence& key, std::function<bool()> step);
     void go(const std::function<bool()>& step);
     void showPlace();
+    void tell(const QString& sentence);
+    void tellKeys();
     [[nodiscard]] bool mayLeaveChild() const;
 
     ScreenWindow& m_window;
     WindowHost& m_host;
     Eingabeschirm m_entry;
     Eingabefluss m_flow;
-    QLabel* m_hint;
+    ElidedLabel* m_hint;
+    bool m_categories;
 };
 
 } // namespace zeugnis

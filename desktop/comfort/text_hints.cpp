@@ -84,6 +84,7 @@ TextHints::~TextHints() = default;
 void TextHints::knowledgeChanged() {
     m_knowledge = std::make_shared<Knowledge>(m_folder, m_behaviour);
     m_answers.clear();
+    m_hasAsked = false;
 }
 
 std::optional<std::vector<Text>> TextHints::of(const Textfrage& question) {
@@ -97,12 +98,13 @@ std::optional<std::vector<Text>> TextHints::of(const Textfrage& question) {
         return one.Seite == question.Seite && one.Kind == question.Kind;
     });
     m_questions.push_back(question);
-    m_timer.start(isNew ? 0 : Rest);
+    m_timer.start(m_hasAsked ? Rest : 0);
     return std::nullopt;
 }
 
 // A failure leaves the files to those who must read them: there are no hints then.
 void TextHints::ask() {
+    m_hasAsked = true;
     m_thread.post(
         [self = QPointer(this), knowledge = m_knowledge,
          questions = std::exchange(m_questions, {})](const CheckThread::Dictionary& dictionary) {

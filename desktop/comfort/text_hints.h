@@ -54,6 +54,7 @@ class TextHints : public QObject {
     std::shared_ptr<Knowledge> m_knowledge; ///< touched in the thread alone
     std::map<Place, Answer> m_answers;
     std::vector<Textfrage> m_questions; ///< to be asked
+    bool m_hasAsked = false;            ///< the texts that were there from the beginning
     QTimer m_timer;
 };
 
