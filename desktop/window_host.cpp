@@ -66,8 +66,10 @@ void WindowHost::refresh() {
             anyGone = anyGone || (wasVisible && !window->isVisible());
         }
     // Not whichever window the desktop would choose.
-    if (ScreenWindow* front = anyGone ? frontWindow() : nullptr)
+    if (ScreenWindow* front = anyGone ? frontWindow() : nullptr) {
+        front->raise(); // a report may have come between
         front->activateWindow();
+    }
     followFocus();
 }
 
