@@ -4,7 +4,6 @@
 #include "desktop/word_width.h"
 
 #include <QAccessible>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QShortcutEvent>
@@ -136,14 +135,6 @@ QSize TintedButton::widestText() const {
     if (m_widest.text != text() || m_widest.font != font() || m_widest.size.isEmpty())
         m_widest = {text(), font(), textSize(WidestLine)};
     return m_widest.size;
-}
-
-// Enter presses the button that has the focus, in a window as in a dialog.
-void TintedButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QPushButton::keyPressEvent(event);
 }
 
 void TintedButton::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }

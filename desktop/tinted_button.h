@@ -43,7 +43,6 @@ class TintedButton : public QPushButton {
     void paintEvent(QPaintEvent* event) override;
     /// A double click is one click; its second press does nothing.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     [[nodiscard]] int textFlags() const;

@@ -1,5 +1,6 @@
 #include "toolkit/look.h"
 
+#include "toolkit/enter_key.h"
 #include "toolkit/high_contrast.h"
 
 #include <QApplication>
@@ -84,6 +85,7 @@ void apply(QApplication& application, const QString& ownStyleSheet, const QPalet
     const std::optional<Colours> highContrast = highContrastOf(system);
     chosen() = highContrast.value_or(Colours());
     initResources();
+    EnterKey::install(application);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
     speakGerman(application);
     loadDeliveredFonts();
