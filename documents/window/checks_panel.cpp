@@ -1,6 +1,7 @@
 #include "documents/window/checks_panel.h"
 
 #include "platform/failure.h"
+#include "toolkit/flow_row.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/wrapped_entries.h"
 
@@ -82,18 +83,21 @@ ChecksPanel::ChecksPanel(Quelle quelle, QWidget* parent)
 
 QWidget* ChecksPanel::buttons() {
     auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = new FlowRow(6);
+    row->setLayout(layout);
+    m_text = new QPushButton(QStringLiteral("&Zum Text"));
+    m_text->setToolTip(QStringLiteral("Diesen Text im Zeugnisprogramm öffnen und ändern"));
     m_seen = new QPushButton(QStringLiteral("&Gesehen"));
     m_seen->setToolTip(QStringLiteral("Nicht mehr zeigen, bis der Text geändert wird"));
     m_learn = new QPushButton(QStringLiteral("&Wort merken"));
     m_learn->setToolTip(QStringLiteral("Diese Schreibung ist richtig, auch bei anderen Kindern"));
     m_compare = new QPushButton(QStringLiteral("&Nebeneinander"));
     m_compare->setToolTip(QStringLiteral("Die beiden Texte nebeneinander ansehen"));
-    layout->addWidget(m_seen);
-    layout->addWidget(m_learn);
-    layout->addWidget(m_compare);
-    layout->addStretch();
+    int place = 0;
+    for (QPushButton* button : {m_text, m_seen, m_learn, m_compare})
+        layout->insertWidget(place++, *button);
+    layout->alignRightFrom(place);
+    connect(m_text, &QPushButton::clicked, this, &ChecksPanel::lead);
     connect(m_seen, &QPushButton::clicked, this, [this] { finish(m_quelle.Gesehen); });
     connect(m_learn, &QPushButton::clicked, this, [this] { finish(m_quelle.Lernen); });
     connect(m_compare, &QPushButton::clicked, this, &ChecksPanel::compare);
@@ -153,12 +157,18 @@ const Befund* ChecksPanel::findingOf(const QListWidgetItem* item) const {
 
 void ChecksPanel::followSelection() {
     const Befund* befund = findingOf(m_list->currentItem());
+    m_text->setEnabled(befund != nullptr && !befund->Abschnitt.empty());
     m_seen->setEnabled(befund != nullptr);
     // One of the two only: a finding has words to learn, or twins.
     const bool hasTwins = befund != nullptr && !befund->Zwillinge.empty();
     m_compare->setVisible(hasTwins);
     m_learn->setVisible(!hasTwins);
     m_learn->setEnabled(befund != nullptr && !befund->Woerter.empty());
+}
+
+void ChecksPanel::lead() {
+    if (const Befund* befund = findingOf(m_list->currentItem()))
+        emit leading(*befund);
 }
 
 void ChecksPanel::compare() {

@@ -32,11 +32,14 @@ class ChecksPanel : public QWidget {
 
   signals:
     void chosen(const Befund& befund);
+    /// The text is to be opened where it is written.
+    void leading(const Befund& befund);
     /// The texts of twins are to be shown side by side.
     void comparing(const Befund& befund);
 
   private:
     QWidget* buttons();
+    void lead();
     void compare();
     void show();
     void choose(const QListWidgetItem* item);
@@ -49,6 +52,7 @@ class ChecksPanel : public QWidget {
     QLabel* m_summary;
     QComboBox* m_kind;
     QListWidget* m_list;
+    QPushButton* m_text = nullptr;
     QPushButton* m_seen = nullptr;
     QPushButton* m_learn = nullptr;
     QPushButton* m_compare = nullptr;

@@ -252,6 +252,7 @@ void PreviewWindow::goTo(int row) {
 void PreviewWindow::showChecks(const ChecksPanel::Quelle& quelle) {
     auto* panel = m_checks = new ChecksPanel(quelle);
     connect(panel, &ChecksPanel::chosen, this, &PreviewWindow::goToFinding);
+    connect(panel, &ChecksPanel::leading, this, &PreviewWindow::leadToText);
     connect(panel, &ChecksPanel::comparing, this, &PreviewWindow::showTwins);
     m_middle->addWidget(panel, 4);
     windowplace::place(*this, SizeWithChecks);

@@ -40,6 +40,8 @@ class PreviewWindow : public QWidget {
     [[nodiscard]] const Dokumentdateien& files() const { return m_anzeige.Dateien; }
     void load();
     void goToFinding(const Befund& befund);
+    /// To where a finding's text is written.
+    virtual void leadToText(const Befund& /*befund*/) {}
     /// The texts of a finding's children side by side.
     virtual void showTwins(const Befund& /*befund*/) {}
 

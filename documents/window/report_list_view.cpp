@@ -88,7 +88,30 @@ ReportListView::ReportListView(ReportListModel& model, QWidget* parent)
         measure();
     });
     measure();
-    setCurrentIndex(model.index(0, 0));
+    setCurrentIndex(firstGap());
+}
+
+// Where the work goes on: the first child without something that another one has.
+QModelIndex ReportListView::firstGap() const {
+    const auto isEmpty = [this](int row, int column) {
+        return m_model.index(row, column).data().toString().isEmpty();
+    };
+    const int rows = m_model.rowCount();
+    QModelIndex first = m_model.index(0, 0);
+    int best = rows;
+    for (int column = 0; column < m_model.columnCount(); ++column) {
+        int gap = 0;
+        while (gap < rows && !isEmpty(gap, column))
+            ++gap;
+        bool isInUse = gap > 0;
+        for (int row = gap + 1; row < rows && !isInUse; ++row)
+            isInUse = !isEmpty(row, column);
+        if (isInUse && gap < best) {
+            best = gap;
+            first = m_model.index(gap, column);
+        }
+    }
+    return first;
 }
 
 // Headings may have two lines. None is cut, however large the letters are; that of the current

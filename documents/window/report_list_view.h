@@ -34,8 +34,9 @@ class ReportListView : public QTableView {
 
   private:
     [[nodiscard]] QRect block() const; ///< the selected cells: columns and rows
-    bool step(int columns, int rows);
+    [[nodiscard]] QModelIndex firstGap() const;
     void measure();
+    bool step(int columns, int rows);
     void returnTo(const QModelIndex& cell);
     bool handleEditorKey(const QKeyEvent& event);
 

@@ -2,7 +2,6 @@
 
 #include "documents/app/report_files.h"
 #include "documents/app/temporary_folder.h"
-#include "documents/content/class_summary.h"
 #include "documents/content/class_texts.h"
 #include "documents/content/report_frame.h"
 #include "documents/window/layout_dialog.h"
@@ -29,10 +28,11 @@ const auto FilesTitle = QStringLiteral("Je Kind eine Datei");
 const auto ConferenceTitle = QStringLiteral("Konferenzblatt");
 const auto TextsTitle = QStringLiteral("Texte als CSV-Datei");
 
-bool ask(QWidget* parent, const QString& title, const QString& text, const QString& yes) {
-    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, parent);
+bool ask(QWidget* parent, QMessageBox::Icon sign, const QString& title, const QString& text,
+         const QString& yes, const QString& no) {
+    QMessageBox box(sign, title, text, QMessageBox::NoButton, parent);
     const QPushButton* take = box.addButton(yes, QMessageBox::AcceptRole);
-    QPushButton* leave = box.addButton(QStringLiteral("Abbrechen"), QMessageBox::RejectRole);
+    QPushButton* leave = box.addButton(no, QMessageBox::RejectRole);
     box.setDefaultButton(leave);
     box.exec();
     return box.clickedButton() == take;
@@ -65,7 +65,9 @@ ReportWindow::ReportWindow(Arbeitsverzeichnis programmordner, Nachschauen nachsc
 }
 
 bool ReportWindow::mayBeLost(const QString& title, const QString& question) {
-    return !IstBearbeitet(files()) || ask(this, title, question, QStringLiteral("Fortfahren"));
+    return !IstBearbeitet(files()) ||
+           ask(this, QMessageBox::Question, title, question, QStringLiteral("Fortfahren"),
+               QStringLiteral("Abbrechen"));
 }
 
 void ReportWindow::changeLayout() {
@@ -93,6 +95,30 @@ void ReportWindow::changeLayout() {
     }
 }
 
+bool ReportWindow::callText(const std::optional<Fundort>& place) const {
+    return place &&
+           callEntry(m_folder.programFolder(),
+                     {.child = place->Platz, .isBehaviour = place->IstAVSV, .page = place->Seite});
+}
+
+void ReportWindow::leadToText(const Befund& befund) {
+    try {
+        const Stammdaten school = StammdatenLesen(m_folder);
+        const std::optional<Fundort> place = FundortVon(school, befund.Abschnitt, befund.Platz);
+        if (callText(place))
+            return;
+        QMessageBox::information(
+            this, QStringLiteral("Zum Text"),
+            place ? QStringLiteral("Der Text lässt sich gerade nicht öffnen. Das Zeugnisprogramm "
+                                   "muss mit dieser Klasse offen sein, und kein Fenster darf dort "
+                                   "auf eine Antwort warten.")
+                  : QStringLiteral("Die Noten und Versäumnisse tragen Sie in der Zeugnisliste "
+                                   "ein."));
+    } catch (const Laufzeitfehler& failure) {
+        QMessageBox::warning(this, QStringLiteral("Zum Text"), qString(failure.sentence()));
+    }
+}
+
 // In the entry window if the program is open, else on the page.
 void ReportWindow::showTwins(const Befund& befund) {
     try {
@@ -107,9 +133,7 @@ void ReportWindow::showTwins(const Befund& befund) {
                     one.text = abschnitt.Inhalt;
             const std::optional<Fundort> ort = FundortVon(daten.Stamm, befund.Abschnitt, platz);
             one.lead = [this, ort, platz, name = one.name, befund] {
-                if (ort && callEntry(m_folder.programFolder(), {.child = ort->Platz,
-                                                                .isBehaviour = ort->IstAVSV,
-                                                                .page = ort->Seite}))
+                if (callText(ort))
                     return;
                 Befund dort = befund;
                 dort.Platz = platz;
@@ -163,10 +187,10 @@ void ReportWindow::writeOneForEach() {
                              Arbeitsverzeichnis verzeichnis = m_folder;
                              return EinzelneZeugnisseSchreiben(verzeichnis, abbruch);
                          });
-        if (ask(this, FilesTitle,
+        if (ask(this, QMessageBox::Information, FilesTitle,
                 QStringLiteral("Die Dateien liegen im Ordner „%1“.")
                     .arg(QString::fromStdU16String(folder.filename().u16string())),
-                QStringLiteral("Ordner &öffnen")))
+                QStringLiteral("Ordner &öffnen"), QStringLiteral("&Schließen")))
             QDesktopServices::openUrl(
                 QUrl::fromLocalFile(QString::fromStdU16String(folder.u16string())));
     } catch (const Laufzeitfehler& failure) {

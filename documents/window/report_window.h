@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/content/class_summary.h"
 #include "documents/window/preview_window.h"
 
 namespace zeugnis::dokumente {
@@ -16,9 +17,11 @@ class ReportWindow : public PreviewWindow {
                  std::function<void()> neuSchreiben, std::function<void()> konferenzblatt);
 
   protected:
+    void leadToText(const Befund& befund) override;
     void showTwins(const Befund& befund) override;
 
   private:
+    bool callText(const std::optional<Fundort>& place) const;
     void changeLayout();
     void writeOneForEach();
     void showConferenceSheet();

@@ -93,6 +93,22 @@ class ReportListWindowTest : public testing::Test {
     }
 };
 
+TEST_F(ReportListWindowTest, OpensWhereTheFirstChildLacksWhatAnotherHas) {
+    EXPECT_EQ(view->currentIndex(), view->model()->index(0, 0)) << "nothing is entered";
+    keys("1");
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    keys("2");
+    press(Qt::Key_Down);
+    press(Qt::Key_Left);
+    press(Qt::Key_Left);
+    keys("3");
+    press(Qt::Key_Return);
+    open(false);
+    EXPECT_EQ(cells(3), "1 . 2|3 . .|");
+    EXPECT_EQ(view->currentIndex(), view->model()->index(1, 2)) << "nobody was absent unexcused";
+}
+
 TEST_F(ReportListWindowTest, IsFilledInLikeASpreadsheetAndSavesAtOnce) {
     keys("12");
     press(Qt::Key_Tab);

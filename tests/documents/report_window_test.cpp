@@ -2,6 +2,7 @@
 #include "documents/window/layout_dialog.h"
 #include "documents/window/report_window.h"
 #include "tests/documents/report_installation.h"
+#include "toolkit/entry_call.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +11,10 @@
 #include <QDialogButtonBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -115,6 +118,59 @@ TEST_F(ReportWindowTest, TheLayoutShowsEachChoiceOnThePagesAndKeepsIt) {
     EXPECT_TRUE(ZeugnisaufbauLesen(verzeichnis) == expected);
     if (const char* keep = std::getenv("KEEP_CLASSES"))
         dialog.grab().save(QString::fromUtf8(keep) + QStringLiteral("/layout.png"));
+}
+
+TEST_F(ReportWindowTest, AHintLeadsToItsTextInTheProgramThatIsOpen) {
+    // The other program; it answers while this one waits.
+    QThread thread;
+    auto* other = new QObject;
+    other->moveToThread(&thread);
+    QObject::connect(&thread, &QThread::finished, other, &QObject::deleteLater);
+    thread.start();
+    std::vector<EntryPlace> asked;
+    QMetaObject::invokeMethod(
+        other,
+        [&] {
+            auto* server = new EntryCallServer(installation.path(), [&](const EntryPlace& place) {
+                asked.push_back(place);
+                return true;
+            });
+            server->setParent(other);
+        },
+        Qt::BlockingQueuedConnection);
+
+    const Aufruf call{.Dokument = u"ZeugnisseSchreiben.doc", .Makro = u"ZeugnisseSchreiben"};
+    const Dokumentdateien files = DokumentBereitstellen(verzeichnis, call);
+    ReportWindow window(
+        verzeichnis, [&] { return AnzeigeFinden(files, [](const auto&) { return std::nullopt; }); },
+        [] {}, [] {});
+    window.showChecks({.Pruefen =
+                           [] {
+                               return std::vector<Befund>{
+                                   {.Satz = u"Die Zeugnisliste ist noch nicht angelegt."},
+                                   {.Platz = 1, .Abschnitt = u"Sozialverhalten", .Satz = u"leer"}};
+                           },
+                       .Gesehen = [](const Befund&) {},
+                       .Lernen = [](const Befund&) {}});
+    window.show();
+    auto* list = window.findChild<ChecksPanel*>()->findChild<QListWidget*>();
+    const auto isOffered = [&](int row) {
+        list->setCurrentRow(row);
+        for (QPushButton* button : window.findChildren<QPushButton*>())
+            if (button->text() == QStringLiteral("&Zum Text") && button->isEnabled()) {
+                button->click();
+                return true;
+            }
+        return false;
+    };
+    EXPECT_FALSE(isOffered(0)) << "no text";
+    EXPECT_TRUE(isOffered(list->count() - 1));
+    thread.quit();
+    thread.wait();
+    ASSERT_EQ(asked.size(), 1U);
+    EXPECT_EQ(asked[0].child, 1);
+    EXPECT_TRUE(asked[0].isBehaviour);
+    EXPECT_EQ(asked[0].page, 1);
 }
 
 TEST_F(ReportWindowTest, ANewLayoutIsWrittenAndShownAndAnEditedDocumentIsNotLostUnasked) {
