@@ -6,6 +6,7 @@
 #include "desktop/folders/recent_classes.h"
 #include "desktop/rescue/net.h"
 #include "desktop/theme.h"
+#include "desktop/user_settings.h"
 #include "desktop/window_host.h"
 #include "desktop/word_launcher.h"
 #include "folders/diagnosis.h"
@@ -54,6 +55,7 @@ int run(const TakenClass& taken) {
     BildschirmeAnmelden(program);
 
     WindowHost host(program);
+    const RememberedComfort remembered(host);
     BusyWrites watcher(host.busyPointer(), guard);
     program.directory().watchWrites(&watcher);
     dialogs.parent = [&host] { return host.dialogParent(); };

@@ -96,7 +96,7 @@ class WindowHost : public QObject {
     [[nodiscard]] const WindowPlace* placed(const Text& screen) const;
     void remember(const Text& screen, const WindowPlace& place) { m_places[screen] = place; }
 
-    /// Whether the report stands beside the input; kept as long as the program runs.
+    /// Whether the report stands beside the input.
     bool reportBeside = false;
 
   signals:

@@ -1,5 +1,6 @@
 #include "desktop/folders/recent_classes.h"
 
+#include "desktop/user_settings.h"
 #include "toolkit/qt_text.h"
 
 #include <QSettings>
@@ -10,14 +11,9 @@ namespace {
 
 constexpr qsizetype Most = 12;
 
-QSettings settings() {
-    return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Zeugnisprogramm"),
-            QStringLiteral("Zeugnisprogramm")};
-}
-
 QString key() { return QStringLiteral("Klassen/zuletzt"); }
 
-QStringList names() { return settings().value(key()).toStringList(); }
+QStringList names() { return userSettings().value(key()).toStringList(); }
 
 QStringList without(const QString& folder) {
     QStringList all = names();
@@ -36,11 +32,11 @@ std::vector<std::filesystem::path> list() {
 
 void remember(const std::filesystem::path& folder) {
     const QString name = qPath(folder);
-    settings().setValue(key(), (QStringList{name} + without(name)).mid(0, Most));
+    userSettings().setValue(key(), (QStringList{name} + without(name)).mid(0, Most));
 }
 
 void forget(const std::filesystem::path& folder) {
-    settings().setValue(key(), without(qPath(folder)));
+    userSettings().setValue(key(), without(qPath(folder)));
 }
 
 } // namespace zeugnis::recentclasses

@@ -1,3 +1,4 @@
+#include "desktop/comfort/spelling.h"
 #include "desktop/folders/class_fields.h"
 #include "desktop/folders/first_start_window.h"
 #include "desktop/folders/module_update_window.h"
@@ -5,6 +6,8 @@
 #include "desktop/folders/new_class_window.h"
 #include "desktop/folders/recent_classes.h"
 #include "desktop/folders/take_along_window.h"
+#include "desktop/user_settings.h"
+#include "desktop/window_host.h"
 #include "folders/new_class.h"
 #include "tests/support/test_programm.h"
 #include "toolkit/qt_text.h"
@@ -169,6 +172,18 @@ TEST_F(ClassFolders, AClassWithoutAnyEntryCanBeOpened) {
     EmptyProgramm machine(taken.folder);
     BildschirmeAnmelden(machine.programm);
     EXPECT_NO_THROW(machine.programm.show(u"GsStart"));
+}
+
+TEST_F(ClassFolders, WhatAUserHasSwitchedStaysSwitchedInTheNextRun) {
+    for (const bool isFirst : {true, false}) {
+        EmptyProgramm machine(root.path());
+        WindowHost host(machine.programm);
+        const RememberedComfort remembered(host);
+        EXPECT_EQ(host.reportBeside, !isFirst);
+        EXPECT_EQ(Spelling::of(host).isOn(), isFirst);
+        host.reportBeside = true;
+        Spelling::of(host).switchOn(false);
+    }
 }
 
 TEST_F(ClassFolders, WhatCannotBeOpenedIsToldAndTheWindowStays) {
