@@ -1,23 +1,30 @@
 #include "desktop/comfort/check_thread.h"
 
 #include "checks/hunspell_spelling.h"
+#include "controls/program.h"
+#include "desktop/comfort/class_knowledge.h"
 #include "desktop/window_host.h"
 
 #include <optional>
+#include <utility>
 
 namespace zeugnis {
 
 CheckThread& CheckThread::of(WindowHost& host) {
     if (auto* thread = host.findChild<CheckThread*>())
         return *thread;
-    return *new CheckThread(&host);
+    return *new CheckThread(host.program().directory().programFolder(), &host);
 }
 
-CheckThread::CheckThread(QObject* parent) : QObject(parent) {
+CheckThread::CheckThread(std::filesystem::path programFolder, QObject* parent)
+    : QObject(parent), m_folder(std::move(programFolder)) {
+    readAnew();
     m_thread = std::jthread([this](const std::stop_token& stop) { work(stop); });
 }
 
 CheckThread::~CheckThread() = default;
+
+void CheckThread::readAnew() { m_knowledge = std::make_shared<ClassKnowledge>(m_folder); }
 
 void CheckThread::post(Task task) {
     {

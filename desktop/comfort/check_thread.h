@@ -4,16 +4,20 @@
 
 #include <condition_variable>
 #include <deque>
+#include <filesystem>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 
 namespace zeugnis {
 
+class ClassKnowledge;
 class Rechtschreibung;
 class WindowHost;
 
-/// A thread with the German dictionary, for checks that must keep no window waiting.
+/// A thread with the German dictionary and what is known of the class, for checks that must keep no
+/// window waiting.
 class CheckThread : public QObject {
     Q_OBJECT
 
@@ -21,7 +25,7 @@ class CheckThread : public QObject {
     /// The one that all windows share; made when it is first asked for.
     static CheckThread& of(WindowHost& host);
 
-    explicit CheckThread(QObject* parent);
+    CheckThread(std::filesystem::path programFolder, QObject* parent);
     ~CheckThread() override;
 
     /// Loads the dictionary the first time; null where there is no German one.
@@ -33,6 +37,11 @@ class CheckThread : public QObject {
     /// program ends is left.
     void post(Task task);
 
+    /// What a task is to use of the class, besides; read by the first one.
+    [[nodiscard]] const std::shared_ptr<ClassKnowledge>& knowledge() const { return m_knowledge; }
+    /// The files of the class may have changed.
+    void readAnew();
+
   signals:
     /// More words are known than before.
     void wordsLearnt();
@@ -40,6 +49,8 @@ class CheckThread : public QObject {
   private:
     void work(const std::stop_token& stop);
 
+    std::filesystem::path m_folder;
+    std::shared_ptr<ClassKnowledge> m_knowledge;
     std::mutex m_mutex;
     std::condition_variable_any m_more;
     std::deque<Task> m_tasks;

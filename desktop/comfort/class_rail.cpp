@@ -70,8 +70,7 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
       m_window(window),
       m_host(host),
       m_entry(entry),
-      m_hints(new TextHints(CheckThread::of(host), host.program().directory().programFolder(),
-                            entry, this)),
+      m_hints(new TextHints(CheckThread::of(host), entry, this)),
       m_overview(entry),
       m_sentence(new QLabel(this)),
       m_hintButton(new QPushButton(&window)),
@@ -252,6 +251,7 @@ bool ClassRail::eventFilter(QObject* watched, QEvent* event) {
         foldIfNarrow();
     // In the report window words may have been learnt, and hints been marked as seen.
     if (event->type() == QEvent::WindowActivate) {
+        CheckThread::of(m_host).readAnew();
         m_hints->knowledgeChanged();
         m_overview.NeuPruefen();
         QMetaObject::invokeMethod(m_hints, &TextHints::found, Qt::QueuedConnection);

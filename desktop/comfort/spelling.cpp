@@ -3,47 +3,20 @@
 #include "checks/text_checks.h"
 #include "common/screen_names.h"
 #include "desktop/comfort/check_thread.h"
+#include "desktop/comfort/class_knowledge.h"
 #include "desktop/comfort/spelling_marks.h"
 #include "desktop/screen_window.h"
 #include "desktop/window_host.h"
 #include "documents/content/report_marks.h"
-#include "documents/content/report_text_checks.h"
 #include "toolkit/qt_text.h"
 
 #include <QCoreApplication>
 #include <QPointer>
 
 #include <array>
-#include <exception>
 #include <utility>
 
 namespace zeugnis {
-
-using namespace dokumente;
-
-/// What is known beside the dictionary.
-struct Spelling::Knowledge {
-    explicit Knowledge(std::filesystem::path programFolder) : folder(std::move(programFolder)) {}
-
-    // Files that cannot be read are told of by those who must read them.
-    void readOnce() {
-        if (std::exchange(isRead, true))
-            return;
-        try {
-            Arbeitsverzeichnis directory(folder);
-            known = NamenDerKlasse(StammdatenLesen(directory));
-            known.merge(GelernteLesen(directory));
-            modules = BausteinwoerterLesen(directory);
-        } catch (const std::exception&) {
-            return;
-        }
-    }
-
-    std::filesystem::path folder;
-    bool isRead = false;
-    std::set<Text> known;
-    Bausteinwoerter modules;
-};
 
 namespace {
 
@@ -84,17 +57,11 @@ Spelling& Spelling::of(WindowHost& host) {
 }
 
 Spelling::Spelling(WindowHost& host)
-    : QObject(&host), m_host(host), m_thread(CheckThread::of(host)) {
-    readAnew();
-}
-
-void Spelling::readAnew() {
-    m_knowledge = std::make_shared<Knowledge>(m_host.program().directory().programFolder());
-}
+    : QObject(&host), m_host(host), m_thread(CheckThread::of(host)) {}
 
 void Spelling::lookUp(const QString& text, Purpose purpose, QObject* receiver,
                       std::function<void(const Marks&)> found) {
-    m_thread.post([knowledge = m_knowledge, text = text.toStdU16String(), purpose,
+    m_thread.post([knowledge = m_thread.knowledge(), text = text.toStdU16String(), purpose,
                    receiver = QPointer(receiver),
                    found = std::move(found)](const CheckThread::Dictionary& dictionary) {
         Marks marks;
@@ -128,9 +95,10 @@ void Spelling::suggest(const QString& word, QObject* receiver,
 }
 
 void Spelling::learn(const QString& word) {
-    m_host.run([&] { WoerterLernen(m_host.program().directory(), {fromQString(word)}); });
+    m_host.run(
+        [&] { dokumente::WoerterLernen(m_host.program().directory(), {fromQString(word)}); });
+    m_thread.readAnew();
     emit m_thread.wordsLearnt();
-    readAnew();
     emit changed();
 }
 
@@ -144,7 +112,7 @@ void addSpelling(ScreenWindow& window, const Screen& screen, WindowHost& host) {
         if (watched.screen != screen.name())
             continue;
         Spelling& spelling = Spelling::of(host);
-        spelling.readAnew();
+        CheckThread::of(host).readAnew(); // the master data may have changed
         for (TextEditor* editor : window.findChildren<TextEditor*>())
             new SpellingMarks(*editor, spelling, watched.purpose);
     }

@@ -4,9 +4,7 @@
 
 #include <QObject>
 
-#include <filesystem>
 #include <functional>
-#include <memory>
 
 namespace zeugnis {
 
@@ -45,20 +43,15 @@ class Spelling : public QObject {
     [[nodiscard]] bool isOn() const { return m_on; }
     void switchOn(bool on);
 
-    /// The master data may have changed.
-    void readAnew();
-
   signals:
     /// What was looked up may have another answer now.
     void changed();
 
   private:
     explicit Spelling(WindowHost& host);
-    struct Knowledge;
 
     WindowHost& m_host;
     CheckThread& m_thread;
-    std::shared_ptr<Knowledge> m_knowledge; ///< touched in the thread alone
     bool m_on = true;
 };
 

@@ -1,6 +1,7 @@
 #include "desktop/comfort/text_hints.h"
 
 #include "desktop/comfort/check_thread.h"
+#include "desktop/comfort/class_knowledge.h"
 #include "documents/content/report_marks.h"
 #include "documents/content/report_sections.h"
 
@@ -16,65 +17,54 @@ namespace zeugnis {
 
 using namespace dokumente;
 
-/// What texts are held against, read in the thread before the first of them.
-struct TextHints::Knowledge {
-    Knowledge(std::filesystem::path programFolder, bool behaviour)
-        : folder(std::move(programFolder)),
-          source(behaviour ? Abschnittsplan::Quelle::AVSV : Abschnittsplan::Quelle::Bereiche) {}
+namespace {
 
-    void read() {
-        Arbeitsverzeichnis directory(folder);
-        school = StammdatenLesen(directory);
-        sections = AbschnitteFuer(school.Jahrgang, school.Aufbau);
-        modules = BausteinwoerterLesen(directory);
-        means = {.Platzhalter = PlatzhalterLesen(directory),
-                 .Bausteine = &modules,
-                 .Gelernte = GelernteLesen(directory)};
-        seen = GeseheneLesen(directory);
-    }
+std::vector<Text> findings(const ClassKnowledge& knowledge, const Pruefmittel& means,
+                           Abschnittsplan::Quelle source, const Textfrage& question) {
+    const std::vector<Abschnittsplan> sections =
+        AbschnitteFuer(knowledge.school.Jahrgang, knowledge.school.Aufbau);
+    const auto section =
+        std::find_if(sections.begin(), sections.end(), [&](const Abschnittsplan& one) {
+            return one.Woher == source && one.Nummer == static_cast<size_t>(question.Seite);
+        });
+    if (section == sections.end())
+        return {};
+    const TextView last =
+        std::find_if(sections.rbegin(), sections.rend(), [](const Abschnittsplan& one) {
+            return one.Woher != Abschnittsplan::Quelle::Noten;
+        })->Ueberschrift;
+    std::vector<Text> sentences;
+    for (const Befund& finding : AbschnittPruefen(knowledge.school, means,
+                                                  {.Platz = question.Kind,
+                                                  .Ueberschrift = section->Ueberschrift,
+                                                  .Inhalt = question.Inhalt,
+                                                  .NenntVersetzung = section->Ueberschrift == last,
+                                                  .Zwillinge = question.Zwillinge}))
+        if (!knowledge.seen.contains(finding.Vermerk))
+            sentences.push_back(finding.Satz);
+    return sentences;
+}
 
-    [[nodiscard]] std::vector<Text> findings(const Textfrage& question) const {
-        const auto section =
-            std::find_if(sections.begin(), sections.end(), [&](const Abschnittsplan& one) {
-                return one.Woher == source && one.Nummer == static_cast<size_t>(question.Seite);
-            });
-        if (section == sections.end())
-            return {};
-        const TextView last =
-            std::find_if(sections.rbegin(), sections.rend(), [](const Abschnittsplan& one) {
-                return one.Woher != Abschnittsplan::Quelle::Noten;
-            })->Ueberschrift;
-        std::vector<Text> sentences;
-        for (const Befund& finding :
-             AbschnittPruefen(school, means,
-                              {.Platz = question.Kind,
-                              .Ueberschrift = section->Ueberschrift,
-                              .Inhalt = question.Inhalt,
-                              .NenntVersetzung = section->Ueberschrift == last,
-                              .Zwillinge = question.Zwillinge}))
-            if (!seen.contains(finding.Vermerk))
-                sentences.push_back(finding.Satz);
-        return sentences;
-    }
+std::vector<std::vector<Text>> answersTo(const std::vector<Textfrage>& questions,
+                                         ClassKnowledge& knowledge, Abschnittsplan::Quelle source,
+                                         const CheckThread::Dictionary& dictionary) {
+    std::vector<std::vector<Text>> answers(questions.size());
+    knowledge.readOnce();
+    if (!knowledge.isWhole())
+        return answers;
+    const Pruefmittel means{.Platzhalter = knowledge.placeholders,
+                            .Bausteine = &knowledge.modules,
+                            .Woerterbuch = dictionary(),
+                            .Gelernte = knowledge.learnt};
+    for (size_t i = 0; i < questions.size(); ++i)
+        answers[i] = findings(knowledge, means, source, questions[i]);
+    return answers;
+}
 
-    std::filesystem::path folder;
-    Abschnittsplan::Quelle source;
-    bool isRead = false;
-    bool isUsable = false;
-    Stammdaten school;
-    std::vector<Abschnittsplan> sections;
-    Bausteinwoerter modules;
-    Pruefmittel means;
-    std::set<Text> seen;
-};
+} // namespace
 
-TextHints::TextHints(CheckThread& thread, std::filesystem::path programFolder,
-                     const Eingabeschirm& entry, QObject* parent)
-    : QObject(parent),
-      m_thread(thread),
-      m_folder(std::move(programFolder)),
-      m_behaviour(!entry.Kategorien.empty()),
-      m_knowledge(std::make_shared<Knowledge>(m_folder, m_behaviour)) {
+TextHints::TextHints(CheckThread& thread, const Eingabeschirm& entry, QObject* parent)
+    : QObject(parent), m_thread(thread), m_behaviour(!entry.Kategorien.empty()) {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &TextHints::ask);
 }
@@ -82,7 +72,6 @@ TextHints::TextHints(CheckThread& thread, std::filesystem::path programFolder,
 TextHints::~TextHints() = default;
 
 void TextHints::knowledgeChanged() {
-    m_knowledge = std::make_shared<Knowledge>(m_folder, m_behaviour);
     m_answers.clear();
     m_hasAsked = false;
 }
@@ -105,18 +94,14 @@ std::optional<std::vector<Text>> TextHints::of(const Textfrage& question) {
 // A failure leaves the files to those who must read them: there are no hints then.
 void TextHints::ask() {
     m_hasAsked = true;
+    const auto source =
+        m_behaviour ? Abschnittsplan::Quelle::AVSV : Abschnittsplan::Quelle::Bereiche;
     m_thread.post(
-        [self = QPointer(this), knowledge = m_knowledge,
+        [self = QPointer(this), knowledge = m_thread.knowledge(), source,
          questions = std::exchange(m_questions, {})](const CheckThread::Dictionary& dictionary) {
             std::vector<std::vector<Text>> answers(questions.size());
             try {
-                if (!std::exchange(knowledge->isRead, true)) {
-                    knowledge->read();
-                    knowledge->isUsable = true;
-                }
-                knowledge->means.Woerterbuch = dictionary();
-                for (size_t i = 0; knowledge->isUsable && i < questions.size(); ++i)
-                    answers[i] = knowledge->findings(questions[i]);
+                answers = answersTo(questions, *knowledge, source, dictionary);
             } catch (const std::exception&) {
                 answers.assign(questions.size(), {});
             }

@@ -5,9 +5,7 @@
 #include <QObject>
 #include <QTimer>
 
-#include <filesystem>
 #include <map>
-#include <memory>
 
 namespace zeugnis {
 
@@ -20,8 +18,7 @@ class TextHints : public QObject {
     Q_OBJECT
 
   public:
-    TextHints(CheckThread& thread, std::filesystem::path programFolder, const Eingabeschirm& entry,
-              QObject* parent);
+    TextHints(CheckThread& thread, const Eingabeschirm& entry, QObject* parent);
     ~TextHints() override;
 
     /// For Klassenuebersicht. Nothing as long as it is not found; then found() comes.
@@ -34,7 +31,6 @@ class TextHints : public QObject {
     void found();
 
   private:
-    struct Knowledge;
     struct Answer {
         Textfrage question;
         bool known = false;
@@ -49,9 +45,7 @@ class TextHints : public QObject {
     static constexpr int Rest = 700;
 
     CheckThread& m_thread;
-    std::filesystem::path m_folder;
     bool m_behaviour;
-    std::shared_ptr<Knowledge> m_knowledge; ///< touched in the thread alone
     std::map<Place, Answer> m_answers;
     std::vector<Textfrage> m_questions; ///< to be asked
     bool m_hasAsked = false;            ///< the texts that were there from the beginning
