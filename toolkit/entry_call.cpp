@@ -1,29 +1,18 @@
 #include "toolkit/entry_call.h"
 
-#include "toolkit/qt_text.h"
+#include "toolkit/local_name.h"
 
-#include <QCryptographicHash>
-#include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
 
 namespace zeugnis {
 namespace {
 
+constexpr const char* Purpose = "text";
 constexpr int ConnectMs = 300;
 constexpr int AnswerMs = 1700;
 constexpr const char* Done = "ok";
 constexpr int Numbers = 3;
-
-// Of the user's own, so that nobody else's window is called.
-QString serverName(const std::filesystem::path& folder) {
-    std::error_code ignored;
-    const std::filesystem::path whole = std::filesystem::weakly_canonical(folder, ignored);
-    const QString key = QDir::homePath() + u'\n' + qPath(whole.empty() ? folder : whole);
-    const QByteArray hash =
-        QCryptographicHash::hash(key.toLower().toUtf8(), QCryptographicHash::Sha256).toHex();
-    return QStringLiteral("zeugnisprogramm-") + QString::fromLatin1(hash.left(24));
-}
 
 } // namespace
 
@@ -33,7 +22,7 @@ EntryCallServer::EntryCallServer(const std::filesystem::path& programFolder,
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server, &QLocalServer::newConnection, this, &EntryCallServer::answer);
     // One that a killed process has left; the folder is locked against a second program.
-    const QString name = serverName(programFolder);
+    const QString name = localName(Purpose, programFolder);
     QLocalServer::removeServer(name);
     m_server->listen(name);
 }
@@ -57,7 +46,7 @@ void EntryCallServer::answer() {
 
 bool callEntry(const std::filesystem::path& programFolder, const EntryPlace& place) {
     QLocalSocket socket;
-    socket.connectToServer(serverName(programFolder));
+    socket.connectToServer(localName(Purpose, programFolder));
     if (!socket.waitForConnected(ConnectMs))
         return false;
     socket.write(QStringLiteral("%1 %2 %3\n")

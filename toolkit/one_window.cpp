@@ -1,7 +1,7 @@
 #include "toolkit/one_window.h"
 
-#include <QCryptographicHash>
-#include <QDir>
+#include "toolkit/local_name.h"
+
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QWidget>
@@ -9,20 +9,10 @@
 namespace zeugnis {
 namespace {
 
+constexpr const char* Purpose = "window";
 constexpr int ConnectMs = 300;
 constexpr int AnswerMs = 1700;
 constexpr const char* Answer = "ok";
-
-// Of the user's own, so that nobody else's window is called.
-QString serverName(const std::filesystem::path& opened) {
-    std::error_code ignored;
-    const std::filesystem::path whole = std::filesystem::weakly_canonical(opened, ignored);
-    const QString key = QDir::homePath() + u'\n' +
-                        QString::fromStdU16String((whole.empty() ? opened : whole).u16string());
-    const QByteArray hash =
-        QCryptographicHash::hash(key.toLower().toUtf8(), QCryptographicHash::Sha256).toHex();
-    return QStringLiteral("zeugnisprogramm-") + QString::fromLatin1(hash.left(24));
-}
 
 } // namespace
 
@@ -30,7 +20,7 @@ OneWindow::OneWindow(const std::filesystem::path& opened, std::function<QWidget*
     : m_server(new QLocalServer(this)), m_window(std::move(window)) {
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
     connect(m_server, &QLocalServer::newConnection, this, &OneWindow::comeToFront);
-    const QString name = serverName(opened);
+    const QString name = localName(Purpose, opened);
     if (m_server->listen(name) || bringToFront(opened))
         return;
     // Left by a process that was killed.
@@ -40,7 +30,7 @@ OneWindow::OneWindow(const std::filesystem::path& opened, std::function<QWidget*
 
 bool OneWindow::bringToFront(const std::filesystem::path& opened) {
     QLocalSocket socket;
-    socket.connectToServer(serverName(opened));
+    socket.connectToServer(localName(Purpose, opened));
     return socket.waitForConnected(ConnectMs) && socket.waitForReadyRead(AnswerMs) &&
            socket.readAll() == Answer;
 }

@@ -1,3 +1,4 @@
+#include "toolkit/entry_call.h"
 #include "toolkit/one_window.h"
 
 #include <gtest/gtest.h>
@@ -32,6 +33,14 @@ TEST(OneWindow, IsBroughtToTheFrontInsteadOfASecondOne) {
     EXPECT_FALSE(called(folder.parent_path() / "3aZeugnisse32.doc"));
     open.reset();
     EXPECT_FALSE(called(folder / "3aZeugnisse32.doc"));
+}
+
+TEST(OneWindow, OfAClassIsFoundBesideTheWayToItsTexts) {
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "Klasse 3a";
+    QWidget window;
+    const OneWindow open(folder, [&] { return &window; });
+    const EntryCallServer texts(folder, [](const EntryPlace&) { return true; });
+    EXPECT_TRUE(called(folder));
 }
 
 } // namespace
