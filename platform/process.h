@@ -25,6 +25,10 @@ std::vector<Text> programArguments(int argc, char** argv);
 /// The file of the running program.
 std::filesystem::path programFile();
 
+/// Allows another program to bring its window to the front: Windows refuses that without leave of
+/// the one that the user has just clicked or started.
+void letOthersComeToFront();
+
 /// Keeps line ends in standard input and output as they are.
 void useBinaryStreams();
 

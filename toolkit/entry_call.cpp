@@ -1,5 +1,6 @@
 #include "toolkit/entry_call.h"
 
+#include "platform/process.h"
 #include "toolkit/local_name.h"
 
 #include <QLocalServer>
@@ -45,6 +46,7 @@ void EntryCallServer::answer() {
 }
 
 bool callEntry(const std::filesystem::path& programFolder, const EntryPlace& place) {
+    letOthersComeToFront();
     QLocalSocket socket;
     socket.connectToServer(localName(Purpose, programFolder));
     if (!socket.waitForConnected(ConnectMs))

@@ -1,5 +1,6 @@
 #include "toolkit/one_window.h"
 
+#include "platform/process.h"
 #include "toolkit/local_name.h"
 
 #include <QLocalServer>
@@ -29,6 +30,7 @@ OneWindow::OneWindow(const std::filesystem::path& opened, std::function<QWidget*
 }
 
 bool OneWindow::bringToFront(const std::filesystem::path& opened) {
+    letOthersComeToFront();
     QLocalSocket socket;
     socket.connectToServer(localName(Purpose, opened));
     return socket.waitForConnected(ConnectMs) && socket.waitForReadyRead(AnswerMs) &&

@@ -104,6 +104,10 @@ std::filesystem::path programFile() {
     return std::filesystem::read_symlink("/proc/self/exe", ignored);
 }
 
+void letOthersComeToFront() {
+    // They may.
+}
+
 void useBinaryStreams() {
     // They are.
 }

@@ -114,6 +114,8 @@ std::filesystem::path programFile() {
     return name;
 }
 
+void letOthersComeToFront() { ::AllowSetForegroundWindow(ASFW_ANY); }
+
 void useBinaryStreams() {
     for (std::FILE* stream : {stdin, stdout, stderr})
         ::_setmode(::_fileno(stream), _O_BINARY);
