@@ -5,6 +5,8 @@ set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 project=$(cd "$here/../.." && pwd)
 host=x86_64-w64-mingw32
+# icupkg lies where not everybody looks.
+PATH=$PATH:/usr/sbin
 jobs=${JOBS:-$(nproc)}
 
 # use_folder FOLDER: where sources, libraries and builds are kept.
