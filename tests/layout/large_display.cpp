@@ -3,7 +3,6 @@
 #include "tests/window_driver/offscreen_display.h"
 
 #include <QApplication>
-#include <QDir>
 
 namespace zeugnis::test {
 namespace {
@@ -15,11 +14,10 @@ char* arguments[] = {programName, nullptr};
 
 } // namespace
 
-LargeDisplay::LargeDisplay() : m_display(QDir::tempPath() + QStringLiteral("/display-XXXXXX")) {
+LargeDisplay::LargeDisplay() {
     // Without a display there is much that a window asks for in vain.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    useOffscreenDisplay(m_display, {2560, 1600});
-    m_application = std::make_unique<QApplication>(argumentCount, arguments);
+    m_application = offscreenApplication({2560, 1600}, argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
 }
 

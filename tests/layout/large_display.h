@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QTemporaryFile>
-
 #include <memory>
 
 class QApplication;
@@ -15,7 +13,6 @@ class LargeDisplay {
     ~LargeDisplay();
 
   private:
-    QTemporaryFile m_display;
     std::unique_ptr<QApplication> m_application;
 };
 

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QSize>
+#include <memory>
 
-class QTemporaryFile;
+class QApplication;
+class QSize;
 
 namespace zeugnis::test {
 
-/// Gives the application that is made next a display of this size that is not there. Its
-/// description lies in the file as long as that lives.
-void useOffscreenDisplay(QTemporaryFile& description, QSize size);
+/// An application on a display of this size that is not there. The arguments have to outlive it.
+std::unique_ptr<QApplication> offscreenApplication(QSize display, int& argumentCount,
+                                                   char** arguments);
 
 } // namespace zeugnis::test

@@ -4,7 +4,6 @@
 #include "tests/window_driver/offscreen_display.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QStyleHints>
 #include <QTimer>
 
@@ -29,11 +28,10 @@ void leaveOutPlatformNotes(QtMsgType /*type*/, const QMessageLogContext& context
 
 } // namespace
 
-Stage::Stage() : m_display(QDir::tempPath() + QStringLiteral("/display-XXXXXX")) {
+Stage::Stage() {
     qInstallMessageHandler(leaveOutPlatformNotes);
     // As large as the smallest display that teachers have.
-    test::useOffscreenDisplay(m_display, {1280, 800});
-    m_application = std::make_unique<QApplication>(argumentCount, arguments);
+    m_application = test::offscreenApplication({1280, 800}, argumentCount, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setCursorFlashTime(0);
     theme::apply(*m_application);

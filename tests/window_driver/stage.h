@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QTemporaryFile>
-
 #include <functional>
 #include <memory>
 
@@ -20,7 +18,6 @@ class Stage {
     static int play(const std::function<int()>& play);
 
   private:
-    QTemporaryFile m_display;
     std::unique_ptr<QApplication> m_application;
 };
 
