@@ -5,6 +5,7 @@ SetCompressor /SOLID lzma
 RequestExecutionLevel user
 ManifestDPIAware true
 
+!include LogicLib.nsh
 !include MUI2.nsh
 
 Name "Zeugnisprogramm"
@@ -22,7 +23,12 @@ VIAddVersionKey /LANG=1031 "LegalCopyright" "GPL-3.0-or-later"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${PICTURE}"
+!define MUI_FINISHPAGE_TITLE "Das Zeugnisprogramm ist installiert"
 !define MUI_FINISHPAGE_TEXT "Sie finden das Zeugnisprogramm im Startmenü. Beim ersten Start legen Sie Ihre Klasse an; sie liegt dann in Ihren Dokumenten im Ordner Zeugnisse."
+!define MUI_FINISHPAGE_RUN "$INSTDIR\zeugnisprogramm.exe"
+!define MUI_FINISHPAGE_RUN_PARAMETERS "--auswahl"
+!define MUI_FINISHPAGE_RUN_TEXT "Jetzt starten"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
@@ -31,6 +37,45 @@ VIAddVersionKey /LANG=1031 "LegalCopyright" "GPL-3.0-or-later"
 !insertmacro MUI_LANGUAGE "German"
 
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Zeugnisprogramm"
+
+; Windows neither replaces nor removes a program that runs; half of it would stay.
+!macro CloseFirst un
+Function ${un}IsOpen ; name of a program; leaves 1 if it runs
+    Exch $0
+    ${IfNot} ${FileExists} "$INSTDIR\$0"
+        StrCpy $0 0
+    ${Else}
+        ClearErrors
+        FileOpen $1 "$INSTDIR\$0" a
+        StrCpy $0 0
+        ${If} ${Errors}
+            StrCpy $0 1
+        ${Else}
+            FileClose $1
+        ${EndIf}
+    ${EndIf}
+    Exch $0
+FunctionEnd
+
+Function ${un}CloseFirst
+    ${Do}
+        Push "zeugnisprogramm.exe"
+        Call ${un}IsOpen
+        Pop $2
+        Push "zeugnisdokumente.exe"
+        Call ${un}IsOpen
+        Pop $3
+        ${If} $2$3 == 00
+            Return
+        ${EndIf}
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Das Zeugnisprogramm ist noch offen. Bitte speichern Sie Ihre Texte, schließen Sie alle Fenster des Programms und wählen Sie dann „Wiederholen“." /SD IDCANCEL IDRETRY again
+        Abort "Nichts wurde verändert."
+        again:
+    ${Loop}
+FunctionEnd
+!macroend
+!insertmacro CloseFirst ""
+!insertmacro CloseFirst "un."
 
 ; Only what was installed, so that nothing else in the folder is lost.
 !macro RemovePrograms
@@ -48,8 +93,11 @@ VIAddVersionKey /LANG=1031 "LegalCopyright" "GPL-3.0-or-later"
 !macroend
 
 Section
+    Call CloseFirst
     ; Of an earlier version nothing may stay beside the new one.
-    !insertmacro RemovePrograms
+    ${If} ${FileExists} "$INSTDIR\Entfernen.exe"
+        !insertmacro RemovePrograms
+    ${EndIf}
     SetOutPath "$INSTDIR"
     File /r "${ROOT}\*"
     WriteUninstaller "$INSTDIR\Entfernen.exe"
@@ -68,6 +116,7 @@ Section
 SectionEnd
 
 Section Uninstall
+    Call un.CloseFirst
     !insertmacro RemovePrograms
     Delete "$SMPROGRAMS\Zeugnisprogramm.lnk"
     Delete "$INSTDIR\Entfernen.exe"
