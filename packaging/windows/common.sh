@@ -1,6 +1,9 @@
 # What the scripts of this folder share: names, folders and how a library is built once.
 # shellcheck shell=bash disable=SC2034
 set -euo pipefail
+# A bare machine has no locale of UTF-8: Wine then makes no files with umlauts in their names, and the
+# maker of the installer breaks down over them.
+export LC_ALL=C.UTF-8
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 project=$(cd "$here/../.." && pwd)
