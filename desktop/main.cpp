@@ -50,7 +50,6 @@ int run(const TakenClass& taken) {
     if (!startCleanly(dialogs, programFolder))
         return 1;
     safety::Guard guard(programFolder);
-    guard.thinOutStates();
     Programm program({dialogs, clipboard, calendar, pictures, launcher}, programFolder);
     BildschirmeAnmelden(program);
 
@@ -65,9 +64,14 @@ int run(const TakenClass& taken) {
     QObject::connect(&host, &WindowHost::failed, [&](const Laufzeitfehler& failure) {
         FehlerMerken(programFolder, failure, safety::now());
     });
-    const OneWindow answering(programFolder, [&host] { return host.dialogParent(); });
-    const EntryCallServer calls(
-        programFolder, [&host](const EntryPlace& place) { return leadToText(host, place); });
+    std::optional<OneWindow> answering;
+    std::optional<EntryCallServer> calls;
+    QObject::connect(&host, &WindowHost::firstPainted, &host, [&] {
+        guard.thinOutStates();
+        answering.emplace(programFolder, [&host] { return host.dialogParent(); });
+        calls.emplace(programFolder,
+                      [&host](const EntryPlace& place) { return leadToText(host, place); });
+    });
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
         &host,
