@@ -132,7 +132,9 @@ bool ScreenWindow::pressMnemonic(const QKeySequence& key) {
 }
 
 bool ScreenWindow::mayClose() {
-    if (m_lostByClosing.isEmpty())
+    // The title of a window that tells whether its texts are saved has room for the mark.
+    const bool allSaved = windowTitle().contains(QStringLiteral("[*]")) && !isWindowModified();
+    if (m_lostByClosing.isEmpty() || allSaved)
         return true;
     DialogBox box(qString(Programmtitel), m_lostByClosing, this);
     box.setSign(Symbol::Frage);

@@ -54,7 +54,8 @@ class ScreenWindow : public QWidget {
     /// How the screen's window was left when it was open before, or null.
     [[nodiscard]] const WindowPlace* placed() const;
 
-    /// What is lost if the user closes the window by its close box; without a text nothing is.
+    /// What is lost if the user closes the window by its close box; without a text nothing is, nor
+    /// while the window tells that all is saved.
     void warnBeforeClosing(const QString& whatIsLost) { m_lostByClosing = whatIsLost; }
 
     [[nodiscard]] Binder& bind() { return m_binder; }

@@ -30,6 +30,7 @@ class WindowHostTest : public EntryWindowTest {
 };
 
 TEST_F(WindowHostTest, AsksBeforeACloseBoxDropsAnEntryScreen) {
+    window()->setWindowModified(true);
     answerNext(QDialogButtonBox::No);
     window()->close();
     EXPECT_TRUE(loaded());
