@@ -24,6 +24,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QTimer>
 
 namespace {
 
@@ -72,6 +73,9 @@ int run(const TakenClass& taken) {
         calls.emplace(programFolder,
                       [&host](const EntryPlace& place) { return leadToText(host, place); });
     });
+    // One that starts minimised is not painted.
+    constexpr int LongEnough = 2000;
+    QTimer::singleShot(LongEnough, &host, &WindowHost::painted);
     // Only inside the event loop can a failure of the start end the program.
     QMetaObject::invokeMethod(
         &host,

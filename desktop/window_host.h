@@ -84,6 +84,7 @@ class WindowHost : public QObject {
     [[nodiscard]] bool mayAct(Control& control) {
         return m_depth > 0 || !beside.mayAct || beside.mayAct(control);
     }
+    /// A window has been painted; only the first time counts.
     void painted();
     [[nodiscard]] bool hasPainted() const { return m_hasPainted; }
     /// No action is under way.
