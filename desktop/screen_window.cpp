@@ -10,6 +10,8 @@
 #include <QCloseEvent>
 #include <QHideEvent>
 
+#include <utility>
+
 namespace zeugnis {
 
 ScreenWindow::ScreenWindow(Screen& screen, WindowHost& host, QWidget* below)
@@ -106,6 +108,12 @@ void ScreenWindow::detach() {
     hide();
 }
 
+void ScreenWindow::showSaved(bool saved) {
+    if (!std::exchange(m_tellsSaved, true))
+        setWindowTitle(windowTitle() + QStringLiteral("[*]"));
+    setWindowModified(!saved);
+}
+
 void ScreenWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (m_screen == nullptr)
@@ -132,9 +140,7 @@ bool ScreenWindow::pressMnemonic(const QKeySequence& key) {
 }
 
 bool ScreenWindow::mayClose() {
-    // The title of a window that tells whether its texts are saved has room for the mark.
-    const bool allSaved = windowTitle().contains(QStringLiteral("[*]")) && !isWindowModified();
-    if (m_lostByClosing.isEmpty() || allSaved)
+    if (m_lostByClosing.isEmpty() || (m_tellsSaved && !isWindowModified()))
         return true;
     DialogBox box(qString(Programmtitel), m_lostByClosing, this);
     box.setSign(Symbol::Frage);

@@ -38,6 +38,8 @@ class ScreenWindow : public QWidget {
     bool pressMnemonic(const QKeySequence& key);
     /// Closes for good; the screen is gone.
     void detach();
+    /// Puts the mark of what is not saved into the title; from then on closing asks only with it.
+    void showSaved(bool saved);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -72,6 +74,7 @@ class ScreenWindow : public QWidget {
     QSize m_wished;
     Growth m_growth = Growth::None;
     QString m_lostByClosing;
+    bool m_tellsSaved = false;
     int m_raises = 0;
 };
 

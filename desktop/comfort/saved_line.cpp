@@ -43,13 +43,13 @@ void addSavedLine(ScreenWindow& window, Screen& screen, WindowHost& host, QBoxLa
     line->setFont(theme::scaledFont(0.92));
     line->setForegroundRole(QPalette::PlaceholderText);
     row.addWidget(line);
-    window.setWindowTitle(window.windowTitle() + QStringLiteral("[*]"));
+    window.showSaved(true);
     auto state =
         std::make_shared<rescue::SavedState>(screen, host.program().directory().programFolder());
     window.follow([&window, line, state] {
         state->look();
         line->setText(sentence(*state));
-        window.setWindowModified(state->isChanged());
+        window.showSaved(!state->isChanged());
     });
 }
 
