@@ -21,8 +21,7 @@ EntryKeys::EntryKeys(ScreenWindow& window, WindowHost& host, const Eingabeschirm
       m_host(host),
       m_entry(entry),
       m_flow(entry),
-      m_hint(new ElidedLabel(&window)),
-      m_categories(!entry.Kategorien.empty()) {
+      m_hint(new ElidedLabel(&window)) {
     tellKeys();
     m_hint->setFont(theme::scaledFont(0.82));
     m_hint->setForegroundRole(QPalette::PlaceholderText);
@@ -52,7 +51,7 @@ bool EntryKeys::mayLeaveChild() const { return m_host.mayAct(*m_entry.Kinder); }
 QLabel* EntryKeys::hint() const { return m_hint; }
 
 void EntryKeys::tellKeys() {
-    if (m_categories)
+    if (!m_entry.Kategorien.empty())
         m_hint->setTexts(tr("Bild↓ nächste Kategorie · 0 bis 9 Zeile · Alt+→ nächstes Kind · F8 "
                             "nächstes Kind, dem ein Text fehlt"),
                          {tr("Bild↓ Kategorie · 0–9 Zeile · Alt+→ Kind · F8 Kind ohne Text"),

@@ -42,7 +42,6 @@ class EntryKeys : public QObject {
     Eingabeschirm m_entry;
     Eingabefluss m_flow;
     ElidedLabel* m_hint;
-    bool m_categories;
 };
 
 } // namespace zeugnis

@@ -69,8 +69,6 @@ TextHints::TextHints(CheckThread& thread, const Eingabeschirm& entry, QObject* p
     connect(&m_timer, &QTimer::timeout, this, &TextHints::ask);
 }
 
-TextHints::~TextHints() = default;
-
 void TextHints::knowledgeChanged() {
     m_answers.clear();
     m_hasAsked = false;

@@ -19,7 +19,6 @@ class TextHints : public QObject {
 
   public:
     TextHints(CheckThread& thread, const Eingabeschirm& entry, QObject* parent);
-    ~TextHints() override;
 
     /// For Klassenuebersicht. Nothing as long as it is not found; then found() comes.
     std::optional<std::vector<Text>> of(const Textfrage& question);

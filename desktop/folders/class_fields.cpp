@@ -15,6 +15,9 @@ namespace zeugnis {
 
 namespace fs = std::filesystem;
 
+// The school year begins in it.
+static constexpr int August = 8;
+
 ClassFields::ClassFields(QWidget* parent)
     : QWidget(parent),
       m_class(new QLineEdit(this)),
@@ -45,7 +48,6 @@ void ClassFields::fill(const Klassenangaben& whose) {
 }
 
 void ClassFields::guessHalf(QDate today) {
-    constexpr int August = 8;
     constexpr int January = 1;
     const auto guess = [this, today] {
         if (m_halfChosen)
@@ -130,7 +132,6 @@ fs::path freeClassFolder(const Text& name, const fs::path& in) {
 }
 
 Klassenangaben likelyClass() {
-    constexpr int August = 8;
     const QDate today = QDate::currentDate();
     const int begin = today.year() - (today.month() < August ? 1 : 0);
     Klassenangaben likely;
