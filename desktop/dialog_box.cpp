@@ -49,7 +49,7 @@ QPixmap pixmapOf(const Sign& sign) {
     painter.setBrush(sign.colour);
     painter.drawEllipse(2, 2, Size - 4, Size - 4);
     painter.setPen(Qt::white);
-    painter.setFont(theme::scaledFont(2.0, QFont::Bold));
+    painter.setFont(theme::font(theme::Size::Title, QFont::DemiBold));
     painter.drawText(QRect(0, 0, Size, Size), Qt::AlignCenter, sign.letter);
     return pixmap;
 }

@@ -18,7 +18,7 @@ QString tr(const char* text) { return QCoreApplication::translate("editorparts",
 QBoxLayout* head(Binder& binder, Label& title, Button& help) {
     auto* row = new QHBoxLayout;
     QLabel* widget = binder.label(title);
-    widget->setFont(theme::scaledFont(1.15, QFont::DemiBold));
+    widget->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
     widget->setWordWrap(false);
     widget->setMargin(4); // for the ring around it
     row->addWidget(widget);
@@ -40,7 +40,7 @@ QBoxLayout* loading(Binder& binder, const ControlArray<Button>& buttons) {
 
 QLabel* hint(Binder& binder, Label& label) {
     QLabel* widget = binder.label(label);
-    widget->setFont(theme::scaledFont(0.92));
+    widget->setFont(theme::font(theme::Size::Small));
     return widget;
 }
 

@@ -125,7 +125,7 @@ QBoxLayout* EditorViewAVSV::categories() {
     column->addLayout(buttons);
     auto* name = new QHBoxLayout;
     QLabel* caption = bind().label(m_editor.Label2);
-    caption->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    caption->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     caption->setWordWrap(false);
     name->addWidget(caption);
     TextEditor* box = bind().line(m_editor.Text1, tr("Name der Kategorie"));
@@ -143,7 +143,7 @@ QWidget* EditorViewAVSV::lines() {
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(2);
     QLabel* head = bind().label(m_editor.Label4);
-    head->setFont(theme::scaledFont(0.92));
+    head->setFont(theme::font(theme::Size::Small));
     head->setAlignment(Qt::AlignCenter);
     grid->addWidget(head, 0, 2);
     m_editor.Text2.each([&](TextBox& line) {

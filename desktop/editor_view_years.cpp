@@ -97,7 +97,7 @@ QWidget* EditorViewYears::besideNote(const Bausteineditor& editor) {
 // A locked box that is read like a label.
 QWidget* EditorViewYears::info(TextBox& box, const QString& name) {
     TextEditor* widget = bind().line(box, name);
-    widget->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    widget->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     widget->setProperty("paper", true);
     bind().follow([widget] {
         const int text = widget->fontMetrics().horizontalAdvance(widget->toPlainText());
@@ -148,7 +148,7 @@ void EditorViewYears::addGroup(QVBoxLayout& column, const Bausteineditor& editor
                                const BoxGroup& group) {
     if (group.label != nullptr) {
         QLabel* label = bind().label(*group.label);
-        label->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+        label->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
         column.addWidget(label);
     }
     const bool several =
@@ -156,7 +156,7 @@ void EditorViewYears::addGroup(QVBoxLayout& column, const Bausteineditor& editor
                     [](const TextBox* box) { return box->BackColor == FarbeMehrfachwahl; });
     auto* heading =
         new QLabel(group.heading + (several ? tr(" (mehrere möglich)") : QString()), this);
-    heading->setFont(theme::scaledFont(0.92, QFont::DemiBold));
+    heading->setFont(theme::font(theme::Size::Small, QFont::DemiBold));
     heading->setContentsMargins(0, 4, 0, 0);
     bind().follow([heading, box = group.boxes.front()] { heading->setVisible(box->Visible); });
     column.addWidget(heading);

@@ -25,7 +25,7 @@ QString tr(const char* text) { return QCoreApplication::translate("entryparts", 
 
 QBoxLayout* titleRow(Binder& binder, const Head& parts) {
     auto* row = new QHBoxLayout;
-    addTitle(*row, binder, parts.Purpose, parts.ClassName, 1.15);
+    addTitle(*row, binder, parts.Purpose, parts.ClassName, theme::Size::Lead);
     row->addWidget(binder.signButton(parts.Help, QStringLiteral("?"), tr("Hilfe"),
                                      QKeySequence::HelpContents));
     return row;
@@ -46,7 +46,7 @@ QWidget* deletedText(Binder& binder, TextBox& box, const Button& reset) {
     QWidget* editor = binder.widgetOf(box);
     auto* offer = new QPushButton(tr("Gelöschten Text zurückholen"), editor->parentWidget());
     offer->setObjectName(QStringLiteral("link"));
-    offer->setFont(theme::scaledFont(0.92));
+    offer->setFont(theme::font(theme::Size::Small));
     offer->setFixedHeight(offer->fontMetrics().height());
     offer->setCursor(Qt::PointingHandCursor);
     offer->setToolTip(tr("Strg+Z im Textfeld"));
@@ -60,7 +60,7 @@ EntryCombo* pupilList(Binder& binder, ComboBox& pupils) {
     constexpr int LeastName = 20; // characters
     constexpr int LongName = 52;
     EntryCombo* widget = binder.combo(pupils, tr("Namensliste"));
-    widget->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    widget->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
     const int letter = widget->fontMetrics().averageCharWidth();
     widget->setMinimumWidth(LeastName * letter);
     widget->setMaximumWidth(LongName * letter);
@@ -87,24 +87,24 @@ QBoxLayout* head(Binder& binder, const Head& parts, std::initializer_list<Key> s
 }
 
 // Only with its greatest width the title leaves the rest of the row to what it is about.
-void addTitle(QBoxLayout& row, Binder& binder, Label& title, Label& about, double size) {
+void addTitle(QBoxLayout& row, Binder& binder, Label& title, Label& about, theme::Size size) {
     constexpr int All = 1000;
     QLabel* widget = binder.label(title);
-    widget->setFont(theme::scaledFont(size, QFont::DemiBold));
+    widget->setFont(theme::font(size, QFont::DemiBold));
     binder.follow([widget] {
         const QSize line = widget->fontMetrics().size(Qt::TextSingleLine, widget->text());
         widget->setMaximumWidth(line.width() + 2);
     });
     row.addWidget(widget, All);
     QLabel* beside = binder.label(about);
-    beside->setFont(theme::scaledFont(size, QFont::DemiBold));
+    beside->setFont(theme::font(size, QFont::DemiBold));
     beside->setWordWrap(false);
     row.addWidget(beside, 1);
 }
 
 QLabel* nextStep(Binder& binder, Label& label) {
     QLabel* widget = binder.label(label);
-    widget->setFont(theme::scaledFont(1.4));
+    widget->setFont(theme::font(theme::Size::Heading));
     widget->setAlignment(Qt::AlignCenter);
     widget->setMargin(40);
     // Takes the room of the pages, so that the rows of buttons keep their height.
@@ -114,12 +114,12 @@ QLabel* nextStep(Binder& binder, Label& label) {
 
 QBoxLayout* reportText(Binder& binder, TextBox& box, const QString& name, const Button& reset) {
     TextEditor* editor = binder.text(box, name);
-    editor->setFont(theme::scaledFont(1.08));
+    editor->setFont(theme::font(theme::Size::Lead));
     // The pages come first, but three lines are always there.
     editor->setMinimumHeight(3 * editor->fontMetrics().lineSpacing() + 12);
     editor->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     auto* caption = new QLabel(name, editor->parentWidget());
-    caption->setFont(theme::scaledFont(0.92));
+    caption->setFont(theme::font(theme::Size::Small));
     caption->setBuddy(editor);
     binder.follow([caption, &box] { caption->setVisible(box.Visible); });
     auto* column = new QVBoxLayout;

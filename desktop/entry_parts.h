@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/theme.h"
+
 #include <QChar>
 
 #include <initializer_list>
@@ -43,7 +45,7 @@ struct Head {
 QBoxLayout* head(Binder& binder, const Head& parts, std::initializer_list<Key> sections);
 
 /// A title and what it is about, in one line if there is room for both.
-void addTitle(QBoxLayout& row, Binder& binder, Label& title, Label& about, double size);
+void addTitle(QBoxLayout& row, Binder& binder, Label& title, Label& about, theme::Size size);
 
 /// The choice of the child, as wide as names are. It has the keyboard first, and Alt+E brings it.
 EntryCombo* pupilList(Binder& binder, ComboBox& pupils);

@@ -61,7 +61,7 @@ bool isDense(int page) {
     return options > 24;
 }
 
-QFont rowFont() { return theme::scaledFont(0.92); }
+QFont rowFont() { return theme::font(theme::Size::Small); }
 
 } // namespace
 
@@ -98,7 +98,7 @@ QBoxLayout* EntryView12::titleRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     row->addWidget(entryparts::pupilList(bind(), m_entry.Combo1), 1);
-    entryparts::addTitle(*row, bind(), m_entry.Label1, m_entry.Label2, 0.92);
+    entryparts::addTitle(*row, bind(), m_entry.Label1, m_entry.Label2, theme::Size::Small);
     row->addWidget(bind().signButton(m_entry.Command8, QStringLiteral("?"), tr("Hilfe"),
                                      QKeySequence::HelpContents));
     return row;
@@ -109,7 +109,7 @@ QLayout* EntryView12::pageButtons() {
     m_entry.Command1.each([&](Button& button) {
         const int page = *button.index();
         TintedButton* widget = bind().button(button, PageKeys[page]);
-        widget->setFont(theme::scaledFont(0.9));
+        widget->setFont(theme::font(theme::Size::Small));
         bind().follow([this, widget, page] {
             widget->setMarked(m_entry.Frame1(page).Visible);
             widget->setContent(!m_entry.NameGewaehlt ? TintedButton::Content::Unknown
@@ -143,7 +143,7 @@ QVBoxLayout* EntryView12::beginPage(int page) {
 
 void EntryView12::addOpening(QBoxLayout& column, int label) {
     QLabel* widget = bind().label(m_entry.label(label));
-    widget->setFont(theme::scaledFont(0.92, QFont::DemiBold));
+    widget->setFont(theme::font(theme::Size::Small, QFont::DemiBold));
     widget->setMargin(2);
     widget->setIndent(8);
     column.addWidget(widget);
@@ -296,7 +296,7 @@ QGridLayout* EntryView12::subjects() {
     addOpening(*opening, jahrgang12::LabelFaecher);
     opening->addStretch();
     QLabel* hint = bind().label(m_entry.label(6));
-    hint->setFont(theme::scaledFont(0.88));
+    hint->setFont(theme::font(theme::Size::Small));
     hint->setMargin(4);
     opening->addWidget(hint);
     QVBoxLayout* boxes = column();
@@ -331,7 +331,7 @@ QBoxLayout* EntryView12::texts() {
             row->setStretchFactor(place, box.Enabled ? 2 : 1);
         });
         QWidget* editor = bind().widgetOf(box);
-        editor->setFont(theme::scaledFont(1.0));
+        editor->setFont(theme::font(theme::Size::Body));
         editor->setMinimumHeight(3 * editor->fontMetrics().lineSpacing() + 12);
         editor->setAccessibleName(tr("Zeugnistext: %1").arg(qString(bereich(page).Name)));
     });

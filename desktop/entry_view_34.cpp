@@ -49,7 +49,7 @@ QFrame* line(QFrame::Shape shape) {
 // Stands where a sentence goes on to the right.
 QLabel* readOn() {
     auto* arrow = new QLabel(QStringLiteral("›"));
-    arrow->setFont(theme::scaledFont(1.6));
+    arrow->setFont(theme::font(theme::Size::Title));
     QPalette palette;
     palette.setColor(QPalette::WindowText, theme::colours().OutlineStrong);
     arrow->setPalette(palette);
@@ -109,12 +109,12 @@ QVBoxLayout* EntryView34::beginPage(Frame& frame, Label* hint) {
     layout->setSpacing(8);
     auto* top = new QHBoxLayout;
     auto* caption = new QLabel(qString(frame.Caption));
-    caption->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    caption->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
     top->addWidget(caption);
     if (hint != nullptr) {
         QLabel* widget = bind().label(*hint);
         widget->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        widget->setFont(theme::scaledFont(0.92));
+        widget->setFont(theme::font(theme::Size::Small));
         top->addWidget(widget, 1);
     } else {
         top->addStretch();
@@ -125,7 +125,7 @@ QVBoxLayout* EntryView34::beginPage(Frame& frame, Label* hint) {
 
 QLabel* EntryView34::heading(Label& label) {
     QLabel* widget = bind().label(label);
-    widget->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    widget->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     return widget;
 }
 

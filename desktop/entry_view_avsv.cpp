@@ -94,7 +94,7 @@ QWidget* EntryViewAVSV::lines(QWidget& area) {
     column->setContentsMargins(14, 5, 14, 5);
     column->setSpacing(1);
     auto* caption = new QLabel(frame);
-    caption->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    caption->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
     bind().follow([this, caption] { caption->setText(qString(m_entry.Frame1.Caption)); });
     column->addWidget(caption);
     m_entry.Option1.each([&](OptionButton& option) {

@@ -36,7 +36,7 @@ QFrame* area(const QString& name, QWidget* parent) {
 
 QLabel* faintLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
-    label->setFont(theme::scaledFont(0.88));
+    label->setFont(theme::font(theme::Size::Small));
     label->setStyleSheet(QStringLiteral("color: %1").arg(theme::colours().InkFaint.name()));
     return label;
 }
@@ -80,7 +80,7 @@ MasterDataView::MasterDataView(GsBasis& screen, WindowHost& host, QWidget* below
 QBoxLayout* MasterDataView::head() {
     auto* row = new QHBoxLayout;
     auto* title = new QLabel(qString(m_basis.Frame1.Caption), this);
-    title->setFont(theme::scaledFont(1.25, QFont::DemiBold));
+    title->setFont(theme::font(theme::Size::Heading, QFont::DemiBold));
     row->addWidget(title);
     row->addStretch();
     auto* list = new TintedButton(TintedButton::Role::Quiet, this);
@@ -99,11 +99,11 @@ QLayout* MasterDataView::areaHead(const QString& title, const Control& lockedWit
     auto* row = new FlowRow(10);
     row->alignRightFrom(FirstButton);
     auto* label = new QLabel(title, this);
-    label->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    label->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
     row->addWidget(label);
     auto* lock = new QLabel(tr("gesperrt"), this);
     lock->setObjectName(QStringLiteral("lock"));
-    lock->setFont(theme::scaledFont(0.88));
+    lock->setFont(theme::font(theme::Size::Small));
     bind().follow([lock, title, &lockedWith, told = std::optional<bool>()]() mutable {
         const bool locked = !lockedWith.Enabled;
         lock->setVisible(locked);
@@ -158,7 +158,7 @@ QBoxLayout* MasterDataView::pupilField(int index) {
 QWidget* MasterDataView::schoolArea() {
     QFrame* frame = area(tr("Schuldaten"), this);
     auto* column = new QVBoxLayout(frame);
-    column->setContentsMargins(14, 12, 14, 14);
+    column->setContentsMargins(12, 12, 12, 12);
     column->setSpacing(7);
     column->addLayout(areaHead(frame->accessibleName(), m_basis.Text1(0),
                                {bind().button(m_basis.Command3, u'u')}));
@@ -194,7 +194,7 @@ QLayout* MasterDataView::pathRow() {
     auto* row = new FlowRow(8);
     row->alignRightFrom(1);
     QLabel* purpose = bind().label(m_basis.Label5);
-    purpose->setFont(theme::scaledFont(0.88));
+    purpose->setFont(theme::font(theme::Size::Small));
     purpose->setWordWrap(false);
     row->addWidget(purpose);
     row->addWidget(bind().button(m_basis.Command7(0), u'P', TintedButton::Role::Quiet));
@@ -205,7 +205,7 @@ QLayout* MasterDataView::pathRow() {
 QWidget* MasterDataView::pupilArea() {
     QFrame* frame = area(tr("Schülerdaten"), this);
     auto* column = new QVBoxLayout(frame);
-    column->setContentsMargins(14, 12, 14, 14);
+    column->setContentsMargins(12, 12, 12, 12);
     column->setSpacing(7);
     column->addLayout(
         areaHead(frame->accessibleName(), m_basis.Text2(1),
@@ -252,7 +252,7 @@ QBoxLayout* MasterDataView::pupilForm() {
     auto* column = new QVBoxLayout;
     column->setSpacing(7);
     auto* heading = new ElidedLabel(this);
-    heading->setFont(theme::scaledFont(1.3, QFont::DemiBold));
+    heading->setFont(theme::font(theme::Size::Heading, QFont::DemiBold));
     bind().follow([this, heading] { heading->setText(pupilHeading()); });
     column->addWidget(heading);
     column->addLayout(side({{pupilField(1), 1}, {pupilField(2), 1}}));
@@ -305,10 +305,10 @@ QBoxLayout* MasterDataView::workingGroups() {
     auto* column = new QVBoxLayout;
     column->setSpacing(4);
     QLabel* title = bind().label(m_basis.Label3(6));
-    title->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    title->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     column->addWidget(title);
     QLabel* purpose = bind().label(m_basis.Label4);
-    purpose->setFont(theme::scaledFont(0.88));
+    purpose->setFont(theme::font(theme::Size::Small));
     column->addWidget(purpose);
     auto* row = new QHBoxLayout;
     row->setSpacing(FieldSpacing);
@@ -341,7 +341,7 @@ QBoxLayout* MasterDataView::actions() {
     m_basis.Command1.each([&](Button& button) {
         TintedButton* widget =
             bind().button(button, mnemonics.at(static_cast<size_t>(*button.index())));
-        widget->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+        widget->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
         widget->setMinimumSize(110, 40);
         row->addWidget(widget);
     });

@@ -28,7 +28,7 @@ class ReviewHeadings : public QSyntaxHighlighter {
         QTextCharFormat format;
         const bool rule = line.startsWith(QStringLiteral("____"));
         if (previousBlockState() == 1 && !line.isEmpty()) {
-            format.setFontWeight(QFont::Bold);
+            format.setFontWeight(QFont::DemiBold);
             format.setForeground(theme::colours().Accent);
         } else if (m_headings.contains(line)) {
             format.setFontWeight(QFont::DemiBold);
@@ -52,7 +52,7 @@ ReviewView::ReviewView(GsAnzeige& screen, WindowHost& host, QWidget* below)
     layout->setSpacing(10);
     auto* head = new QHBoxLayout;
     QLabel* title = bind().label(m_review.Label2);
-    title->setFont(theme::scaledFont(1.15, QFont::DemiBold));
+    title->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
     head->addWidget(title, 1);
     head->addWidget(bind().signButton(m_review.Command8, QStringLiteral("?"), tr("Hilfe"),
                                       QKeySequence::HelpContents));
@@ -93,7 +93,7 @@ QBoxLayout* ReviewView::choices() {
 
 QWidget* ReviewView::text() {
     TextEditor* widget = bind().text(m_review.Text1, tr("Bisherige Texte der Klasse"));
-    widget->setFont(theme::scaledFont(1.08));
+    widget->setFont(theme::font(theme::Size::Lead));
     // A text that is set leaves the caret at its end; reading begins at the top.
     bind().follow([widget, shown = QString()]() mutable {
         if (shown != widget->toPlainText())

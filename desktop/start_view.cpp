@@ -60,7 +60,8 @@ QWidget* StartView::sidePanel() {
     layout->addSpacing(18);
     for (int i = 0; i <= 2; ++i) {
         QLabel* label = bind().label(m_start.Label1(i));
-        label->setFont(i == 0 ? theme::scaledFont(1.7, QFont::DemiBold) : theme::scaledFont(1.15));
+        label->setFont(i == 0 ? theme::font(theme::Size::Title, QFont::DemiBold)
+                              : theme::font(theme::Size::Body));
         layout->addWidget(label);
     }
     layout->addSpacing(18);
@@ -72,14 +73,14 @@ QWidget* StartView::sidePanel() {
     names->addStretch();
     names->addWidget(bind().label(m_start.Label4));
     QLabel* teacherName = bind().label(m_start.Label5);
-    teacherName->setFont(theme::scaledFont(1.1, QFont::DemiBold));
+    teacherName->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     names->addWidget(teacherName);
     names->addStretch();
     teacher->addLayout(names, 1);
     layout->addLayout(teacher);
     layout->addStretch();
     QLabel* owner = bind().label(m_start.Label6);
-    owner->setFont(theme::scaledFont(0.9));
+    owner->setFont(theme::font(theme::Size::Small));
     layout->addWidget(owner);
     return panel;
 }
@@ -91,7 +92,7 @@ QBoxLayout* StartView::mainArea() {
     layout->setSpacing(8);
     auto* head = new QHBoxLayout;
     QLabel* question = bind().label(m_start.Label2);
-    question->setFont(theme::scaledFont(1.2, QFont::DemiBold));
+    question->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     head->addWidget(question, 1);
     head->addStretch();
     head->addWidget(bind().signButton(m_start.Command8, QStringLiteral("?"),
@@ -176,7 +177,7 @@ QWidget* StartView::works() {
 QBoxLayout* StartView::helpRow() {
     auto* row = new QHBoxLayout;
     QLabel* mark = bind().label(m_start.Label3);
-    mark->setFont(theme::scaledFont(0.8));
+    mark->setFont(theme::font(theme::Size::Small));
     row->addWidget(mark, 1);
     row->addSpacing(16);
     auto* caption = new QLabel(tr("Hilfe:"), this);

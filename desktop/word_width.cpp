@@ -1,7 +1,6 @@
 #include "desktop/word_width.h"
 
 #include <QFontMetrics>
-#include <QRegularExpression>
 #include <QString>
 
 #include <algorithm>
@@ -10,9 +9,14 @@ namespace zeugnis {
 
 int widestWord(const QFontMetrics& metrics, const QString& text) {
     int widest = 0;
-    static const QRegularExpression breaks(QStringLiteral("\\s|(?<=-)"));
-    for (const QString& word : text.split(breaks, Qt::SkipEmptyParts))
-        widest = std::max(widest, metrics.horizontalAdvance(word) + 1);
+    for (qsizetype begin = 0, end = 0; begin < text.size(); begin = end) {
+        while (end < text.size() && !text[end].isSpace() && (end == begin || text[end - 1] != u'-'))
+            ++end;
+        if (end > begin)
+            widest = std::max(widest, metrics.horizontalAdvance(text.mid(begin, end - begin)) + 1);
+        else
+            ++end;
+    }
     return widest;
 }
 

@@ -39,7 +39,7 @@ ChoiceKeeper::ChoiceKeeper(ScreenWindow& window, WindowHost& host, const Eingabe
     if (!m_keptIn.empty())
         m_memory.Uebernehmen(m_setDown = AuswahlLesen(m_keptIn, m_screenName));
     m_link->setObjectName(QStringLiteral("link"));
-    m_link->setFont(theme::scaledFont(0.92));
+    m_link->setFont(theme::font(theme::Size::Small));
     m_link->setCursor(Qt::PointingHandCursor);
     m_link->setToolTip(tr("Wählt die Zeilen noch einmal, aus denen der gelöschte Text bestand. Was "
                           "Sie schon neu gewählt haben, bleibt."));

@@ -77,7 +77,7 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
       m_list(new QListWidget(this)) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    m_sentence->setFont(theme::scaledFont(0.92, QFont::DemiBold));
+    m_sentence->setFont(theme::font(theme::Size::Small, QFont::DemiBold));
     m_sentence->setWordWrap(true);
     column->addWidget(m_sentence);
     column->addWidget(m_list, 1);
@@ -93,7 +93,7 @@ ClassRail::ClassRail(ScreenWindow& window, WindowHost& host, const Eingabeschirm
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_list, &QWidget::customContextMenuRequested, this, &ClassRail::showMenu);
     m_hintButton->setObjectName(QStringLiteral("link"));
-    m_hintButton->setFont(theme::scaledFont(0.92));
+    m_hintButton->setFont(theme::font(theme::Size::Small));
     m_hintButton->setCursor(Qt::PointingHandCursor);
     m_hintButton->setToolTip(tr("Zeigen, was an den Texten dieses Kindes auffällt (F3)"));
     m_hintButton->hide();

@@ -42,7 +42,7 @@ QWidget* lastTermButton(ScreenWindow& window, WindowHost& host, const Eingabesch
     auto* texts = new LastTermWindow(window, host, entry);
     auto* button = new QPushButton(QObject::tr("Letztes Halbjahr"), &window);
     button->setObjectName(QStringLiteral("link"));
-    button->setFont(theme::scaledFont(0.92));
+    button->setFont(theme::font(theme::Size::Small));
     button->setCursor(Qt::PointingHandCursor);
     button->setToolTip(QObject::tr("Den Text des Kindes vom letzten Halbjahr daneben zeigen (F5)"));
     QObject::connect(button, &QPushButton::clicked, texts, &LastTermWindow::toggle);

@@ -23,7 +23,7 @@ EntryKeys::EntryKeys(ScreenWindow& window, WindowHost& host, const Eingabeschirm
       m_flow(entry),
       m_hint(new ElidedLabel(&window)) {
     tellKeys();
-    m_hint->setFont(theme::scaledFont(0.82));
+    m_hint->setFont(theme::font(theme::Size::Small));
     m_hint->setForegroundRole(QPalette::PlaceholderText);
 
     using enum Richtung;

@@ -29,7 +29,7 @@ LastTermWindow::LastTermWindow(ScreenWindow& window, WindowHost& host, const Ein
     setWindowTitle(tr("Letztes Halbjahr"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(12, 10, 12, 12);
-    m_head->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    m_head->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     m_head->setWordWrap(true);
     m_text->setReadOnly(true);
     m_text->setTabChangesFocus(true);

@@ -59,7 +59,7 @@ ReportPane::ReportPane(ScreenWindow& window, WindowHost& host, const Eingabeschi
     hide();
 
     m_opener->setObjectName(QStringLiteral("link"));
-    m_opener->setFont(theme::scaledFont(0.92));
+    m_opener->setFont(theme::font(theme::Size::Small));
     m_opener->setCursor(Qt::PointingHandCursor);
     m_opener->setToolTip(tr("Zeigt, wie das Zeugnis dieses Kindes gedruckt aussieht"));
     connect(m_opener, &QPushButton::clicked, this, &ReportPane::toggle);
@@ -83,15 +83,15 @@ QWidget* ReportPane::head() {
     auto* row = new QHBoxLayout(area);
     row->setContentsMargins(8, 4, 0, 0);
     auto* title = new QLabel(windowTitle(), area);
-    title->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    title->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     row->addWidget(title);
     row->addSpacing(8);
     m_fit->setObjectName(QStringLiteral("reportFit"));
-    m_fit->setFont(theme::scaledFont(0.92));
+    m_fit->setFont(theme::font(theme::Size::Small));
     row->addWidget(m_fit, 1);
     auto* close = new QPushButton(tr("Zuklappen"), area);
     close->setObjectName(QStringLiteral("link"));
-    close->setFont(theme::scaledFont(0.92));
+    close->setFont(theme::font(theme::Size::Small));
     close->setCursor(Qt::PointingHandCursor);
     close->setToolTip(QStringLiteral("F9"));
     connect(close, &QPushButton::clicked, this, &ReportPane::shut);

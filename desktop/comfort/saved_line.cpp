@@ -40,7 +40,7 @@ void addSavedLine(ScreenWindow& window, Screen& screen, WindowHost& host, QBoxLa
         return;
     auto* line = new QLabel(&window);
     line->setObjectName(QStringLiteral("savedLine"));
-    line->setFont(theme::scaledFont(0.92));
+    line->setFont(theme::font(theme::Size::Small));
     line->setForegroundRole(QPalette::PlaceholderText);
     row.addWidget(line);
     window.showSaved(true);

@@ -160,7 +160,7 @@ void SpellingMarks::offerSuggestions(QMenu& menu, QAction& rest, const Spelling:
                        [this, &menu, &rest, mark, word](const QStringList& suggestions) {
                            for (const QString& one : suggestions) {
                                auto* action = new QAction(one, &menu);
-                               action->setFont(theme::scaledFont(1, QFont::DemiBold));
+                               action->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
                                connect(action, &QAction::triggered, this,
                                        [this, mark, word, one] { replace(mark, word, one); });
                                menu.insertAction(&rest, action);

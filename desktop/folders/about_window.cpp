@@ -55,7 +55,7 @@ AboutWindow::AboutWindow(std::filesystem::path folder, QWidget* owner)
     column->setContentsMargins(22, 18, 22, 16);
     column->setSpacing(12);
     auto* head = new QLabel(qString(Programmtitel), this);
-    head->setFont(theme::scaledFont(1.4, QFont::DemiBold));
+    head->setFont(theme::font(theme::Size::Heading, QFont::DemiBold));
     column->addWidget(head);
     auto* form = newForm(nullptr);
     const auto line = [&](const QString& what, const QString& text) {

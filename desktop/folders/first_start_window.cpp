@@ -44,7 +44,7 @@ FirstStartWindow::FirstStartWindow(std::optional<fs::path> delivered, const QStr
     column->setContentsMargins(22, 18, 22, 16);
     column->setSpacing(10);
     auto* head = new QLabel(tr("Welche Klasse möchten Sie öffnen?"), this);
-    head->setFont(theme::scaledFont(1.4, QFont::DemiBold));
+    head->setFont(theme::font(theme::Size::Heading, QFont::DemiBold));
     column->addWidget(head);
     column->addWidget(recent(), 1);
     column->addLayout(otherWays());

@@ -37,7 +37,7 @@ NewClassWindow::NewClassWindow(std::filesystem::path delivered, QWidget* owner)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(22, 18, 22, 16);
     column->setSpacing(10);
-    m_head->setFont(theme::scaledFont(1.3, QFont::DemiBold));
+    m_head->setFont(theme::font(theme::Size::Heading, QFont::DemiBold));
     column->addWidget(m_head);
     column->addWidget(m_sentence);
     m_pages->fillRoom();

@@ -22,7 +22,7 @@ QPlainTextEdit* ComparePane::column(const QString& heading) {
     auto* box = new QVBoxLayout;
     box->setSpacing(4);
     auto* label = new QLabel(heading, this);
-    label->setFont(theme::scaledFont(1.0, QFont::DemiBold));
+    label->setFont(theme::font(theme::Size::Body, QFont::DemiBold));
     auto* text = new QPlainTextEdit(this);
     text->setReadOnly(true);
     text->setStyleSheet(

@@ -56,7 +56,7 @@ class HalfYearBox : public QDialog {
     void tell(bool atOnce) {
         m_texts->setSpacing(10);
         paragraph(tr("Ein neues Halbjahr oder eine neue Klasse?"))
-            ->setFont(theme::scaledFont(1.15, QFont::DemiBold));
+            ->setFont(theme::font(theme::Size::Lead, QFont::DemiBold));
         paragraph(atOnce ? tr("Gleich kommt die Frage, ob Sie mit den Zeugniseingaben neu anfangen "
                               "wollen. Mit „Ja“ sind sofort alle Zeugnistexte der Klasse geleert, "
                               "auch wenn Sie danach nicht speichern.")

@@ -47,7 +47,7 @@ QTreeWidgetItem* WrappedTree::heading(const QString& text) {
         if (topLevelItem(i)->text(0) == text)
             return topLevelItem(i);
     auto* item = new QTreeWidgetItem(this, {text});
-    item->setFont(0, theme::scaledFont(1.0, QFont::DemiBold));
+    item->setFont(0, theme::font(theme::Size::Body, QFont::DemiBold));
     item->setFlags(Qt::ItemIsEnabled);
     return item;
 }
