@@ -95,7 +95,8 @@ void WindowHost::openWindows() {
     for (Screen* screen : m_program.screens()) {
         if (!screen->shown() || m_windows.contains(screen))
             continue;
-        m_busy.work();
+        if (!m_windows.empty())
+            m_busy.work();
         m_windows.emplace(screen, makeWindow(*screen, *this, windowOf(m_program.startScreen())));
     }
 }

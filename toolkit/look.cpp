@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEvent>
 #include <QFont>
 #include <QFontDatabase>
 #include <QIcon>
@@ -71,6 +72,28 @@ Colours& chosen() {
     return colours;
 }
 
+// To read the icon and to hand it over takes as long as the letters of a page.
+class IconBehindFirstPicture : public QObject {
+  public:
+    explicit IconBehindFirstPicture(QApplication& application) : QObject(&application) {
+        application.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && watched->isWidgetType()) {
+            QCoreApplication::instance()->removeEventFilter(this);
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
+                    deleteLater();
+                },
+                Qt::QueuedConnection);
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 void loadDeliveredFonts() {
@@ -86,7 +109,7 @@ void apply(QApplication& application, const QString& ownStyleSheet, const QPalet
     chosen() = highContrast.value_or(Colours());
     initResources();
     EnterKey::install(application);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zeugnisprogramm.png")));
+    new IconBehindFirstPicture(application);
     speakGerman(application);
     loadDeliveredFonts();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
