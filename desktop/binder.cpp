@@ -6,6 +6,7 @@
 #include "controls/user_actions.h"
 #include "desktop/entry_list.h"
 #include "desktop/focus_group.h"
+#include "desktop/jpeg_pictures.h"
 #include "desktop/picture_view.h"
 #include "desktop/shown_values.h"
 #include "desktop/theme.h"
@@ -301,7 +302,7 @@ PictureView* Binder::picture(PictureBox& control, QSize preferred, const QString
         if (shown == control.loads())
             return;
         shown = control.loads();
-        widget->setPixmap(QPixmap(qPath(control.file())));
+        widget->setPixmap(jpegPicture(control.file()));
     });
     return widget;
 }

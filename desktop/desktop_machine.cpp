@@ -1,6 +1,7 @@
 #include "desktop/desktop_machine.h"
 
 #include "desktop/dialog_box.h"
+#include "desktop/jpeg_pictures.h"
 #include "platform/code_page.h"
 #include "toolkit/qt_text.h"
 
@@ -46,9 +47,7 @@ Text DesktopClipboard::text() {
 }
 
 bool DesktopPictures::canShow(const std::filesystem::path& file) {
-    // Kept among the pictures last shown, so that the window that shows it need not decode it
-    // again.
-    return !QPixmap(qPath(file), "jpeg").isNull();
+    return !jpegPicture(file).isNull();
 }
 
 } // namespace zeugnis
