@@ -55,7 +55,6 @@ int run(const TakenClass& taken) {
     BildschirmeAnmelden(program);
 
     WindowHost host(program);
-    const RememberedComfort remembered(host);
     BusyWrites watcher(host.busyPointer(), guard);
     program.directory().watchWrites(&watcher);
     dialogs.parent = [&host] { return host.dialogParent(); };
@@ -65,13 +64,16 @@ int run(const TakenClass& taken) {
     QObject::connect(&host, &WindowHost::failed, [&](const Laufzeitfehler& failure) {
         FehlerMerken(programFolder, failure, safety::now());
     });
+    std::optional<RememberedComfort> remembered;
     std::optional<OneWindow> answering;
     std::optional<EntryCallServer> calls;
     QObject::connect(&host, &WindowHost::firstPainted, &host, [&] {
+        remembered.emplace(host);
         guard.thinOutStates();
         answering.emplace(programFolder, [&host] { return host.dialogParent(); });
         calls.emplace(programFolder,
                       [&host](const EntryPlace& place) { return leadToText(host, place); });
+        net.tellAtStart();
     });
     // One that starts minimised is not painted.
     constexpr int LongEnough = 2000;
@@ -80,10 +82,8 @@ int run(const TakenClass& taken) {
     QMetaObject::invokeMethod(
         &host,
         [&] {
-            net.examine();
+            net.examineStart();
             host.run([&program] { program.show(bildschirme::GsStart); });
-            if (!program.ended() && program.startScreen() != nullptr)
-                net.offerTyped();
         },
         Qt::QueuedConnection);
     return QApplication::exec();

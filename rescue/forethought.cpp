@@ -5,6 +5,7 @@
 #include "controls/list_controls.h"
 #include "controls/program.h"
 #include "controls/user_actions.h"
+#include "files/file_catalogue.h"
 #include "masterdata/master_data_screen.h"
 #include "rescue/held_texts.h"
 #include "rescue/taking.h"
@@ -106,6 +107,14 @@ void mendMasterData(GsBasis& screen) {
 bool mayWrite(const Control& control) { return isOneOf(control, Writing); }
 
 bool opens(const Control& control) { return isOneOf(control, Opening); }
+
+bool isReadAtStart(const std::string& file) {
+    constexpr std::array Read = {dateien::Basisdaten, dateien::Namen};
+    const Text name = safety::shownName(file);
+    return std::any_of(Read.begin(), Read.end(), [&name](TextView one) {
+        return sameIgnoringCase(name, Text(dateien::Daten) + u"\\" + Text(one));
+    });
+}
 
 std::vector<Text> textsWithQuotes(const Screen& screen) {
     std::vector<Text> names;

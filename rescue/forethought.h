@@ -2,6 +2,7 @@
 
 #include "platform/text.h"
 
+#include <string>
 #include <vector>
 
 namespace zeugnis {
@@ -18,6 +19,9 @@ bool mayWrite(const Control& control);
 
 /// Whether a click here makes a program read data files: a screen opens, or a document.
 bool opens(const Control& control);
+
+/// Whether the start page reads this data file when it comes; `file` as findings name it.
+bool isReadAtStart(const std::string& file);
 
 /// The texts of a screen that hold double quotes: these would end them in their file and shift what
 /// comes behind. "Ahlers, Tom: Arbeitsverhalten"

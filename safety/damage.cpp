@@ -34,20 +34,25 @@ fs::path resolved(const Paths& paths, TextView name) {
 
 fs::path dataFolder(const Paths& paths) { return resolved(paths, dateien::Daten); }
 
-// All files of Daten that have a form, and all that were there.
-std::set<std::string> filesToExamine(const Paths& paths, const Latest& latest) {
+using Wanted = std::function<bool(const std::string& name)>;
+
+// Of the wanted ones all files of Daten that have a form, and all that were there.
+std::set<std::string> filesToExamine(const Paths& paths, const Latest& latest,
+                                     const Wanted& wanted) {
     std::set<std::string> names;
     std::error_code failed;
     std::error_code ignored;
     for (fs::directory_iterator entry(dataFolder(paths), failed), end; !failed && entry != end;
          entry.increment(failed))
         if (const std::optional<std::string> name = paths.nameOf(entry->path());
-            name && entry->is_regular_file(ignored) && Latest::covers(*name) && layoutOf(*name))
+            name && wanted(*name) && entry->is_regular_file(ignored) && Latest::covers(*name) &&
+            layoutOf(*name))
             names.insert(*name);
     // The lists of grades are looked at by the program that opens them: old ones may go.
-    for (const std::string& name : latest.names())
-        if (layoutOf(name) && !isReportList(name))
-            names.insert(name);
+    for (std::string& name : latest.names([&wanted](const std::string& name) {
+             return wanted(name) && layoutOf(name) && !isReportList(name);
+         }))
+        names.insert(std::move(name));
     return names;
 }
 
@@ -88,12 +93,11 @@ class Examination {
             m_size = classSizeOf(*kept);
     }
 
-    std::vector<Finding> of(const std::function<bool(const std::string&)>& wanted) {
+    std::vector<Finding> of(const Wanted& wanted) {
         std::vector<Finding> findings;
-        for (const std::string& name : filesToExamine(m_paths, m_latest))
-            if (!wanted || wanted(name))
-                if (std::optional<Finding> finding = examineOne(name))
-                    findings.push_back(std::move(*finding));
+        for (const std::string& name : filesToExamine(m_paths, m_latest, wanted))
+            if (std::optional<Finding> finding = examineOne(name))
+                findings.push_back(std::move(*finding));
         return findings;
     }
 
@@ -191,10 +195,11 @@ class Examination {
 
 } // namespace
 
-std::vector<Finding> examine(const fs::path& programFolder) { return examine(programFolder, {}); }
+std::vector<Finding> examine(const fs::path& programFolder) {
+    return examine(programFolder, [](const std::string&) { return true; });
+}
 
-std::vector<Finding> examine(const fs::path& programFolder,
-                             const std::function<bool(const std::string& name)>& wanted) {
+std::vector<Finding> examine(const fs::path& programFolder, const Wanted& wanted) {
     return Examination(programFolder).of(wanted);
 }
 

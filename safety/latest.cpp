@@ -66,12 +66,13 @@ std::optional<std::string> Latest::of(const std::string& name) const {
     return unsealed(Kind, content.bytes);
 }
 
-std::vector<std::string> Latest::names() const {
-    std::vector<std::string> all;
+std::vector<std::string>
+Latest::names(const std::function<bool(const std::string& name)>& wanted) const {
+    std::vector<std::string> taken;
     for (const fs::path& file : filesEndingIn(m_paths.latest, Ending))
-        if (std::string name = nameIn(utf8FromPath(file.filename())); of(name))
-            all.push_back(std::move(name));
-    return all;
+        if (std::string name = nameIn(utf8FromPath(file.filename())); wanted(name) && of(name))
+            taken.push_back(std::move(name));
+    return taken;
 }
 
 } // namespace zeugnis::safety

@@ -2,6 +2,8 @@
 
 #include "safety/paths.h"
 
+#include <functional>
+
 namespace zeugnis::safety {
 
 /// A copy of each data file as the program has last written it, to see what others have changed.
@@ -21,8 +23,9 @@ class Latest {
 
     [[nodiscard]] std::optional<std::string> of(const std::string& name) const;
 
-    /// All files that there is a copy of, by name.
-    [[nodiscard]] std::vector<std::string> names() const;
+    /// The files that there is a copy of, by name: those that `wanted` takes.
+    [[nodiscard]] std::vector<std::string>
+    names(const std::function<bool(const std::string& name)>& wanted) const;
 
   private:
     Paths m_paths;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/working_directory.h"
+#include "rescue/forethought.h"
 #include "safety/damage.h"
 
 #include <set>
@@ -19,6 +20,10 @@ class DamageBox {
     /// What was left as it is on purpose is not asked for again in this run.
     void askFor(const std::vector<safety::Finding>& findings, QWidget* owner);
     void examine(QWidget* owner) { askFor(safety::examine(m_folder), owner); }
+    /// Only what the start page itself reads.
+    void examineStart(QWidget* owner) {
+        askFor(safety::examine(m_folder, rescue::isReadAtStart), owner);
+    }
 
   private:
     void ask(const safety::Finding& finding, QWidget* owner);

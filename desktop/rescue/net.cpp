@@ -80,6 +80,18 @@ void Net::keepFolder(safety::FolderLock& lock) {
     m_beat.start(safety::FolderLock::Beat);
 }
 
+void Net::examineStart() {
+    makeFolders();
+    m_damage.examineStart(m_host.dialogParent());
+}
+
+void Net::tellAtStart() {
+    if (m_host.program().ended() || m_host.program().startScreen() == nullptr)
+        return;
+    examine();
+    offerTyped();
+}
+
 void Net::examine() {
     makeFolders();
     m_damage.examine(m_host.dialogParent());

@@ -26,12 +26,14 @@ class Net : public QObject {
 
     /// Shows others that the folder is open, as long as the program runs.
     void keepFolder(safety::FolderLock& lock);
-    /// Before anything is read.
-    void examine();
-    /// When the start page stands.
-    void offerTyped();
+    /// What the start page reads, before it does.
+    void examineStart();
+    /// When the start page stands: damage in the other files, and what was typed and not saved.
+    void tellAtStart();
 
   private:
+    void examine();
+    void offerTyped();
     bool mayAct(Control& control);
     bool mayWrite(Control& control);
     bool mayAddPupil(const Control& control);

@@ -33,7 +33,7 @@ struct Running {
               installation.path()) {
         BildschirmeAnmelden(programm);
         dialogs.parent = [this] { return host.dialogParent(); };
-        net.examine();
+        net.examineStart();
         show(bildschirme::GsStart);
     }
 
@@ -114,7 +114,7 @@ TEST_F(NetTest, WhatIsTypedIsThereAgainTwoSecondsLater) {
         QTest::qWait(1500);
     }
     Running next(installation);
-    next.net.offerTyped();
+    next.net.tellAtStart();
     auto windows = next.host.windowOf(next.programm.startScreen())->findChildren<OfferWindow*>();
     ASSERT_EQ(windows.size(), 1);
     for (QPushButton* button : windows.front()->findChildren<QPushButton*>())
@@ -154,15 +154,24 @@ TEST_F(NetTest, AFailureTellsWhatIsKept) {
         << said.toStdString();
 }
 
-TEST_F(NetTest, DamageIsMendedBeforeAnythingIsReadAndAMissingFolderIsMade) {
-    { const Running before(installation); }
-    const std::string good = file(u"Daten/AVSVspeicher.txt");
-    installation.write(u"Daten/AVSVspeicher.txt", u"");
-    installation.remove(u"Daten/Sicherheit");
-    answer({QStringLiteral("Ansehen"), QStringLiteral("Zurück"), QStringLiteral("guten Stand")});
-    const Running after(installation);
-    EXPECT_EQ(file(u"Daten/AVSVspeicher.txt"), good);
-    EXPECT_TRUE(installation.has(u"Daten/Sicherheit"));
+TEST_F(NetTest, DamageIsMendedBeforeItIsReadAndAMissingFolderIsMade) {
+    {
+        Running before(installation);
+        before.net.tellAtStart();
+    }
+    // The start page reads the one, and nothing else yet.
+    for (const TextView name : {u"Daten/Basisdaten.txt", u"Daten/AVSVspeicher.txt"}) {
+        const std::string good = file(name);
+        installation.write(name, u"");
+        installation.remove(u"Daten/Sicherheit");
+        answer(
+            {QStringLiteral("Ansehen"), QStringLiteral("Zurück"), QStringLiteral("guten Stand")});
+        Running after(installation);
+        after.net.tellAtStart();
+        EXPECT_EQ(file(name), good);
+        EXPECT_TRUE(installation.has(u"Daten/Sicherheit"));
+        EXPECT_EQ(after.programm.screens().size(), 1U);
+    }
 }
 
 TEST_F(NetTest, AFullClassGrowsOnlyIfThatIsSaidTwice) {
