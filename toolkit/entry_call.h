@@ -5,8 +5,6 @@
 #include <filesystem>
 #include <functional>
 
-class QLocalServer;
-
 namespace zeugnis {
 
 /// A text of a class: the child by its place in the list, and the page of the entry screen.
@@ -18,18 +16,10 @@ struct EntryPlace {
 
 /// The other program of the same installation asks for a text to be opened in its entry window.
 class EntryCallServer : public QObject {
-    Q_OBJECT
-
   public:
     /// `open` returns false if that cannot be now.
     EntryCallServer(const std::filesystem::path& programFolder,
                     std::function<bool(const EntryPlace&)> open);
-
-  private:
-    void answer();
-
-    QLocalServer* m_server;
-    std::function<bool(const EntryPlace&)> m_open;
 };
 
 /// False if the program is not open with this folder, or cannot open the text now. Returns at the

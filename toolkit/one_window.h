@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <functional>
 
-class QLocalServer;
 class QWidget;
 
 namespace zeugnis {
@@ -13,8 +12,6 @@ namespace zeugnis {
 /// A document or class is open in one window at a time, although each is a process of its own: who
 /// is asked for one that is open already brings the window of the other to the front.
 class OneWindow : public QObject {
-    Q_OBJECT
-
   public:
     /// Answers for the file or folder from now on; `window` tells which one is to come to the
     /// front, or null. If nobody can be asked on this machine, documents open twice, and nothing
@@ -24,12 +21,6 @@ class OneWindow : public QObject {
     /// True if it was open and its window has come to the front. Returns at the latest
     /// after two seconds.
     static bool bringToFront(const std::filesystem::path& opened);
-
-  private:
-    void comeToFront();
-
-    QLocalServer* m_server;
-    std::function<QWidget*()> m_window;
 };
 
 } // namespace zeugnis

@@ -48,11 +48,12 @@ bool mayOnlyRead(QWidget* owner, const std::filesystem::path& folder) {
 
 TakenClass takeClass(const std::filesystem::path& folder, QWidget* owner) {
     TakenClass taken{folder, nullptr};
-    taken.elsewhere = OneWindow::bringToFront(folder);
-    if (taken.elsewhere)
-        return taken;
     auto lock = std::make_unique<FolderLock>(folder, safety::thisProgram(safety::now()));
     const FolderLock::Answer answer = lock->take();
+    taken.elsewhere =
+        answer.outcome != FolderLock::Outcome::Ours && OneWindow::bringToFront(folder);
+    if (taken.elsewhere)
+        return taken;
     if (owner != nullptr && answer.outcome == FolderLock::Outcome::Unknown &&
         !mayOnlyRead(owner, folder))
         return taken;
