@@ -80,7 +80,6 @@ QWidget* StartView::sidePanel() {
     layout->addLayout(teacher);
     layout->addStretch();
     QLabel* owner = bind().label(m_start.Label6);
-    owner->setFont(theme::font(theme::Size::Small));
     layout->addWidget(owner);
     return panel;
 }
@@ -177,7 +176,6 @@ QWidget* StartView::works() {
 QBoxLayout* StartView::helpRow() {
     auto* row = new QHBoxLayout;
     QLabel* mark = bind().label(m_start.Label3);
-    mark->setFont(theme::font(theme::Size::Small));
     row->addWidget(mark, 1);
     row->addSpacing(16);
     auto* caption = new QLabel(tr("Hilfe:"), this);
