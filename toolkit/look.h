@@ -31,9 +31,9 @@ const Colours& colours();
 /// The fonts that lie beside the program, where a package brings its own. `apply` does it too.
 void loadDeliveredFonts();
 
-/// Style, palette, font, icon and German standard texts for the whole application. `ownStyleSheet`
-/// comes behind the rules that both programs share. Where `system` is a palette of high contrast or
-/// a dark one, the colours are its own.
+/// Style, palette, font and German standard texts for the whole application, and its icon, which
+/// comes behind the first picture. `ownStyleSheet` comes behind the rules that both programs share.
+/// Where `system` is a palette of high contrast or a dark one, the colours are its own.
 void apply(QApplication& application, const QString& ownStyleSheet, const QPalette& system);
 
 } // namespace zeugnis::look
