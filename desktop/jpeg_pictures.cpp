@@ -2,6 +2,7 @@
 
 #include "toolkit/qt_text.h"
 
+#include <QGuiApplication>
 #include <QImageReader>
 #include <QPixmap>
 #include <QPixmapCache>
@@ -10,8 +11,8 @@ namespace zeugnis {
 namespace fs = std::filesystem;
 namespace {
 
-// Twice what any of them shows.
-constexpr QSize Largest(640, 640);
+// What the largest of them shows.
+constexpr QSize LargestShown(264, 264);
 
 // Asked for its format, and not told: then Qt loads what reads JPEG alone, and not all it has.
 QImage decoded(const fs::path& file) {
@@ -19,8 +20,9 @@ QImage decoded(const fs::path& file) {
     if (reader.format() != "jpeg")
         return {};
     const QSize size = reader.size();
-    if (size.width() > Largest.width() || size.height() > Largest.height())
-        reader.setScaledSize(size.scaled(Largest, Qt::KeepAspectRatio));
+    const QSize largest = LargestShown * qApp->devicePixelRatio();
+    if (size.width() > largest.width() || size.height() > largest.height())
+        reader.setScaledSize(size.scaled(largest, Qt::KeepAspectRatio));
     return reader.read();
 }
 

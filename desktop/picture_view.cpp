@@ -14,6 +14,7 @@ PictureView::PictureView(QSize preferred, QWidget* parent)
 
 void PictureView::setPixmap(const QPixmap& pixmap) {
     m_pixmap = pixmap;
+    m_fitted = {};
     update();
 }
 
@@ -33,7 +34,9 @@ void PictureView::paintEvent(QPaintEvent*) {
         rounded.addRoundedRect(place, 8, 8);
         painter.setClipPath(rounded);
     }
-    painter.drawPixmap(place, m_pixmap);
+    if (const QSize pixels = shown * devicePixelRatioF(); m_fitted.size() != pixels)
+        m_fitted = m_pixmap.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.drawPixmap(place, m_fitted);
 }
 
 } // namespace zeugnis

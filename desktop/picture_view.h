@@ -23,6 +23,7 @@ class PictureView : public QWidget {
 
   private:
     QPixmap m_pixmap;
+    QPixmap m_fitted; // as large as it was last shown
     QSize m_preferred;
     bool m_isSign = false;
 };
