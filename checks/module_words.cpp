@@ -2,7 +2,9 @@
 
 #include "checks/words.h"
 #include "files/file_catalogue.h"
+#include "files/insertion_files.h"
 #include "platform/code_page.h"
+#include "platform/record_reader.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
@@ -126,6 +128,21 @@ Bausteinwoerter BausteinwoerterLesen(Arbeitsverzeichnis& verzeichnis) {
             if (Text beide = ersteWorte(Text(anfang).append(u" ").append(zelle)); !beide.empty())
                 alle.Satzanfaenge.push_back(std::move(beide));
     return alle;
+}
+
+std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis) {
+    const Ordnerwechsel in(verzeichnis, dateien::Daten);
+    if (!hasFile(verzeichnis, dateien::Platzhalter))
+        return {};
+    std::vector<Text> marken;
+    RecordReader reader(verzeichnis, dateien::Platzhalter);
+    while (!reader.atEnd()) {
+        reader.skip(1);
+        if (const Platzhaltersatz satz = PlatzhaltersatzLesen(reader);
+            satz.Platzhalter.starts_with(u'<'))
+            marken.push_back(satz.Platzhalter);
+    }
+    return marken;
 }
 
 } // namespace zeugnis

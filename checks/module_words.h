@@ -17,4 +17,7 @@ struct Bausteinwoerter {
 /// Reads the module files that are there, from the program folder. Fails as readWholeFile does.
 Bausteinwoerter BausteinwoerterLesen(Arbeitsverzeichnis& verzeichnis);
 
+/// The marks of Platzhalter.txt; none if there is no such file. Fails as the record reader does.
+std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis);
+
 } // namespace zeugnis

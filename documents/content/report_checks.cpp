@@ -1,11 +1,9 @@
 #include "documents/content/report_checks.h"
 
+#include "checks/other_names.h"
 #include "documents/content/report_frame.h"
 #include "documents/content/report_text_checks.h"
 #include "documents/content/wording.h"
-#include "files/insertion_files.h"
-#include "platform/record_reader.h"
-#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <array>
@@ -44,35 +42,6 @@ struct Pruefling {
 };
 
 using Befunde = std::vector<Befund>;
-
-bool istBuchstabe(char16_t zeichen) {
-    return (zeichen >= u'a' && zeichen <= u'z') || (zeichen >= u'A' && zeichen <= u'Z') ||
-           (zeichen >= u'0' && zeichen <= u'9') || zeichen == u'-' ||
-           (zeichen >= u'À' && zeichen <= u'ž');
-}
-
-// Where the word stands, with no letter to its left or right.
-size_t wortstelle(TextView text, TextView wort, size_t ab) {
-    for (size_t i = text.find(wort, ab); i != TextView::npos; i = text.find(wort, i + 1)) {
-        const size_t ende = i + wort.size();
-        if ((i == 0 || !istBuchstabe(text[i - 1])) &&
-            (ende == text.size() || !istBuchstabe(text[ende])))
-            return i;
-    }
-    return TextView::npos;
-}
-
-// The text without the child's own name, so that "Anna" is not found in "Anna Sophie".
-Text ohneEigenenNamen(const Text& text, const Schueler& kind) {
-    Text rest = text;
-    for (const Text& name : {kind.Vorname, kind.Vorname + u"s", kind.Nachname}) {
-        if (trimmed(name).empty() || name == u"s")
-            continue;
-        for (size_t i = wortstelle(rest, name, 0); i != Text::npos; i = wortstelle(rest, name, i))
-            rest.replace(i, name.size(), u"#");
-    }
-    return rest;
-}
 
 // A run of exactly two: three full stops are meant.
 bool hatDoppelpunkt(TextView text) {
@@ -137,14 +106,7 @@ Text luecke(const Pruefling& /*pruefling*/, const Text& text) {
 }
 
 Text fremderName(const Pruefling& pruefling, const Text& text) {
-    const Text rest = ohneEigenenNamen(text, pruefling.kind(pruefling.Platz));
-    std::vector<Text> namen;
-    for (int platz = 0; platz < pruefling.anzahl(); ++platz) {
-        const Text name = trimmed(pruefling.kind(platz).Vorname);
-        const bool gefunden = !name.empty() && wortstelle(rest, name, 0) != Text::npos;
-        if (gefunden && std::find(namen.begin(), namen.end(), name) == namen.end())
-            namen.push_back(name);
-    }
+    const std::vector<Text> namen = FremdeVornamen(text, pruefling.Stamm.Liste, pruefling.Platz);
     return namen.empty()
                ? Text()
                : u"Im Text steht der Name eines anderen Kindes: " + enumerated(namen) + u".";
@@ -415,21 +377,6 @@ std::vector<Befund> AbschnittPruefen(const Stammdaten& stamm, const Pruefmittel&
     zwillingeMelden(pruefling, text.Ueberschrift, text.Zwillinge, befunde);
     vermerken(befunde, texte);
     return befunde;
-}
-
-std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis) {
-    const Ordnerwechsel in(verzeichnis, dateien::Daten);
-    if (!hasFile(verzeichnis, dateien::Platzhalter))
-        return {};
-    std::vector<Text> marken;
-    RecordReader reader(verzeichnis, dateien::Platzhalter);
-    while (!reader.atEnd()) {
-        reader.skip(1);
-        if (const Platzhaltersatz satz = PlatzhaltersatzLesen(reader);
-            satz.Platzhalter.starts_with(u'<'))
-            marken.push_back(satz.Platzhalter);
-    }
-    return marken;
 }
 
 } // namespace zeugnis::dokumente

@@ -54,7 +54,4 @@ struct Einzeltext {
 std::vector<Befund> AbschnittPruefen(const Stammdaten& stamm, const Pruefmittel& mittel,
                                      const Einzeltext& text);
 
-/// The marks of Platzhalter.txt; none if there is no such file. Fails as the record reader does.
-std::vector<Text> PlatzhalterLesen(Arbeitsverzeichnis& verzeichnis);
-
 } // namespace zeugnis::dokumente
