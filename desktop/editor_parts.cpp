@@ -32,9 +32,7 @@ QBoxLayout* loading(Binder& binder, const ControlArray<Button>& buttons) {
     auto* row = new QHBoxLayout;
     row->setSpacing(10);
     row->addWidget(binder.button(buttons(0), u'S'));
-    TintedButton* current = binder.button(buttons(1), u'A');
-    row->addWidget(current);
-    current->setFocus();
+    row->addWidget(binder.button(buttons(1), u'A'));
     return row;
 }
 

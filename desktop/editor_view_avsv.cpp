@@ -68,6 +68,7 @@ EditorViewAVSV::EditorViewAVSV(GSAVSVAenderung& screen, WindowHost& host, QWidge
         .widgetOf(m_editor.Command6)
         ->setToolTip(tr("Fragt, ob gespeichert werden soll. Die sichtbare Kategorie wird dabei nur "
                         "mit der Taste daneben ganz gespeichert."));
+    bind().widgetOf(m_editor.Command1(1))->setFocus();
     warnBeforeClosing(editorparts::lostByClosing());
     bind().placeOfTexts([this] {
         return std::vector{static_cast<int>(m_editor.Bereich), m_editor.KategorieAV,

@@ -2,6 +2,7 @@
 #include "tests/desktop/every_window.h"
 
 #include <QAccessible>
+#include <QLabel>
 
 #include <algorithm>
 #include <set>
@@ -58,13 +59,16 @@ void expectNoNoise(Node& window) {
     });
 }
 
-// Space in a window that has just come up, or changed, must not open the help.
+// Space in a window that has just come up, or changed, must open neither the help nor what lies
+// hidden behind a heading, and not lead out.
 void expectKeyboardAtWork(OpenWindow& open) {
     const QWidget* focus = open.window().focusWidget();
     ASSERT_NE(focus, nullptr);
     EXPECT_TRUE(focus->isEnabled() && focus->isVisible());
     const auto* button = qobject_cast<const TintedButton*>(focus);
     EXPECT_FALSE(button != nullptr && button->showsSign()) << focus->accessibleName().toStdString();
+    EXPECT_EQ(qobject_cast<const QLabel*>(focus), nullptr) << focus->accessibleName().toStdString();
+    EXPECT_FALSE(button != nullptr && QString(button->text()).remove(u'&') == u"Beenden");
 }
 
 Node& told(OpenWindow& open, TextView name) {
