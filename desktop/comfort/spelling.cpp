@@ -114,7 +114,9 @@ void addSpelling(ScreenWindow& window, const Screen& screen, WindowHost& host) {
         Spelling& spelling = Spelling::of(host);
         CheckThread::of(host).readAnew(); // the master data may have changed
         for (TextEditor* editor : window.findChildren<TextEditor*>())
-            new SpellingMarks(*editor, spelling, watched.purpose);
+            // What is read like a label is the program's own word.
+            if (!editor->property("paper").toBool())
+                new SpellingMarks(*editor, spelling, watched.purpose);
     }
 }
 

@@ -1,4 +1,5 @@
 #include "behaviour/avsv_editor.h"
+#include "checks/hunspell_spelling.h"
 #include "common/screen_names.h"
 #include "controls/user_actions.h"
 #include "desktop/text_editor.h"
@@ -103,6 +104,30 @@ TEST_F(EditorViewsTest, TheTitleTakesADoubleClickWithTheMouse) {
             label != nullptr && label->isVisible() && label->text().startsWith(u"Eingabefenster"))
             QTest::mouseDClick(label, Qt::LeftButton);
     EXPECT_EQ(machine.dialogs.shown.back().tasten, Tasten::JaNeinAbbrechen);
+}
+
+TEST_F(EditorViewsTest, ModulesAreCheckedForSpellingButNotWhatTheProgramSays) {
+    if (!DeutscheRechtschreibung())
+        GTEST_SKIP() << "no German dictionary";
+    openEditor(5);
+    auto& editor = screen<GSAenderung34>(bildschirme::GSAenderung34);
+    click(editor.Command1(1));
+    click(editor.Command2(0));
+    std::vector<const TextEditor*> said;
+    TextEditor* module = nullptr;
+    for (QWidget* one : QApplication::allWidgets())
+        if (auto* box = qobject_cast<TextEditor*>(one); box != nullptr && box->isVisible()) {
+            if (box->property("paper").toBool())
+                said.push_back(box);
+            else if (module == nullptr && !box->isReadOnly())
+                module = box;
+        }
+    ASSERT_TRUE(module != nullptr && !said.empty());
+    module->setFocus();
+    QTest::keyClicks(module, QStringLiteral("arbeited und "));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !module->extraSelections().empty(); }, 10'000));
+    for (const TextEditor* box : said)
+        EXPECT_TRUE(box->extraSelections().empty()) << box->toPlainText().toStdString();
 }
 
 // A click on the head of the list would end the program.
