@@ -66,9 +66,14 @@ void addEntryComfort(ScreenWindow& window, Screen& screen, WindowHost& host) {
         return;
     }
     last->setSpacing(10);
-    qobject_cast<QBoxLayout*>(window.layout())->addLayout(last);
-    if (!entry)
-        return;
+    auto* layout = qobject_cast<QBoxLayout*>(window.layout());
+    layout->addLayout(last);
+    if (!entry) {
+        // Empty as long as all is as it was, so it had better look like the margin.
+        QMargins margins = layout->contentsMargins();
+        margins.setBottom(4);
+        return layout->setContentsMargins(margins);
+    }
     last->addWidget((new ChoiceKeeper(window, host, *entry))->link());
     last->addWidget(lastTermButton(window, host, *entry));
     auto* rail = new ClassRail(window, host, *entry);
