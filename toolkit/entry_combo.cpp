@@ -8,6 +8,8 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace zeugnis {
 namespace {
 
@@ -34,9 +36,26 @@ QString EntryCombo::shownText() const {
 QString EntryCombo::elidedText() const {
     QStyleOptionComboBox option;
     initStyleOption(&option);
+    return fontMetrics().elidedText(shownText(), Qt::ElideRight, room(option));
+}
+
+// The style counts whole pixels, and none for what it leaves free on both sides of the text.
+QSize EntryCombo::wholeIn(QSize hint) const {
+    if (sizeAdjustPolicy() == AdjustToMinimumContentsLengthWithIcon)
+        return hint;
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.rect = QRect({}, hint);
+    int longest = 0;
+    for (int i = 0; i < count(); ++i)
+        longest = std::max(longest, fontMetrics().horizontalAdvance(itemText(i)) + 1);
+    return hint + QSize(std::max(0, longest - room(option)), 0);
+}
+
+int EntryCombo::room(const QStyleOptionComboBox& option) const {
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    return fontMetrics().elidedText(shownText(), Qt::ElideRight, field.width() - 2);
+    return field.width() - 2;
 }
 
 void EntryCombo::paintEvent(QPaintEvent* /*event*/) {

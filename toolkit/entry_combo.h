@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+class QStyleOptionComboBox;
+
 namespace zeugnis {
 
 /// A list to open and pick from. A name that does not fit ends in an ellipsis, and the tool tip
@@ -14,6 +16,10 @@ class EntryCombo : public QComboBox {
     using QComboBox::QComboBox;
 
     void showPopup() override;
+    [[nodiscard]] QSize sizeHint() const override { return wholeIn(QComboBox::sizeHint()); }
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        return wholeIn(QComboBox::minimumSizeHint());
+    }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -22,6 +28,9 @@ class EntryCombo : public QComboBox {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    [[nodiscard]] QSize wholeIn(QSize hint) const;
+    /// For the text, in a box of this shape.
+    [[nodiscard]] int room(const QStyleOptionComboBox& option) const;
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] QString elidedText() const;
 };

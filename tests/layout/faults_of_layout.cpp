@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollArea>
+#include <QStyleOptionComboBox>
 #include <QTableView>
 
 namespace zeugnis::test {
@@ -87,6 +88,19 @@ bool isWhole(const TextEditor& editor) {
     return editor.viewport()->height() >= 3 * editor.fontMetrics().lineSpacing() - 2;
 }
 
+// A list of names cuts a long one by itself and tells it by its tool tip.
+bool isWhole(const QComboBox& list) {
+    QStyleOptionComboBox option;
+    option.initFrom(&list);
+    const QRect field = list.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                     QStyle::SC_ComboBoxEditField, &list);
+    const QString text = list.currentText();
+    const bool mayCut = list.sizeAdjustPolicy() == QComboBox::AdjustToMinimumContentsLengthWithIcon;
+    return list.height() >= list.fontMetrics().height() + 2 &&
+           (mayCut ||
+            list.fontMetrics().elidedText(text, Qt::ElideRight, field.width() - 2) == text);
+}
+
 bool isWhole(const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return isWhole(*label);
@@ -96,9 +110,8 @@ bool isWhole(const QWidget& widget) {
         return isWhole(*header);
     if (const auto* editor = qobject_cast<const TextEditor*>(&widget))
         return isWhole(*editor);
-    // It cuts a long entry by itself and tells it by its tool tip.
-    if (qobject_cast<const QComboBox*>(&widget) != nullptr)
-        return widget.height() >= widget.fontMetrics().height() + 2;
+    if (const auto* list = qobject_cast<const QComboBox*>(&widget))
+        return isWhole(*list);
     if (qobject_cast<const ChoiceRow*>(&widget) != nullptr ||
         qobject_cast<const TintedButton*>(&widget) != nullptr)
         return hasRoom(widget, {widget.minimumSizeHint().width(),
