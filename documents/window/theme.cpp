@@ -16,6 +16,7 @@ QPushButton:disabled { color: #9A9790; border-color: #C9C3B6; background: #F6F4E
 QPushButton#haupt { background: #1F6F6B; color: white; border-color: #1F6F6B; font-weight: 600; }
 QPushButton#haupt:hover { background: #2A807B; }
 QPushButton#haupt:focus { border: 2px solid #0C3B39; }
+QPushButton::menu-indicator { width: 9px; subcontrol-origin: padding; subcontrol-position: center right; right: 6px; }
 QPushButton#zoom { min-width: 34px; max-width: 34px; padding: 0; font-size: 15pt; }
 QListWidget::item:hover { background: #EAF3F2; }
 QTableView { background: white; alternate-background-color: #FAF8F3; gridline-color: #D8D3C8;
