@@ -1,15 +1,19 @@
 #include "toolkit/twin_window.h"
 
 #include "checks/twins.h"
+#include "toolkit/entry_combo.h"
 #include "toolkit/look.h"
 #include "toolkit/qt_text.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QTextEdit>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace zeugnis {
 namespace {
@@ -40,22 +44,23 @@ Text withSingleLineEnds(const Text& text) {
 
 } // namespace
 
-TwinWindow::TwinWindow(const QString& section, const Side& left, const Side& right, QWidget* owner)
-    : QDialog(owner) {
+TwinWindow::TwinWindow(QString section, Side left, std::vector<Side> others, QWidget* owner)
+    : QDialog(owner),
+      m_section(std::move(section)),
+      m_own(std::move(left)),
+      m_others(std::move(others)),
+      m_head(new QLabel(this)) {
     setWindowTitle(tr("Fast derselbe Text"));
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(18, 16, 18, 14);
     rows->setSpacing(10);
-    auto* head = new QLabel(tr("%1: Die Texte von %2 und %3 nebeneinander. Unterstrichen ist, "
-                               "worin sie sich unterscheiden.")
-                                .arg(section, left.name, right.name),
-                            this);
-    head->setWordWrap(true);
-    rows->addWidget(head);
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(12);
-    columns->addLayout(column(left, right.text), 1);
-    columns->addLayout(column(right, left.text), 1);
+    m_head->setWordWrap(true);
+    rows->addWidget(m_head);
+    auto* columns = new QGridLayout;
+    columns->setHorizontalSpacing(12);
+    columns->setVerticalSpacing(4);
+    addColumn(*columns, new QLabel(m_own.name, this), m_left);
+    addColumn(*columns, nameOfOthers(), m_right);
     rows->addLayout(columns, 1);
     auto* last = new QHBoxLayout;
     last->addStretch();
@@ -64,44 +69,67 @@ TwinWindow::TwinWindow(const QString& section, const Side& left, const Side& rig
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     last->addWidget(close);
     rows->addLayout(last);
+    compareWith(0);
     resize(QSize(760, 440).boundedTo(screen()->availableSize() - QSize(40, 60)));
 }
 
-QLayout* TwinWindow::column(const Side& side, const Text& other) {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(4);
-    auto* name = new QLabel(side.name, this);
+QWidget* TwinWindow::nameOfOthers() {
+    if (m_others.size() == 1)
+        return new QLabel(m_others.front().name, this);
+    auto* choice = new EntryCombo(this);
+    for (const Side& other : m_others)
+        choice->addItem(other.name);
+    choice->setAccessibleName(tr("Anderes Kind"));
+    connect(choice, &QComboBox::activated, this, &TwinWindow::compareWith);
+    return choice;
+}
+
+void TwinWindow::addColumn(QGridLayout& columns, QWidget* name, Column& column) {
     QFont bold = font();
     bold.setWeight(QFont::DemiBold);
     name->setFont(bold);
-    auto* shown = new QTextEdit(this);
-    shown->setReadOnly(true);
-    shown->setTabChangesFocus(true);
-    shown->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    column.shown = new QTextEdit(this);
+    column.shown->setReadOnly(true);
+    column.shown->setTabChangesFocus(true);
+    column.shown->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    column.way = new QPushButton(this);
+    column.way->setAutoDefault(false);
+    connect(column.way, &QPushButton::clicked, this, [this, &column] {
+        accept();
+        column.side->lead();
+    });
+    const int place = columns.count() == 0 ? 0 : 1;
+    columns.addWidget(name, 0, place);
+    columns.addWidget(column.shown, 1, place);
+    columns.addWidget(column.way, 2, place, Qt::AlignLeft);
+    columns.setColumnStretch(place, 1);
+}
+
+void TwinWindow::compareWith(int other) {
+    const Side& right = m_others.at(static_cast<size_t>(other));
+    m_head->setText(tr("%1: Die Texte von %2 und %3 nebeneinander. Unterstrichen ist, worin sie "
+                       "sich unterscheiden.")
+                        .arg(m_section, m_own.name, right.name));
+    fill(m_left, m_own, right);
+    fill(m_right, right, m_own);
+}
+
+void TwinWindow::fill(Column& column, const Side& side, const Side& other) {
+    column.side = &side;
     const Text text = withSingleLineEnds(side.text);
-    shown->setPlainText(qString(text));
+    column.shown->setPlainText(qString(text));
     const std::vector<Textstelle> places =
-        UnterschiedeZwischen(text, withSingleLineEnds(other)).first;
-    mark(*shown, places);
+        UnterschiedeZwischen(text, withSingleLineEnds(other.text)).first;
+    mark(*column.shown, places);
     QStringList words;
     for (const Textstelle& place : places)
         words << qString(text.substr(place.Anfang, place.Laenge));
-    shown->setAccessibleName(tr("Text von %1").arg(side.name));
-    shown->setAccessibleDescription(words.isEmpty()
-                                        ? tr("ohne Unterschied")
-                                        : tr("anders: %1").arg(words.join(QStringLiteral(", "))));
-    name->setBuddy(shown);
-    auto* way = new QPushButton(side.way, this);
-    way->setAccessibleName(tr("Zum Text von %1").arg(side.name));
-    way->setAutoDefault(false);
-    connect(way, &QPushButton::clicked, this, [this, lead = side.lead] {
-        accept();
-        lead();
-    });
-    column->addWidget(name);
-    column->addWidget(shown, 1);
-    column->addWidget(way, 0, Qt::AlignLeft);
-    return column;
+    column.shown->setAccessibleName(tr("Text von %1").arg(side.name));
+    column.shown->setAccessibleDescription(
+        words.isEmpty() ? tr("ohne Unterschied")
+                        : tr("anders: %1").arg(words.join(QStringLiteral(", "))));
+    column.way->setText(side.way);
+    column.way->setAccessibleName(tr("Zum Text von %1").arg(side.name));
 }
 
 } // namespace zeugnis

@@ -5,12 +5,17 @@
 #include <QDialog>
 
 #include <functional>
+#include <vector>
 
-class QLayout;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+class QTextEdit;
 
 namespace zeugnis {
 
-/// The same text, or nearly, of two children side by side; what differs is marked.
+/// The same text, or nearly, of two children side by side; what differs is marked. Where there are
+/// more such children, one of them is chosen on the right.
 class TwinWindow : public QDialog {
     Q_OBJECT
 
@@ -22,10 +27,27 @@ class TwinWindow : public QDialog {
         std::function<void()> lead; ///< the window closes with it
     };
 
-    TwinWindow(const QString& section, const Side& left, const Side& right, QWidget* owner);
+    /// `others`: at least one.
+    TwinWindow(QString section, Side left, std::vector<Side> others, QWidget* owner);
 
   private:
-    QLayout* column(const Side& side, const Text& other);
+    struct Column {
+        QTextEdit* shown = nullptr;
+        QPushButton* way = nullptr;
+        const Side* side = nullptr;
+    };
+
+    QWidget* nameOfOthers();
+    void addColumn(QGridLayout& columns, QWidget* name, Column& column);
+    void compareWith(int other);
+    static void fill(Column& column, const Side& side, const Side& other);
+
+    QString m_section;
+    Side m_own;
+    std::vector<Side> m_others;
+    QLabel* m_head;
+    Column m_left;
+    Column m_right;
 };
 
 } // namespace zeugnis

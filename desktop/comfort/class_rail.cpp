@@ -241,8 +241,8 @@ void ClassRail::showTwins(int page, int child, int other) {
                                 .way = tr("Zu diesem Text"),
                                 .lead = [this, one, page] { lead(one, page); }};
     };
-    TwinWindow twins(pageName(*m_entry.Seiten[static_cast<size_t>(page)]), side(child), side(other),
-                     &m_window);
+    TwinWindow twins(pageName(*m_entry.Seiten[static_cast<size_t>(page)]), side(child),
+                     {side(other)}, &m_window);
     twins.exec();
 }
 

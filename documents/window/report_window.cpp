@@ -142,9 +142,10 @@ void ReportWindow::showTwins(const Befund& befund) {
             };
             return one;
         };
-        TwinWindow(qString(befund.Abschnitt), side(befund.Platz), side(befund.Zwillinge.front()),
-                   this)
-            .exec();
+        std::vector<TwinWindow::Side> others;
+        for (const int platz : befund.Zwillinge)
+            others.push_back(side(platz));
+        TwinWindow(qString(befund.Abschnitt), side(befund.Platz), std::move(others), this).exec();
     } catch (const Laufzeitfehler& failure) {
         QMessageBox::warning(this, QStringLiteral("Hinweise"), qString(failure.sentence()));
     }
