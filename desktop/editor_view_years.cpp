@@ -14,8 +14,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <utility>
-
 #include <algorithm>
 
 namespace zeugnis {
@@ -73,14 +71,6 @@ void EditorViewYears::build(const Parts& parts, const std::vector<EditorPage>& p
                                       .Leave = {parts.Leave, u'B'}}));
     // Not before: a button that moves to another parent loses the keyboard.
     bind().widgetOf(parts.Load(1))->setFocus();
-    // Qt would go on from it to what does not rest while the pages still do.
-    bind().follow([this, &load = parts.Load(1), pages, rested = false]() mutable {
-        if (std::exchange(rested, !load.Enabled) || load.Enabled)
-            return;
-        for (const EditorPage& one : pages)
-            if (one.frame.Visible)
-                bind().widgetOf(one.button)->setFocus();
-    });
     warnBeforeClosing(editorparts::lostByClosing());
     wishSize({1220, 760});
 }

@@ -9,6 +9,7 @@
 
 #include <QCloseEvent>
 #include <QHideEvent>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -32,9 +33,12 @@ void ScreenWindow::wishSize(QSize size, Growth growth) {
 const WindowPlace* ScreenWindow::placed() const { return m_host.placed(m_name); }
 
 void ScreenWindow::refresh() {
-    const QWidget* before = focusWidget();
-    m_binder.refresh();
-    leaveHelp(before);
+    QWidget* before = focusWidget();
+    {
+        const QScopedValueRollback refreshing(m_refreshing, true);
+        m_binder.refresh();
+    }
+    passKeyboardOn(before);
     keepOnTop(m_screen->AlwaysOnTop);
     if (isVisible() != m_screen->shown()) {
         if (m_screen->shown() && !isPlaced())
@@ -51,18 +55,29 @@ void ScreenWindow::refresh() {
     }
 }
 
-// Where what had the keyboard rests now, Qt gives it to whatever comes next. That had better not be
-// a button that opens the help.
-void ScreenWindow::leaveHelp(const QWidget* before) {
+// To what comes next, now that all of the window is as it is to be. That had better not be a button
+// that opens the help.
+void ScreenWindow::passKeyboardOn(QWidget* before) {
     const auto isHelp = [](const QWidget* widget) {
         const auto* button = qobject_cast<const TintedButton*>(widget);
         return button != nullptr && button->showsSign();
     };
-    const QWidget* first = focusWidget();
-    if (first == before || !isHelp(first))
+    const auto works = [this](const QWidget* widget) {
+        return widget->isEnabled() && widget->isVisibleTo(this);
+    };
+    QWidget* now = focusWidget();
+    QWidget* from = now != nullptr ? now : before;
+    if (from == nullptr || (now != nullptr && works(now) && (now == before || !isHelp(now))))
         return;
-    while (isHelp(focusWidget()) && focusNextChild() && focusWidget() != first) {
-    }
+    for (QWidget* next = from->nextInFocusChain(); next != from; next = next->nextInFocusChain())
+        if ((next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && next != this && works(next) &&
+            !isHelp(next))
+            return next->setFocus(Qt::TabFocusReason);
+}
+
+// What comes next may still rest while the controls are taken over one by one.
+bool ScreenWindow::focusNextPrevChild(bool next) {
+    return !m_refreshing && QWidget::focusNextPrevChild(next);
 }
 
 // Qt hides a window whose flags change.

@@ -46,6 +46,7 @@ class ScreenWindow : public QWidget {
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     /// Puts the window where it comes up, as long as it has no place of its own.
     virtual void place();
     [[nodiscard]] virtual bool isPlaced() const { return testAttribute(Qt::WA_Moved); }
@@ -65,7 +66,7 @@ class ScreenWindow : public QWidget {
 
   private:
     void keepOnTop(bool onTop);
-    void leaveHelp(const QWidget* before);
+    void passKeyboardOn(QWidget* before);
 
     Screen* m_screen;
     Text m_name;
@@ -76,6 +77,7 @@ class ScreenWindow : public QWidget {
     QString m_lostByClosing;
     bool m_tellsSaved = false;
     int m_raises = 0;
+    bool m_refreshing = false;
 };
 
 } // namespace zeugnis
