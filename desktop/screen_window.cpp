@@ -2,6 +2,7 @@
 
 #include "controls/program.h"
 #include "controls/user_actions.h"
+#include "desktop/above_parent.h"
 #include "desktop/dialog_box.h"
 #include "desktop/window_host.h"
 #include "toolkit/qt_text.h"
@@ -98,6 +99,13 @@ void ScreenWindow::place() {
         return;
     }
     windowplace::place(*this, m_wished, m_growth);
+}
+
+// Qt takes it back while it shows the window.
+void ScreenWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { standAboveParent(*this); }, Qt::QueuedConnection);
 }
 
 void ScreenWindow::hideEvent(QHideEvent* event) {
